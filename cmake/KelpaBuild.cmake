@@ -1,0 +1,88 @@
+# SPDX-License-Identifier: MIT
+# Settings every target shares, and the two kinds of target: plug-ins and tests.
+
+include(CTest)
+include(GNUInstallDirs)
+
+option(KELPA_WERROR "Treat compiler warnings as errors" OFF)
+set(KELPA_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# The build tree has the shape of the installed tree: everything lies in the folder of the program.
+set(KELPA_PROGRAM_DIR ${CMAKE_BINARY_DIR}/kelpastudio)
+set(KELPA_PLUGIN_DIR ${KELPA_PROGRAM_DIR}/plugins)
+set(KELPA_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/kelpastudio)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${KELPA_PROGRAM_DIR})
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${KELPA_PROGRAM_DIR})
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN")
+
+add_compile_definitions(
+    QT_DISABLE_DEPRECATED_BEFORE=0x060200
+    QT_MESSAGELOGCONTEXT
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_CAST_TO_ASCII
+    QT_NO_FOREACH)
+
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+    if(KELPA_WERROR)
+        add_compile_options(-Werror)
+    endif()
+    if(KELPA_SANITIZE)
+        add_compile_options(-fsanitize=${KELPA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+        add_link_options(-fsanitize=${KELPA_SANITIZE})
+    endif()
+endif()
+
+# kelpa_add_plugin(<name> SOURCES ... LIBRARIES ...): a plug-in that links the core, in the plug-in folder of
+# both trees. Its metadata is <name>.json.
+function(kelpa_add_plugin name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE core ${ARG_LIBRARIES})
+    kelpa_place_plugin(${name})
+endfunction()
+
+# Puts a library where the framework looks for plug-ins.
+function(kelpa_place_plugin name)
+    set_target_properties(${name} PROPERTIES
+        LIBRARY_OUTPUT_DIRECTORY ${KELPA_PLUGIN_DIR}
+        RUNTIME_OUTPUT_DIRECTORY ${KELPA_PLUGIN_DIR}
+        INSTALL_RPATH "$ORIGIN;$ORIGIN/..")
+    install(TARGETS ${name}
+        LIBRARY DESTINATION ${KELPA_INSTALL_DIR}/plugins
+        RUNTIME DESTINATION ${KELPA_INSTALL_DIR}/plugins)
+endfunction()
+
+# kelpa_add_test(<name> SOURCES ... LIBRARIES ... [RUN_SERIAL]): one QtTest program, run off screen in a
+# folder of its own that stands for the home, settings and temporary folders.
+function(kelpa_add_test name)
+    cmake_parse_arguments(ARG "RUN_SERIAL" "" "SOURCES;LIBRARIES" ${ARGN})
+    find_package(Qt6 REQUIRED COMPONENTS Test)
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBRARIES})
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests
+        BUILD_RPATH "${KELPA_PROGRAM_DIR};${KELPA_PLUGIN_DIR}"
+        BUILD_WITH_INSTALL_RPATH OFF)
+    set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
+    file(MAKE_DIRECTORY ${home}/run)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        RUN_SERIAL ${ARG_RUN_SERIAL}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_DATA_HOME=${home}/.local/share;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home}/run;LC_ALL=C.UTF-8")
+endfunction()

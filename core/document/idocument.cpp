@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "document/idocument.h"
+
+#include "irecentfilesmanager.h"
+#include "iui.h"
+
+#include <QFileInfo>
+#include <QUndoStack>
+
+namespace {
+const QString s_title = QStringLiteral("Kelpa Studio");
+}
+
+IDocument::IDocument() = default;
+
+IDocument::~IDocument()
+{
+    // Editors and managers are keyed by this pointer: they let go while it is still a document.
+    emit destroyed(this);
+}
+
+bool IDocument::isModified() const
+{
+    return (m_pUndoStack && !m_pUndoStack->isClean()) || isTempDocument();
+}
+
+void IDocument::cleanTempDir() { }
+
+bool IDocument::isTempDocument() const
+{
+    return m_bTempDocument;
+}
+
+bool IDocument::open()
+{
+    emit aboutToOpen();
+    return true;
+}
+
+bool IDocument::close()
+{
+    if (isModified()) {
+        const auto answer = IUi::question(nullptr, s_title,
+            tr("Save changes made to %1?").arg(QFileInfo(m_strFileName).completeBaseName()),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+        if (answer == QMessageBox::No) {
+            if (isTempDocument())
+                IRecentFilesManager::getInstance()->removeFile(m_strFileName);
+        } else if (answer != QMessageBox::Yes || !saveBeforeClose()) {
+            return false;
+        }
+    }
+    emit aboutToClose();
+    return true;
+}
+
+bool IDocument::saveBeforeClose()
+{
+    if (isTempDocument())
+        return saveTempBeforeClose();
+    if (save())
+        return true;
+    IUi::information(nullptr, s_title,
+        tr("Could not save project %1.").arg(QFileInfo(m_strFileName).completeBaseName()), QMessageBox::Ok,
+        QMessageBox::Ok);
+    return false;
+}
+
+bool IDocument::saveTempBeforeClose()
+{
+    const QString strOldName = m_strFileName;
+    if (!saveAs())
+        return false;
+    IRecentFilesManager::getInstance()->removeFile(strOldName);
+    IRecentFilesManager::getInstance()->addFile(m_strFileName);
+    return true;
+}
+
+bool IDocument::save(const QString &strFileName)
+{
+    Q_UNUSED(strFileName)
+    return true;
+}
+
+bool IDocument::save()
+{
+    return true;
+}
+
+bool IDocument::saveAs()
+{
+    return true;
+}
+
+bool IDocument::revert()
+{
+    return true;
+}
+
+void IDocument::submitCommand(QUndoCommand *pCommand)
+{
+    Q_UNUSED(pCommand)
+}
+
+bool IDocument::saveBackup()
+{
+    return false;
+}
+
+QUndoStack *IDocument::getUndoStack() const
+{
+    return m_pUndoStack;
+}
+
+void IDocument::setUndoStack(QUndoStack *pUndoStack)
+{
+    m_pUndoStack = pUndoStack;
+}

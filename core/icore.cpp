@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "icore.h"
+
+#include <extensionsystem/pluginmanager.h>
+
+#include <QCoreApplication>
+#include <QDir>
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+ICore *s_pInstance = nullptr;
+MainWindow *s_pMainWindow = nullptr;
+}
+
+ICore::ICore(MainWindow *pMainWindow)
+{
+    s_pInstance = this;
+    s_pMainWindow = pMainWindow;
+}
+
+ICore::~ICore()
+{
+    s_pInstance = nullptr;
+    s_pMainWindow = nullptr;
+    // Dies with this object a moment later; the order of clearing and connecting is relied on as it stands.
+    connect(PluginManager::instance(), SIGNAL(initializationDone()), this, SLOT(saveSettings()));
+}
+
+ICore *ICore::getInstance()
+{
+    return s_pInstance;
+}
+
+MainWindow *ICore::getMainWindow()
+{
+    return s_pMainWindow;
+}
+
+QSettings *ICore::settings(QSettings::Scope scope)
+{
+    Q_UNUSED(PluginManager::instance())
+    return scope == QSettings::UserScope ? PluginManager::settings() : PluginManager::globalSettings();
+}
+
+QString ICore::resourcePath()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath());
+}
+
+void ICore::saveSettings()
+{
+    emit s_pInstance->aboutToSaveSettings();
+    settings(QSettings::UserScope)->sync();
+    settings(QSettings::SystemScope)->sync();
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "irecentfilesmanager.h"
+
+#include "icore.h"
+
+#include <QLockFile>
+#include <QSettings>
+
+namespace {
+const QString s_key = QStringLiteral("Kelpa/RecentProjects");
+constexpr int s_lockWaitMs = 1000;
+}
+
+template class ISingleton<IRecentFilesManager>;
+
+void IRecentFilesManager::addFile(const QString &strPath)
+{
+    change([&](QStringList &files) {
+        files.removeAll(strPath);
+        files.prepend(strPath);
+        while (files.size() > m_nMaxCount)
+            files.removeLast();
+    });
+}
+
+void IRecentFilesManager::removeFile(const QString &strPath)
+{
+    change([&](QStringList &files) { files.removeOne(strPath); });
+}
+
+QStringList IRecentFilesManager::getRecentFiles()
+{
+    const QStringList files = ICore::settings(QSettings::UserScope)->value(s_key).toStringList();
+    m_nCount = static_cast<int>(qMin<qsizetype>(files.size(), m_nMaxCount));
+    return files.first(m_nCount);
+}
+
+// Other instances of the program may write the same store: under a lock, take their list over before
+// changing it. A lock that cannot be had only costs that protection.
+void IRecentFilesManager::change(const std::function<void(QStringList &)> &edit) const
+{
+    QSettings *pSettings = ICore::settings(QSettings::UserScope);
+    QLockFile lock(pSettings->fileName() + QStringLiteral(".recent.lock"));
+    lock.tryLock(s_lockWaitMs);
+    pSettings->sync();
+    QStringList files = pSettings->value(s_key).toStringList();
+    edit(files);
+    pSettings->setValue(s_key, files);
+    pSettings->sync();
+}

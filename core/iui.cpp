@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "iui.h"
+
+#include "displayscale.h"
+#include "icore.h"
+#include "mainwindow.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QLabel>
+#include <QScreen>
+
+#include <array>
+
+template class ISingleton<IUi>;
+
+namespace {
+
+constexpr std::array<const char *, 7> s_sizeSuffixes = {"", "_12", "_16", "_24", "_32", "_48", "_64"};
+
+QString imagePath(const QString &strName, int nMode, bool bDisabled, const QString &strFolder)
+{
+    const bool bKnown = nMode > 0 && nMode < static_cast<int>(s_sizeSuffixes.size());
+    const char *pDouble = DisplayScale::usesDoubleSizeImages(DisplayScale::logicalDpi()) ? "_2x" : "";
+    const QString strFile = QStringLiteral("%1%2%3%4.png")
+                                .arg(strName, QLatin1String(s_sizeSuffixes[bKnown ? nMode : 0]),
+                                    QLatin1String(bDisabled ? "_d" : ""), QLatin1String(pDouble));
+    return QDir(strFolder).absoluteFilePath(strFile);
+}
+
+// A word wider than the screen, such as a long path, gets places to break at.
+QString breakable(const QString &strText)
+{
+    constexpr int nLongestWord = 60;
+    QString strResult;
+    int nWord = 0;
+    for (const QChar c : strText) {
+        strResult += c;
+        nWord = c.isSpace() ? 0 : nWord + 1;
+        if (nWord >= nLongestWord && !c.isHighSurrogate()) {
+            strResult += QChar(0x200B);
+            nWord = 0;
+        }
+    }
+    return strResult;
+}
+
+void widenLabel(QLabel *pLabel)
+{
+    const int nCap = pLabel->screen() ? pLabel->screen()->availableSize().width() * 2 / 3 : 640;
+    if (pLabel->sizeHint().width() > nCap) {
+        pLabel->setText(breakable(pLabel->text()));
+        pLabel->setWordWrap(true);
+    }
+    pLabel->setMinimumWidth(qMin(pLabel->sizeHint().width(), nCap));
+}
+
+// At high scales the box would otherwise clip its own buttons and texts.
+void widenContents(QMessageBox *pBox)
+{
+    const auto buttons = pBox->buttons();
+    for (QAbstractButton *pButton : buttons) {
+        if (pButton->sizeHint().width() > pButton->minimumWidth())
+            pButton->setMinimumWidth(pButton->sizeHint().width());
+    }
+    const auto labels = pBox->findChildren<QLabel *>();
+    for (QLabel *pLabel : labels) {
+        if (!pLabel->text().isEmpty())
+            widenLabel(pLabel);
+    }
+}
+
+QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, const QString &strTitle,
+    const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+{
+    QWidget *pOwner = pParent ? pParent : ICore::getMainWindow();
+    QMessageBox box(pOwner);
+    box.setWindowTitle(strTitle);
+    box.setText(strText);
+    box.setStandardButtons(buttons);
+    box.setDefaultButton(defaultButton);
+    const int nSize = DisplayScale::proportional(DisplayScale::logicalDpi(pOwner), 32);
+    const QIcon icon = IUi::getIcon(strIcon, 0, QStringLiteral(":/designer/images/"));
+    box.setIconPixmap(icon.pixmap(QSize(nSize, nSize), 1.0));
+    widenContents(&box);
+    if (box.exec() == -1 || !box.clickedButton())
+        return QMessageBox::Cancel;
+    return box.standardButton(box.clickedButton());
+}
+
+} // namespace
+
+QIcon IUi::getIcon(const QString &strName, int nMode, const QString &strFolder)
+{
+    QIcon icon;
+    icon.addPixmap(getPixmap(strName, nMode, false, strFolder), QIcon::Normal, QIcon::Off);
+    icon.addPixmap(getPixmap(strName, nMode, true, strFolder), QIcon::Disabled, QIcon::Off);
+    return icon;
+}
+
+QPixmap IUi::getPixmap(const QString &strName, int nMode, bool bDisabled, const QString &strFolder)
+{
+    const QString strPath = imagePath(strName, nMode, bDisabled, strFolder);
+    QPixmap &pixmap = getInstance()->m_pixmaps[strPath];
+    if (pixmap.isNull())
+        pixmap.load(strPath);
+    return pixmap;
+}
+
+void IUi::clearIconCache()
+{
+    getInstance()->m_pixmaps.clear();
+}
+
+QMessageBox::StandardButton IUi::information(QWidget *pParent, const QString &strTitle,
+    const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+{
+    return runBox(pParent, QStringLiteral("information_32"), strTitle, strText, buttons, defaultButton);
+}
+
+QMessageBox::StandardButton IUi::question(QWidget *pParent, const QString &strTitle, const QString &strText,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+{
+    return runBox(pParent, QStringLiteral("question_32"), strTitle, strText, buttons, defaultButton);
+}
+
+QMessageBox::StandardButton IUi::warning(QWidget *pParent, const QString &strTitle, const QString &strText,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+{
+    return runBox(pParent, QStringLiteral("warning_32"), strTitle, strText, buttons, defaultButton);
+}

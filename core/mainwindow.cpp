@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow.h"
+
+#include "displayscale.h"
+#include "document/documentmanager.h"
+#include "document/editormanager.h"
+#include "document/idocument.h"
+#include "document/idocumentfactory.h"
+#include "document/ieditor.h"
+#include "icore.h"
+#include "ui/imainmdiarea.h"
+
+#include <extensionsystem/pluginmanager.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QDockWidget>
+#include <QMdiSubWindow>
+#include <QNetworkProxyFactory>
+#include <QPointer>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTimer>
+#include <QWebChannel>
+#include <QWebSocketServer>
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+const QString s_tempFolder = QStringLiteral("%1-%2").arg(QStringLiteral("ORVEN"), QStringLiteral("Kelpa"));
+
+// Removes the folder and all in it; the first failure stops the walk. A link goes as a link, wherever it
+// leads.
+bool removeRecursively(const QString &strPath)
+{
+    const QDir dir(strPath);
+    if (!dir.exists())
+        return false;
+    const auto entries = dir.entryInfoList(
+        QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::DirsFirst);
+    for (const QFileInfo &entry : entries) {
+        const bool bFolder = entry.isDir() && !entry.isSymLink();
+        const QString strEntry = entry.absoluteFilePath();
+        if (!(bFolder ? removeRecursively(strEntry) : QFile::remove(strEntry)))
+            return false;
+    }
+    return dir.rmdir(dir.absolutePath());
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *pParent)
+    : KPStyledFrame<QMainWindow>(pParent, Qt::FramelessWindowHint)
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    m_nDisplayScale = static_cast<int>(devicePixelRatioF() * 100);
+    setAcceptDrops(true);
+    QNetworkProxyFactory::setUseSystemConfiguration(true);
+
+    startServer();
+    statusBar()->setSizeGripEnabled(false);
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
+    setWindowIcon(QIcon(QStringLiteral(":/app/images/app_icon.ico")));
+
+    createManagers();
+    createMdiArea();
+    m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
+}
+
+void MainWindow::startServer()
+{
+    const QString strName = QStringLiteral("KPServer");
+    m_pServer = new QWebSocketServer(strName, QWebSocketServer::NonSecureMode, this);
+    m_pServer->setObjectName(strName);
+    if (!m_pServer->listen(QHostAddress::LocalHost, 0))
+        qFatal("Failed to open web socket server.");
+    m_pChannel = new QWebChannel(nullptr);
+}
+
+void MainWindow::createManagers()
+{
+    m_pCore = new ICore(this);
+    m_pDocumentManager = new DocumentManager;
+    m_pEditorManager = new EditorManager;
+    DocumentManager::setSettings(PluginManager::settings());
+    DocumentManager::readSettings();
+}
+
+void MainWindow::createMdiArea()
+{
+    m_pMdiArea = new IMainMdiArea(this);
+    m_pMdiArea->setViewMode(QMdiArea::TabbedView);
+    m_pMdiArea->setDocumentMode(true);
+    m_pMdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_pMdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_pMdiArea->setWindowIcon(QIcon(QStringLiteral(":/app/images/project_icon.ico")));
+    m_pMdiArea->setFocusPolicy(Qt::ClickFocus);
+    setContentsMargins(1, 1, 1, 1);
+    connect(m_pMdiArea, &QMdiArea::subWindowActivated, this, &MainWindow::updateActivatedMdiSubFilePath);
+    setCentralWidget(m_pMdiArea);
+
+    if (auto *pTabBar = m_pMdiArea->findChild<QTabBar *>()) {
+        pTabBar->setExpanding(false);
+        pTabBar->setTabsClosable(true);
+        QFont font = pTabBar->font();
+        font.setBold(true);
+        pTabBar->setFont(font);
+        pTabBar->setDrawBase(false);
+    }
+}
+
+// The managers and the core go first: what the window's children do in their destructors finds none of them.
+MainWindow::~MainWindow()
+{
+    delete m_pDocumentManager;
+    m_pDocumentManager = nullptr;
+    delete m_pEditorManager;
+    m_pEditorManager = nullptr;
+    delete m_pCore;
+    m_pCore = nullptr;
+
+    disconnect(this, &MainWindow::dpiChanged, this, nullptr);
+    const auto objects = m_pChannel->registeredObjects();
+    for (QObject *pObject : objects)
+        m_pChannel->deregisterObject(pObject);
+    m_pServer->close();
+    delete m_pChannel;
+    m_pChannel = nullptr;
+    delete m_pServer;
+    m_pServer = nullptr;
+    delete m_pMdiArea;
+    m_pMdiArea = nullptr;
+}
+
+bool MainWindow::init(QString *pErrorString)
+{
+    Q_UNUSED(pErrorString)
+    return true;
+}
+
+void MainWindow::extensionsInitialized()
+{
+    show();
+    if (IsFirstRun())
+        setWindowState(Qt::WindowMaximized);
+    QTimer::singleShot(0, this, &MainWindow::openFilesPassedAsArguments);
+    emit extsInitialized();
+}
+
+void MainWindow::aboutToShutdown() { }
+
+bool MainWindow::IsFirstRun()
+{
+    const QSettings *pSettings = PluginManager::settings();
+    return !pSettings
+        || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
+}
+
+QString MainWindow::getDefaultTempPath() const
+{
+    QDir temp = QDir::temp();
+    if (!temp.exists(s_tempFolder))
+        temp.mkdir(s_tempFolder);
+    return temp.absoluteFilePath(s_tempFolder);
+}
+
+void MainWindow::removeDefaultTempDir()
+{
+    if (QDir::temp().exists(s_tempFolder))
+        removeRecursively(QDir::temp().absoluteFilePath(s_tempFolder));
+}
+
+void MainWindow::forceQuit()
+{
+    const auto editors = EditorManager::getEditors();
+    const QList<QPointer<IEditor>> watched(editors.cbegin(), editors.cend());
+    for (const QPointer<IEditor> &pEditor : watched) {
+        if (const QPointer<IDocument> pDoc = pEditor ? pEditor->getDocument() : nullptr) {
+            pDoc->close();
+            if (pDoc)
+                emit pDoc->requestClosing(false);
+        }
+    }
+    // QCoreApplication::quit() would first ask the windows, and so the user.
+    QCoreApplication::exit(0);
+}
+
+IOptionsDlg *MainWindow::getOptionsDialog()
+{
+    if (!m_pOptionsDlg) {
+        if (IDocumentFactory *pFactory = selectDocumentFactory())
+            m_pOptionsDlg = pFactory->createOptionsDialog();
+    }
+    return m_pOptionsDlg;
+}
+
+void MainWindow::setWindowFilePath(const QString &strFileName)
+{
+    emit updateWindowFilePath(strFileName);
+}
+
+void MainWindow::setWindowModified(bool bModified)
+{
+    emit updateModified(bModified);
+}
+
+void MainWindow::updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow)
+{
+    if (!pSubWindow)
+        return;
+    emit updateModified(pSubWindow->isWindowModified());
+    emit updateWindowFilePath(pSubWindow->windowFilePath());
+}
+
+void MainWindow::setWelcomeWidget(QWidget *pWidget)
+{
+    m_pMdiArea->setWelcomeWidget(pWidget);
+    if (pWidget)
+        pWidget->installEventFilter(this);
+}
+
+// isHidden() and not isVisible(): before the window is shown nothing is visible, and the page would flash
+// although a project was given on the command line.
+void MainWindow::setVisibleWelcomeWidget(bool bVisible)
+{
+    QWidget *pWidget = m_pMdiArea->getWelcomeWidget();
+    if (pWidget && pWidget->isHidden() == bVisible)
+        pWidget->setVisible(bVisible);
+    if (bVisible)
+        emit m_pMdiArea->resetRecentFiles();
+}
+
+QList<QDockWidget *> MainWindow::getListDockWidgetsByArea(Qt::DockWidgetArea area) const
+{
+    QList<QDockWidget *> docks = findChildren<QDockWidget *>();
+    docks.removeIf([&](QDockWidget *pDock) { return dockWidgetArea(pDock) != area; });
+    return docks;
+}
+
+void MainWindow::raiseUp()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+// Stops at the first document that refuses. Closing one may delete others, so they are watched.
+bool MainWindow::closeDocuments(const QList<QPointer<IDocument>> &documents)
+{
+    for (const QPointer<IDocument> &pDoc : documents) {
+        if (!pDoc)
+            continue;
+        if (!pDoc->close())
+            return false;
+        if (pDoc)
+            emit pDoc->requestClosing(false);
+    }
+    return true;
+}
+
+void MainWindow::closeEvent(QCloseEvent *pEvent)
+{
+    ICore::saveSettings();
+    QList<QPointer<IDocument>> shown;
+    for (const IEditor *pEditor : EditorManager::getEditors())
+        shown.prepend(pEditor->getDocument());
+    if (!closeDocuments(shown)) {
+        pEvent->ignore();
+        return;
+    }
+    const auto &rest = DocumentManager::getDocuments();
+    if (!closeDocuments({rest.cbegin(), rest.cend()})) {
+        pEvent->ignore();
+        return;
+    }
+    removeDefaultTempDir();
+    pEvent->accept();
+}

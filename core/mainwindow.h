@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+#include <ui/kpstyledframe.h>
+
+#include <QMainWindow>
+#include <QPointer>
+
+class DocumentManager;
+class EditorManager;
+class ICore;
+class ICreateDocumentDlg;
+class IDocument;
+class IDocumentFactory;
+class IMainMdiArea;
+class IOptionsDlg;
+class QMdiSubWindow;
+class QWebChannel;
+class QWebSocketServer;
+
+/// The program's one top-level window and owner of what the core builds: server and channel for HTML pages,
+/// the managers, the area of documents. The plug-in object owns it. GUI thread only.
+class CORE_EXPORT MainWindow : public KPStyledFrame<QMainWindow>
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(MainWindow)
+
+public:
+    explicit MainWindow(QWidget *pParent);
+    ~MainWindow() override;
+
+    /// Always true; `pErrorString` stays as it is.
+    bool init(QString *pErrorString);
+
+    /// Shows the window, maximised on the first run, and opens the projects on the command line in the next
+    /// turn of the event loop.
+    void extensionsInitialized();
+    void aboutToShutdown();
+
+    /// Whether the user's store has no group "Designer", in any case; also without a store.
+    [[nodiscard]] static bool IsFirstRun();
+
+    /// Folder for working files of documents. It is made if it does not exist; that it could be is not
+    /// checked.
+    [[nodiscard]] QString getDefaultTempPath() const;
+
+    /// Removes that folder with all in it. The first entry that cannot be removed stops it.
+    void removeDefaultTempDir();
+
+    /// Closes every document without regard to the answers, and ends the program.
+    void forceQuit();
+
+    [[nodiscard]] QWebSocketServer *getServer() const { return m_pServer; }
+    [[nodiscard]] QWebChannel *getChannel() const { return m_pChannel; }
+    [[nodiscard]] IMainMdiArea *getMdiArea() const { return m_pMdiArea; }
+
+    /// The preferences dialog, made by the first factory on first use; null without a factory.
+    [[nodiscard]] IOptionsDlg *getOptionsDialog();
+
+    /// These two only emit updateWindowFilePath() and updateModified(): the title bar shows them.
+    void setWindowFilePath(const QString &strFileName);
+    void setWindowModified(bool bModified);
+
+    /// The page to show while no editor is open; not taken over.
+    void setWelcomeWidget(QWidget *pWidget);
+
+    [[nodiscard]] QList<QDockWidget *> getListDockWidgetsByArea(Qt::DockWidgetArea area) const;
+
+signals:
+    void updateWindowFilePath(const QString &fileName);
+    void updateModified(bool isModified);
+    void dpiChanged(int nDPI);
+
+    /// Every plug-in is there and the window is shown.
+    void extsInitialized();
+
+public slots:
+    /// Also tells the page to fetch the recent projects again, each time it is to be shown.
+    void setVisibleWelcomeWidget(bool bVisible);
+
+    /// Activates the editor that shows the file already, or lets the first factory for its suffix open it.
+    /// False: nothing was opened and the user was told why.
+    bool loadFile(const QString &strFileName);
+
+    /// Makes an editor for a document that is open already and takes it into every registry. False: no
+    /// factory knows its suffix, and the document stays with the caller.
+    bool loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile);
+
+    /// Brings the window to the front; a minimised one is restored.
+    void raiseUp();
+    void openFilesPassedAsArguments();
+    void fileNew();
+    void fileOpen();
+    void fileSaveAs();
+    void fileClose();
+    void fileSave();
+    void fileExit();
+    void updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow);
+
+    /// The sender, a document, leaves every registry and is deleted, and its editor with it.
+    void onDocumentRequestClosing(bool bDeleteLater);
+
+protected:
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
+    void closeEvent(QCloseEvent *pEvent) override;
+
+private:
+    void startServer();
+    void createManagers();
+    void createMdiArea();
+    bool closeDocuments(const QList<QPointer<IDocument>> &documents);
+    [[nodiscard]] static IDocumentFactory *selectDocumentFactory();
+    bool createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICreateDocumentDlg *pDialog);
+    void attachNew(IDocumentFactory *pFactory, IDocument *pDoc);
+    bool handleDrop(QDropEvent *pEvent);
+    void updateWelcomeWidget();
+
+    QWebSocketServer *m_pServer = nullptr;
+    QWebChannel *m_pChannel = nullptr;
+    IMainMdiArea *m_pMdiArea = nullptr;
+    DocumentManager *m_pDocumentManager = nullptr;
+    EditorManager *m_pEditorManager = nullptr;
+    ICore *m_pCore = nullptr;
+    IOptionsDlg *m_pOptionsDlg = nullptr;
+    int m_nDisplayScale = 0;
+};

@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+// The project commands of the main window: how a project comes in and how it goes.
+#include "mainwindow.h"
+
+#include "document/documentmanager.h"
+#include "document/editormanager.h"
+#include "document/idocument.h"
+#include "document/idocumentfactory.h"
+#include "document/ieditor.h"
+#include "irecentfilesmanager.h"
+#include "iui.h"
+#include "ui/icreatedocumentdlg.h"
+
+#include <extensionsystem/pluginmanager.h>
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QUndoGroup>
+#include <QUrl>
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+// A copy: factories run dialogs and take their time, and the pool must not stay locked.
+QList<IDocumentFactory *> documentFactories()
+{
+    const QReadLocker locker(PluginManager::listLock());
+    QList<IDocumentFactory *> factories;
+    const auto objects = PluginManager::allObjects();
+    for (QObject *pObject : objects) {
+        if (auto *pFactory = qobject_cast<IDocumentFactory *>(pObject))
+            factories.append(pFactory);
+    }
+    return factories;
+}
+
+IDocumentFactory *factoryFor(const QString &strFileName)
+{
+    const QString strSuffix = QFileInfo(strFileName).suffix().toLower();
+    const auto factories = documentFactories();
+    for (IDocumentFactory *pFactory : factories) {
+        if (pFactory->getSupportedSuffixes().contains(strSuffix))
+            return pFactory;
+    }
+    return nullptr;
+}
+
+IEditor *editorShowing(const QString &strPath)
+{
+    const QString strCanonical = QFileInfo(strPath).canonicalFilePath();
+    if (strCanonical.isEmpty())
+        return nullptr;
+    for (IEditor *pEditor : EditorManager::getEditors()) {
+        const IDocument *pDoc = pEditor->getDocument();
+        if (pDoc && QFileInfo(pDoc->getFileName()).canonicalFilePath() == strCanonical)
+            return pEditor;
+    }
+    return nullptr;
+}
+
+IDocument *activeDocument()
+{
+    const IEditor *pEditor = EditorManager::activeEditor();
+    return pEditor ? pEditor->getDocument() : nullptr;
+}
+
+bool isProjectFile(const QString &strPath)
+{
+    const QString strSuffix = QFileInfo(strPath).suffix().toLower();
+    return strSuffix == QLatin1String("kelpa") || strSuffix == QLatin1String("kelpapack");
+}
+
+void makeStackActive(IDocument *pDoc)
+{
+    DocumentManager::getUndoGroup()->setActiveStack(pDoc->getUndoStack());
+}
+
+void startBackup(IDocument *pDoc)
+{
+    if (DocumentManager::isAutobackupEnabled())
+        DocumentManager::startWaitingBackup(pDoc);
+}
+
+} // namespace
+
+IDocumentFactory *MainWindow::selectDocumentFactory()
+{
+    return documentFactories().value(0);
+}
+
+void MainWindow::openFilesPassedAsArguments()
+{
+    const QStringList arguments = PluginManager::arguments();
+    for (const QString &strArgument : arguments)
+        loadFile(strArgument);
+}
+
+bool MainWindow::loadFile(const QString &strFileName)
+{
+    const QString strPath = QDir::fromNativeSeparators(strFileName);
+    if (IEditor *pEditor = editorShowing(strPath)) {
+        EditorManager::activateEditor(pEditor);
+        return true;
+    }
+    IDocumentFactory *pFactory = factoryFor(strPath);
+    if (!pFactory) {
+        IUi::information(this, QStringLiteral("Kelpa Studio"), tr("Cannot open this file type."));
+        return false;
+    }
+    IDocument *pDoc = pFactory->createDocument();
+    pDoc->setFileName(strPath);
+    if (!pDoc->open()) {
+        delete pDoc;
+        updateWelcomeWidget();
+        return false;
+    }
+    return loadOpenedDocument(pDoc, true);
+}
+
+// Plug-ins see the steps through the signals they cause, here and in attachNew(): both orders stay.
+bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
+{
+    IDocumentFactory *pFactory = factoryFor(pDoc->getFileName());
+    if (!pFactory)
+        return false;
+    if (bAddToRecentFile)
+        IRecentFilesManager::getInstance()->addFile(pDoc->getFileName());
+    IEditor *pEditor = pFactory->createEditor();
+    pEditor->setDocument(pDoc);
+    DocumentManager::addDocument(pDoc);
+    EditorManager::addEditor(pEditor);
+    EditorManager::activateEditor(pEditor);
+    makeStackActive(pDoc);
+    connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
+    emit pDoc->aboutToOpen();
+    startBackup(pDoc);
+    updateWelcomeWidget();
+    return true;
+}
+
+void MainWindow::fileNew()
+{
+    IDocumentFactory *pFactory = selectDocumentFactory();
+    if (!pFactory)
+        return;
+    IDocument *pDoc = pFactory->createDocument();
+    ICreateDocumentDlg *pDialog = pFactory->createNewDocumentDialog();
+    if (pDialog->exec() != QDialog::Accepted)
+        delete pDoc;
+    else if (!createDocument(pFactory, pDoc, pDialog))
+        return;
+    delete pDialog;
+}
+
+// False: the dialog named no file. Document and dialog then stay with the factory's plug-in, which may have
+// kept them; plug-ins rely on both living on.
+bool MainWindow::createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICreateDocumentDlg *pDialog)
+{
+    const int nFirst = pDialog->getFirstValue();
+    const int nSecond = pDialog->getSecondValue();
+    const int nThird = pDialog->getThirdValue();
+    const QString strPath = pDialog->getFilePath();
+    if (strPath.isEmpty())
+        return false;
+    IRecentFilesManager::getInstance()->addFile(strPath);
+    pDoc->setFileName(strPath);
+    if (pDoc->createContent(nFirst, nSecond, nThird, pDialog->getFlag()))
+        attachNew(pFactory, pDoc);
+    else
+        delete pDoc;
+    updateWelcomeWidget();
+    return true;
+}
+
+void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
+{
+    IEditor *pEditor = pFactory->createEditor();
+    pEditor->setDocument(pDoc);
+    DocumentManager::addDocument(pDoc);
+    EditorManager::addEditor(pEditor);
+    makeStackActive(pDoc);
+    connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
+    EditorManager::activateEditor(pEditor);
+    emit pDoc->aboutToOpen();
+    pDoc->save();
+    startBackup(pDoc);
+}
+
+void MainWindow::fileOpen()
+{
+    IDocumentFactory *pFactory = selectDocumentFactory();
+    const QString strPath = pFactory ? pFactory->getOpenFileName() : QString();
+    if (!strPath.isEmpty())
+        loadFile(strPath);
+}
+
+void MainWindow::fileSave()
+{
+    IDocument *pDoc = activeDocument();
+    if (!pDoc)
+        return;
+    if (pDoc->isTempDocument())
+        fileSaveAs();
+    else
+        pDoc->save();
+}
+
+void MainWindow::fileSaveAs()
+{
+    IDocument *pDoc = activeDocument();
+    if (!pDoc)
+        return;
+    const QString strOldName = pDoc->getFileName();
+    const bool bWasTemp = pDoc->isTempDocument();
+    if (!pDoc->saveAs())
+        return;
+    if (bWasTemp)
+        IRecentFilesManager::getInstance()->removeFile(strOldName);
+    IRecentFilesManager::getInstance()->addFile(pDoc->getFileName());
+}
+
+void MainWindow::fileClose()
+{
+    IDocument *pDoc = activeDocument();
+    if (pDoc && pDoc->close())
+        emit pDoc->requestClosing(true);
+}
+
+void MainWindow::fileExit()
+{
+    close();
+}
+
+void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
+{
+    auto *pDoc = qobject_cast<IDocument *>(sender());
+    if (!pDoc)
+        return;
+    IEditor *pEditor = EditorManager::getEditorOfDocument(pDoc);
+    EditorManager::removeEditor(pEditor);
+    DocumentManager::removeDocument(pDoc);
+    if (pEditor && bDeleteLater)
+        pEditor->deleteLater();
+    else
+        delete pEditor;
+    if (pDoc->isTempDocument())
+        pDoc->cleanTempDir();
+    delete pDoc;
+    emit updateWindowFilePath(QString());
+    updateWelcomeWidget();
+}
+
+void MainWindow::updateWelcomeWidget()
+{
+    setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
+}
+
+// Watches the area of documents and the welcome widget for projects dropped on them.
+bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
+{
+    switch (pEvent->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        static_cast<QDragMoveEvent *>(pEvent)->acceptProposedAction();
+        return true;
+    case QEvent::DragLeave:
+        pEvent->accept();
+        return false;
+    case QEvent::Drop:
+        return handleDrop(static_cast<QDropEvent *>(pEvent));
+    default:
+        return KPStyledFrame<QMainWindow>::eventFilter(pWatched, pEvent);
+    }
+}
+
+// Only the first URL counts. A drop with any is consumed.
+bool MainWindow::handleDrop(QDropEvent *pEvent)
+{
+    const QList<QUrl> urls = pEvent->mimeData()->urls();
+    if (urls.isEmpty())
+        return false;
+    const QString strPath = urls.first().toLocalFile();
+    if (isProjectFile(strPath) && loadFile(strPath))
+        pEvent->acceptProposedAction();
+    return true;
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QWidget>
+
+/// Base of a page of the preferences dialog, its parent. A page fills its controls when it is first shown,
+/// and writes or restores them when the dialog says so; each override calls the base last.
+class CORE_EXPORT IOptionPage : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(IOptionPage)
+
+public:
+    explicit IOptionPage(QWidget *pParent = nullptr);
+    ~IOptionPage() override;
+
+    /// Whether the page holds edits that are not saved.
+    [[nodiscard]] virtual bool isChanged();
+
+    /// Marks the page as changed, whatever the argument: pages clear the mark only through saveChanges() and
+    /// discardChanges(), and existing ones pass either value.
+    virtual void setChanged(bool bChanged);
+
+    virtual void initValues();
+    virtual void saveChanges();
+    virtual void discardChanges();
+
+    /// The next showing fills the controls again.
+    virtual void setNeedInitConfig2UI();
+
+signals:
+    void dataChanged();
+
+protected:
+    bool m_bChanged = false;
+    bool m_bConfigInitialized = false;
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QByteArray>
+#include <QWidget>
+
+#include <memory>
+
+/// The native half of a frameless window: it looks at the window's native messages. The frame owns it as a
+/// second base, so both live equally long. GUI thread only.
+class CORE_EXPORT KPStyledFrameHelper
+{
+public:
+    explicit KPStyledFrameHelper(QWidget *pWidget);
+    virtual ~KPStyledFrameHelper();
+
+protected:
+    /// Whether the point, in logical client coordinates, lies on a part of the window that drags it.
+    [[nodiscard]] virtual bool isStyledFrameTitleBar(int x, int y) const = 0;
+
+    /// True: the message was handled and `pResult` holds the answer.
+    bool handleNativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult);
+
+private:
+    Q_DISABLE_COPY_MOVE(KPStyledFrameHelper)
+
+    struct Private;
+    const std::unique_ptr<Private> d;
+};
+
+/// A top-level widget without the system's frame.
+template <typename Base>
+class KPStyledFrame : public Base, public KPStyledFrameHelper
+{
+public:
+    explicit KPStyledFrame(QWidget *pParent = nullptr, Qt::WindowFlags flags = {})
+        : Base(pParent, flags | Qt::FramelessWindowHint)
+        , KPStyledFrameHelper(this)
+    {
+    }
+
+protected:
+    bool nativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult) override
+    {
+        return handleNativeEvent(eventType, pMessage, pResult)
+            || Base::nativeEvent(eventType, pMessage, pResult);
+    }
+
+    [[nodiscard]] bool isStyledFrameTitleBar(int x, int y) const override
+    {
+        Q_UNUSED(x)
+        Q_UNUSED(y)
+        return false;
+    }
+};
