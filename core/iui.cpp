@@ -76,6 +76,8 @@ QPixmap messageIcon(const QString &strName, int nDPI)
     const int nSide = DisplayScale::proportional(nDPI, 32);
     const QIcon icon = IUi::getIcon(strName, 0, QStringLiteral(":/designer/images/"));
     const QPixmap pixmap = icon.pixmap(QSize(nSide, nSide), 1.0, QIcon::Normal, QIcon::Off);
+    if (pixmap.isNull())
+        return pixmap;
     return pixmap.scaled(nSide, nSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
