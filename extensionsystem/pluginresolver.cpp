@@ -43,6 +43,7 @@ public:
 private:
     void nameRecords();
     void select();
+    void selectWanted();
     void selectWithRequired(int nFirst);
     void checkDependencies();
     [[nodiscard]] QString check(const PluginDependency &dependency) const;
@@ -85,24 +86,32 @@ void Resolver::nameRecords()
     }
 }
 
+// By name: what holds for the record that has the name holds for all that claim it.
 void Resolver::select()
 {
-    for (const QString &strName : m_selection.load + m_selection.leaveOut) {
+    const QStringList named = m_selection.load + m_selection.leaveOut;
+    for (const QString &strName : named) {
         if (!m_byName.contains(strName))
             m_result.unknown.append(strName);
     }
-    if (!m_selection.load.isEmpty()) {
-        for (PluginVerdict &verdict : m_result.verdicts)
-            verdict.bSelected = false;
-        for (int i = 0; i < m_specs.size(); ++i) {
-            if (m_specs.at(i).bRequired || m_selection.load.contains(m_specs.at(i).name))
-                selectWithRequired(i);
-        }
-    }
+    if (!m_selection.load.isEmpty())
+        selectWanted();
     for (int i = 0; i < m_specs.size(); ++i) {
         if (m_selection.leaveOut.contains(m_specs.at(i).name))
             verdict(i).bSelected = false;
     }
+}
+
+void Resolver::selectWanted()
+{
+    for (PluginVerdict &verdict : m_result.verdicts)
+        verdict.bSelected = false;
+    for (const PluginSpec &spec : m_specs) {
+        if (spec.bRequired || m_selection.load.contains(spec.name))
+            selectWithRequired(m_byName.value(spec.name));
+    }
+    for (int i = 0; i < m_specs.size(); ++i)
+        verdict(i).bSelected = verdict(m_byName.value(m_specs.at(i).name)).bSelected;
 }
 
 void Resolver::selectWithRequired(int nFirst)
