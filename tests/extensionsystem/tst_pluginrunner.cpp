@@ -447,7 +447,8 @@ private:
             seen.insert(plugin.name);
             for (const PluginDependency &dependency : plugin.dependencies) {
                 if (dependency.bRequired && constructed.contains(plugin.name))
-                    QVERIFY(log.indexOf(QStringLiteral("construct ") + dependency.name)
+                    QVERIFY(
+                        log.indexOf(QStringLiteral("construct ") + dependency.name)
                         < log.indexOf(QStringLiteral("construct ") + plugin.name));
             }
         }
@@ -497,15 +498,16 @@ private slots:
         QTest::addColumn<QString>("reason"); // of plug-in a
         QTest::newRow("a missing one")
             << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:1:c"), QStringLiteral("c:1:d")})
-            << "needs b 1, which failed: needs c 1, which failed: needs d 1, which is missing";
+            << "needs b 1.0.0, which failed: needs c 1.0.0, which failed: needs d 1.0.0, which is missing";
         QTest::newRow("one too old")
             << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:1:c"), QStringLiteral("c:0.9:")})
-            << "needs b 1, which failed: needs c 1, but version 0.9 is too old (/x/c)";
-        QTest::newRow("one too new") << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:2:")})
-                                     << "needs b 1, but version 2 is compatible only down to 2 (/x/b)";
+            << "needs b 1.0.0, which failed: needs c 1.0.0, but version 0.9.0 is too old (/x/c)";
+        QTest::newRow("one too new")
+            << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:2:")})
+            << "needs b 1.0.0, but version 2.0.0 is compatible only down to 2.0.0 (/x/b)";
         QTest::newRow("behind a circle")
             << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:1:c"), QStringLiteral("c:1:b")})
-            << "needs b 1, which failed: needs itself: b -> c -> b";
+            << "needs b 1.0.0, which failed: needs itself: b -> c -> b";
         QTest::newRow("itself") << QStringList({QStringLiteral("a:1:a")}) << "needs itself: a -> a";
     }
 
@@ -534,7 +536,7 @@ private slots:
             {QStringLiteral("a"), QStringLiteral("/x/a"), PluginPhase::Initialize,
              QStringLiteral("exception: initialize")},
             {QStringLiteral("b"), QStringLiteral("/x/b"), PluginPhase::Initialize,
-             QStringLiteral("needs a 1, which failed: exception: initialize")}};
+             QStringLiteral("needs a 1.0.0, which failed: exception: initialize")}};
         QCOMPARE(runner.errors(), expected);
         QCOMPARE(failed.size(), 2);
         QCOMPARE(
