@@ -21,10 +21,8 @@
 
 namespace {
 
-// Icons of the stage's own actions; without one the text is shown.
-constexpr const char *pUndoIcon = "";
-constexpr const char *pRedoIcon = "";
-constexpr const char *pDeleteIcon = "";
+const QString s_coreImages = QStringLiteral(":/core/images/");
+const QString s_stageImages = QStringLiteral(":/stage/images/");
 
 struct FileAction
 {
@@ -49,24 +47,23 @@ struct ElementAction
     const char *pFill;
 };
 constexpr std::array<ElementAction, 4> elementActions = {{
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Rectangle"), "", StageElement::Type::Rectangle, 200, 120,
-     "#5b8def"},
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Ellipse"), "", StageElement::Type::Ellipse, 160, 160, "#f2a65a"},
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Text"), "", StageElement::Type::Text, 240, 40, "#202020"},
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Image..."), "", StageElement::Type::Image, 0, 0, ""},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Rectangle"), "rectangle", StageElement::Type::Rectangle, 200,
+        120, "#5b8def"},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Ellipse"), "ellipse", StageElement::Type::Ellipse, 160, 160,
+        "#f2a65a"},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Text"), "text", StageElement::Type::Text, 240, 40, "#202020"},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Image..."), "image", StageElement::Type::Image, 0, 0, ""},
 }};
 
-void setIcon(QAction *pAction, const char *pIcon)
+void setIcon(QAction *pAction, const char *pIcon, const QString &strFolder)
 {
-    if (*pIcon)
-        pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, QStringLiteral(":/core/images/")));
+    pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, strFolder));
 }
 
 // Asks for a file and takes the image's own size, or one that fits when that is unknown or large.
 bool chooseImage(QWidget *pParent, StageElement &element)
 {
-    element.source = QFileDialog::getOpenFileName(
-        pParent, StageToolBar::tr("Add Image"), QString(),
+    element.source = QFileDialog::getOpenFileName(pParent, StageToolBar::tr("Add Image"), QString(),
         StageToolBar::tr("Images (*.svg *.png *.jpg *.jpeg *.gif)"));
     if (element.source.isEmpty())
         return false;
@@ -107,7 +104,7 @@ void StageToolBar::addFileActions(MainWindow *pMainWindow)
     for (const FileAction &row : fileActions) {
         QAction *pAction = addAction(tr(row.pText));
         pAction->setShortcut(QKeySequence(QLatin1String(row.pShortcut)));
-        setIcon(pAction, row.pIcon);
+        setIcon(pAction, row.pIcon, s_coreImages);
         connect(pAction, &QAction::triggered, pMainWindow, row.pSlot);
         m_pSave = pAction; // the last of them
     }
@@ -120,10 +117,10 @@ void StageToolBar::addUndoActions()
         return;
     QAction *pUndo = pGroup->createUndoAction(this, tr("&Undo"));
     pUndo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Z")));
-    setIcon(pUndo, pUndoIcon);
+    setIcon(pUndo, "undo", s_stageImages);
     QAction *pRedo = pGroup->createRedoAction(this, tr("&Redo"));
     pRedo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
-    setIcon(pRedo, pRedoIcon);
+    setIcon(pRedo, "redo", s_stageImages);
     addActions({pUndo, pRedo});
 }
 
@@ -132,13 +129,13 @@ void StageToolBar::addElementActions()
 {
     for (const ElementAction &row : elementActions) {
         QAction *pAction = addAction(tr(row.pText));
-        setIcon(pAction, row.pIcon);
+        setIcon(pAction, row.pIcon, s_stageImages);
         connect(pAction, &QAction::triggered, this, [this, type = row.type] { addElement(type); });
         m_addActions.append(pAction);
     }
     m_pDelete = addAction(tr("&Delete"));
     m_pDelete->setToolTip(tr("Delete (Del)"));
-    setIcon(m_pDelete, pDeleteIcon);
+    setIcon(m_pDelete, "delete", s_stageImages);
     connect(m_pDelete, &QAction::triggered, this, [this] {
         auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
         if (pEditor && pEditor->getView())
