@@ -53,4 +53,5 @@ void ICore::saveSettings()
     emit s_pInstance->aboutToSaveSettings();
     settings(QSettings::UserScope)->sync();
     settings(QSettings::SystemScope)->sync();
+    PluginManager::checkSettings();
 }
