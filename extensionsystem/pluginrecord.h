@@ -36,6 +36,7 @@ struct PluginRecord
     PluginSpec spec;
     PluginFactory create;
     QStringList arguments; ///< what it gets in initialize()
+    qint64 nReadNanoseconds = 0; ///< how long reading the metadata took
 };
 
 } // namespace ExtensionSystem

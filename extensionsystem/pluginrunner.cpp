@@ -105,6 +105,8 @@ PluginRunner::~PluginRunner()
 void PluginRunner::setProfiled(bool bProfiled)
 {
     d->profile.setEnabled(bProfiled);
+    for (const Private::Plugin &plugin : d->plugins)
+        d->profile.book(plugin.record.spec.name, PluginPhase::Read, plugin.record.nReadNanoseconds);
 }
 
 QString PluginRunner::profile() const
@@ -365,8 +367,10 @@ void PluginRunner::Private::askToStop(const QList<int> &records, int nTimeoutMs)
     for (auto it = records.crbegin(); it != records.crend(); ++it)
         askToStop(*it, &pending);
     waitFor(&pending, nTimeoutMs);
-    for (const int n : records)
-        disconnect(plugins[n].object, nullptr, q, nullptr);
+    for (const int n : records) {
+        if (plugins[n].object)
+            disconnect(plugins[n].object, nullptr, q, nullptr);
+    }
     for (const int n : std::as_const(pending))
         note(n, PluginPhase::Shutdown, QStringLiteral("it did not finish within %1 ms").arg(nTimeoutMs));
     // What the plug-ins gave to the event loop to delete goes while they are still there.

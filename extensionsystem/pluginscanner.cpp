@@ -6,11 +6,13 @@
 #include <extensionsystem/iplugin.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QSet>
 
 #include <memory>
+#include <optional>
 
 namespace ExtensionSystem {
 
@@ -34,12 +36,18 @@ IPlugin *loadPlugin(QPluginLoader &loader, QString *pErrorString)
 }
 
 // The loader that read the metadata loads the library later, so that the file is read once.
-PluginRecord recordOf(const std::shared_ptr<QPluginLoader> &pLoader)
+std::optional<PluginRecord> readPlugin(const QString &strFile)
 {
+    QElapsedTimer timer;
+    timer.start();
+    const auto pLoader = std::make_shared<QPluginLoader>(strFile);
+    if (pLoader->metaData().value(QLatin1String("IID")).toString() != s_iid)
+        return std::nullopt;
     PluginRecord record;
     const QJsonObject object = pLoader->metaData().value(QLatin1String("MetaData")).toObject();
     record.spec = PluginSpec::fromJson(object, pLoader->fileName());
     record.create = [pLoader](QString *pErrorString) { return loadPlugin(*pLoader, pErrorString); };
+    record.nReadNanoseconds = timer.nsecsElapsed();
     return record;
 }
 
@@ -55,9 +63,8 @@ QList<PluginRecord> findPlugins(const QStringList &folders)
             if (!QLibrary::isLibrary(file.fileName()) || seen.contains(file.canonicalFilePath()))
                 continue;
             seen.insert(file.canonicalFilePath());
-            const auto pLoader = std::make_shared<QPluginLoader>(file.absoluteFilePath());
-            if (pLoader->metaData().value(QLatin1String("IID")).toString() == s_iid)
-                records.append(recordOf(pLoader));
+            if (const auto record = readPlugin(file.absoluteFilePath()))
+                records.append(*record);
             else
                 qCDebug(
                     lcExtensionSystem, "%s is no plug-in of this program",

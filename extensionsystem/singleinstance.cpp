@@ -13,6 +13,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
+#include <QThread>
 #include <QTimer>
 #include <QtEndian>
 
@@ -21,6 +22,7 @@ namespace ExtensionSystem {
 namespace {
 
 constexpr int s_nPatienceMs = 3000; // with another instance that does not answer
+constexpr int s_nPauseMs = 20; // before the next try
 constexpr int s_nMessageTimeMs = 2000; // for a message to come in whole
 constexpr int s_nMostClients = 16;
 constexpr int s_nHeader = 4;
@@ -82,6 +84,9 @@ SingleInstance::~SingleInstance()
 {
     if (!m_pServer)
         return;
+    const auto sockets = m_pServer->findChildren<QLocalSocket *>();
+    for (QLocalSocket *pSocket : sockets)
+        pSocket->disconnect(this);
     QLockFile lock(m_strLockFile);
     lock.tryLock(s_nPatienceMs);
     m_pServer.reset();
@@ -105,7 +110,8 @@ SingleInstance::Role SingleInstance::claim(const RemoteCommand &command)
         case Delivery::Received:
             return Role::HandedOver;
         case Delivery::PeerGone:
-            continue; // it ended before it had the message: take its place
+            QThread::msleep(s_nPauseMs); // it ended before it had the message: take its place
+            continue;
         case Delivery::Silent:
             break;
         }

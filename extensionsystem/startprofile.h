@@ -23,6 +23,8 @@ public:
         return function();
     }
 
+    void book(const QString &strPlugin, PluginPhase phase, qint64 nNanoseconds);
+
     /// A table in milliseconds, ready to print; empty when not enabled.
     [[nodiscard]] QString text() const;
 
@@ -47,8 +49,6 @@ private:
         PluginPhase m_phase;
         QElapsedTimer m_timer;
     };
-
-    void book(const QString &strPlugin, PluginPhase phase, qint64 nNanoseconds);
 
     bool m_bEnabled = false;
     QList<Entry> m_entries;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A program with nothing but the framework, for tests. It prints what it learns, and ends when all plug-ins
-// are up unless HOST_STAYS is set. HOST_WRITES writes a setting, HOST_DROPS_ROOT runs it as nobody.
+// are up unless HOST_STAYS is set. HOST_WRITES writes a setting, HOST_DROPS_ROOT runs it as nobody,
+// HOST_DISK_FULL lets no file grow.
 #include <extensionsystem/pluginmanager.h>
 
 #include <QCoreApplication>
@@ -8,6 +9,8 @@
 #include <cstdio>
 
 #ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
 #include <unistd.h>
 #endif
 
@@ -31,6 +34,15 @@ bool dropRoot()
 #endif
 }
 
+void fillDisk()
+{
+#ifdef Q_OS_UNIX
+    const rlimit none = {0, 0};
+    signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &none);
+#endif
+}
+
 void onInitializationDone()
 {
     print(QStringLiteral("done ") + PluginManager::arguments().join(QLatin1Char(' ')));
@@ -50,6 +62,8 @@ int main(int argc, char *argv[])
 {
     if (!dropRoot())
         return 99;
+    if (qEnvironmentVariableIsSet("HOST_DISK_FULL"))
+        fillDisk();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Host"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));

@@ -159,6 +159,7 @@ private slots:
                            "/good/libbase.so\n"));
         row("the profile names plug-in and phase", "--profile", 0, "done",
             QStringLiteral(" ms  anchor extensionsInitialized\n"));
+        row("reading is profiled too", "--profile", 0, "done", QStringLiteral(" ms  base read\n"));
     }
 
     void options()
@@ -273,6 +274,22 @@ private slots:
         const QString strCopy = strStore + QStringLiteral(".broken");
         QCOMPARE(
             read(strCopy), reason.contains(QLatin1String("damaged")) ? content : QByteArray("(unreadable)"));
+    }
+
+    void aFullDiskIsToldAndKeepsTheStore()
+    {
+        QTemporaryDir folder;
+        const QString strStore = folder.filePath(QStringLiteral("KelpaStudio.ini"));
+        write(strStore, "[sea]\nlevel=3\n");
+        Host host(
+            {"good"}, withSettings(folder.path()),
+            {{QStringLiteral("HOST_DISK_FULL"), QStringLiteral("1")},
+             {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
+        QCOMPARE(host.finish(), 0);
+        QCOMPARE(
+            host.lines().filter(QStringLiteral("fault ")),
+            QStringList(QStringLiteral("fault %1: it cannot be written").arg(strStore)));
+        QCOMPARE(read(strStore), QByteArray("[sea]\nlevel=3\n"));
     }
 
     static void setModes(const QString &strFile, int nFile, const QString &strFolder, int nFolder)
