@@ -14,6 +14,12 @@ struct StageCommands
     Q_DECLARE_TR_FUNCTIONS(StageCommands)
 };
 
+// Points compare with a tolerance; what undo restores is exact.
+bool leadsNowhere(const StageMoveCommand::Move &move)
+{
+    return move.from.x() == move.to.x() && move.from.y() == move.to.y();
+}
+
 } // namespace
 
 StageAddCommand::StageAddCommand(StageModel *pModel, int nScene, const StageElement &element)
@@ -84,8 +90,7 @@ bool StageMoveCommand::mergeWith(const QUndoCommand *pOther)
         return false;
     for (int i = 0; i < static_cast<int>(m_moves.size()); ++i)
         m_moves[i].to = pNext->m_moves.at(i).to;
-    setObsolete(
-        std::all_of(m_moves.cbegin(), m_moves.cend(), [](const Move &move) { return move.from == move.to; }));
+    setObsolete(std::all_of(m_moves.cbegin(), m_moves.cend(), leadsNowhere));
     return true;
 }
 

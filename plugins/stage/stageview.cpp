@@ -8,6 +8,8 @@
 #include <document/idocument.h>
 
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -21,6 +23,7 @@ constexpr double dMinZoom = 0.02;
 constexpr double dMaxZoom = 32;
 constexpr double dZoomStep = 1.25;
 constexpr double dMargin = 20; // of the desk around the stage, in stage pixels
+constexpr QColor deskColor(0x4a, 0x4f, 0x57);
 
 struct StepKey
 {
@@ -52,7 +55,7 @@ StageView::StageView(IDocument *pDocument, StageModel *pModel, QWidget *pParent)
     setAccessibleName(tr("Stage"));
     setDragMode(RubberBandDrag);
     setTransformationAnchor(AnchorUnderMouse);
-    setBackgroundBrush(QColor(0x4a, 0x4f, 0x57));
+    setBackgroundBrush(deskColor);
     connect(pModel, &StageModel::reset, this, &StageView::rebuild);
     connect(pModel, &StageModel::elementInserted, this, &StageView::insertItem);
     connect(pModel, &StageModel::elementRemoved, this, &StageView::removeItem);
@@ -93,9 +96,7 @@ void StageView::rebuild()
 // A fixed rectangle, so that a far away element does not change what "fit" shows.
 void StageView::updateSceneRect()
 {
-    const StageProject &project = m_pModel->project();
-    scene()->setSceneRect(
-        QRectF(0, 0, project.width, project.height).adjusted(-dMargin, -dMargin, dMargin, dMargin));
+    scene()->setSceneRect(stageRect().adjusted(-dMargin, -dMargin, dMargin, dMargin));
     if (m_bFit)
         zoomToFit();
 }
@@ -331,7 +332,25 @@ void StageView::drawBackground(QPainter *pPainter, const QRectF &rect)
     QGraphicsView::drawBackground(pPainter, rect);
     if (!m_pModel)
         return;
-    const StageProject &project = m_pModel->project();
-    const QRectF stage(0, 0, project.width, project.height);
-    pPainter->fillRect(stage, project.background.isValid() ? project.background : QColor(Qt::white));
+    const QColor &background = m_pModel->project().background;
+    pPainter->fillRect(stageRect(), background.isValid() ? background : QColor(Qt::white));
+}
+
+// What lies beside the stage will not be seen by an audience: it shines through only.
+void StageView::drawForeground(QPainter *pPainter, const QRectF &rect)
+{
+    if (!m_pModel)
+        return;
+    QPainterPath outside;
+    outside.addRect(rect);
+    outside.addRect(stageRect());
+    QColor veil = deskColor;
+    veil.setAlphaF(0.7F);
+    pPainter->fillPath(outside, veil);
+}
+
+QRectF StageView::stageRect() const
+{
+    return {0, 0, static_cast<double>(m_pModel->project().width),
+        static_cast<double>(m_pModel->project().height)};
 }

@@ -48,9 +48,11 @@ protected:
     void wheelEvent(QWheelEvent *pEvent) override;
     void resizeEvent(QResizeEvent *pEvent) override;
     void drawBackground(QPainter *pPainter, const QRectF &rect) override;
+    void drawForeground(QPainter *pPainter, const QRectF &rect) override;
     bool focusNextPrevChild(bool bNext) override;
 
 private:
+    [[nodiscard]] QRectF stageRect() const;
     void rebuild();
     void insertItem(int nScene, int nIndex);
     void removeItem(int nScene, int nIndex);

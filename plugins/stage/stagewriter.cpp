@@ -74,11 +74,17 @@ QByteArray StageWriter::toJson(const StageProject &project, const QString &strFo
     return QJsonDocument(object).toJson();
 }
 
+// A disk that fills up may show as a short count only, without an error of the file.
 QString StageWriter::writeFile(const StageProject &project, const QString &strFileName)
 {
     QSaveFile file(strFileName);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    file.write(toJson(project, QFileInfo(strFileName).absolutePath()));
+    const QByteArray text = toJson(project, QFileInfo(strFileName).absolutePath());
+    if (file.write(text) != text.size() || !file.flush()) {
+        const QString strReason = file.errorString();
+        file.cancelWriting();
+        return strReason;
+    }
     return file.commit() ? QString() : file.errorString();
 }

@@ -179,7 +179,7 @@ private slots:
         QVERIFY(!document.open());
         QCOMPARE(answers.boxes.size(), 1);
         QCOMPARE(answers.boxes.first().title, QStringLiteral("Kelpa Studio"));
-        const QString strText = answers.texts().first();
+        const QString strText = answers.texts().first().remove(QChar(0x200B)); // a place to break at
         QVERIFY2(strText.contains(program.filePath("broken.kelpa")), qPrintable(strText));
         QVERIFY2(strText.contains(QLatin1String("line 2, column")), qPrintable(strText));
         QVERIFY(document.getModel()->project().scenes.isEmpty());

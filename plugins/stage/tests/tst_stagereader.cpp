@@ -61,9 +61,9 @@ private slots:
         row("a list instead of an object", "[]", "line 1: the file must hold an object");
         row("text that is not UTF-8", "{\"format\": \"\xff\xfe\"}", "line 1, column 13: not valid JSON");
         change("a place after letters of two bytes", "\"Grüße\"", "\"Grüße\" x",
-            "line 7, column 99: not valid JSON");
-        row("the end of the file is missing", s_project.chopped(3), "line 9, column 3: not valid JSON");
-        row("not a number as a number", with("1.5", "NaN"), "line 5, column 42: not valid JSON");
+            "line 7, column 98: not valid JSON");
+        row("the end of the file is missing", s_project.chopped(3), "line 9, column 5: not valid JSON");
+        row("not a number as a number", with("1.5", "NaN"), "line 5, column 45: not valid JSON");
         change("a number too large for any machine", "1.5", "1e999", "line 5, column");
         row("lists nested too deeply", QByteArray(50 * 1024 * 1024, '['), "more than 2000000 values");
         row("deeper than the parser goes", QByteArray(5000, '['), "not valid JSON");
