@@ -1,4 +1,5 @@
 # SPDX-License-Identifier: MIT
+# shellcheck shell=bash
 # Sourced by ./run, ./test and the other scripts: packages, configuring and building. Messages go to stderr.
 
 kelpa_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
