@@ -59,8 +59,7 @@ QList<PluginRecord> findPlugins(const QStringList &folders)
             if (pLoader->metaData().value(QLatin1String("IID")).toString() == s_iid)
                 records.append(recordOf(pLoader));
             else
-                qCDebug(
-                    lcExtensionSystem, "%s is no plug-in of this program",
+                qCDebug(lcExtensionSystem, "%s is no plug-in of this program",
                     qUtf8Printable(file.absoluteFilePath()));
         }
     }

@@ -59,8 +59,7 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
 {
     if (!inRange(nFirst, StageFormat::nMaxStageSize) || !inRange(nSecond, StageFormat::nMaxStageSize)
         || !inRange(nThird, StageFormat::nMaxFrameRate)) {
-        IUi::information(
-            nullptr, s_title,
+        IUi::information(nullptr, s_title,
             tr("Could not create project %1.\nA stage of %2 by %3 pixels with %4 frames per second is not "
                "possible.")
                 .arg(QDir::toNativeSeparators(getFileName()))
@@ -74,7 +73,7 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
     project.height = nSecond;
     project.frameRate = nThird;
     project.responsive = bFlag;
-    project.scenes.append(StageScene{tr("Scene 1"), {}, {}});
+    project.scenes.append(StageScene {tr("Scene 1"), {}, {}});
     m_bNeverSaved = true;
     m_pModel->setProject(project);
     return true;
@@ -136,17 +135,16 @@ bool StageDocument::save()
 
 bool StageDocument::saveAs()
 {
-    QString strFileName = QFileDialog::getSaveFileName(
-        ICore::getMainWindow(), tr("Save Project As"), getFileName(),
-        tr("Kelpa projects (*%1)").arg(s_suffix));
+    QString strFileName = QFileDialog::getSaveFileName(ICore::getMainWindow(), tr("Save Project As"),
+        getFileName(), tr("Kelpa projects (*%1)").arg(s_suffix));
     if (strFileName.isEmpty())
         return false;
     if (!strFileName.endsWith(s_suffix, Qt::CaseInsensitive)) {
         strFileName += s_suffix;
         // The dialog asked about the name without the suffix only.
         if (QFileInfo::exists(strFileName)
-            && IUi::question(
-                   nullptr, s_title, tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strFileName)),
+            && IUi::question(nullptr, s_title,
+                   tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strFileName)),
                    QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
                 != QMessageBox::Yes)
             return false;

@@ -86,9 +86,8 @@ QSpinBox *StageNewDialog::addNumberRow(QFormLayout *pLayout, const QString &strL
 // accept() asks about an existing file, however its name was given.
 void StageNewDialog::browse()
 {
-    const QString strPath = QFileDialog::getSaveFileName(
-        this, tr("New Project"), getFilePath(), tr("Kelpa projects (*%1)").arg(s_suffix), nullptr,
-        QFileDialog::DontConfirmOverwrite);
+    const QString strPath = QFileDialog::getSaveFileName(this, tr("New Project"), getFilePath(),
+        tr("Kelpa projects (*%1)").arg(s_suffix), nullptr, QFileDialog::DontConfirmOverwrite);
     if (!strPath.isEmpty())
         m_pPath->setText(QDir::toNativeSeparators(strPath));
 }
@@ -126,8 +125,7 @@ void StageNewDialog::accept()
         return;
     const QString strPath = getFilePath();
     if (QFileInfo::exists(strPath)
-        && IUi::question(
-               this, QStringLiteral("Kelpa Studio"),
+        && IUi::question(this, QStringLiteral("Kelpa Studio"),
                tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strPath)),
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
             != QMessageBox::Yes)

@@ -26,7 +26,7 @@ QString shown(const QJsonValue &value)
         return QStringLiteral("[...]");
     if (value.isObject())
         return QStringLiteral("{...}");
-    const QByteArray text = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    const QByteArray text = QJsonDocument(QJsonArray {value}).toJson(QJsonDocument::Compact);
     const QString strText = QString::fromUtf8(text.mid(1, text.size() - 2));
     return strText.size() > 40 ? strText.left(40) + QStringLiteral("...") : strText;
 }
@@ -94,8 +94,7 @@ double Parser::number(const QJsonValue &value, const QString &strPath, double dM
     const double dValue = value.toDouble(std::numeric_limits<double>::quiet_NaN());
     if (dValue >= dMin && dValue <= dMax)
         return dValue;
-    failValue(
-        strPath,
+    failValue(strPath,
         tr("a number from %1 to %2").arg(QString::number(dMin, 'f', 0), QString::number(dMax, 'f', 0)),
         value);
     return dMin;
@@ -173,8 +172,7 @@ bool Parser::readHead(QJsonObject &object)
     const QJsonValue version = object.take(QLatin1String("version"));
     const int nFound = integer(version, QStringLiteral("version"), 1, std::numeric_limits<int>::max());
     if (nFound > nVersion) {
-        fail(
-            QStringLiteral("version"),
+        fail(QStringLiteral("version"),
             tr("the project was written by a newer program (format version %1; this program reads up to %2)")
                 .arg(nFound)
                 .arg(nVersion));

@@ -43,11 +43,9 @@ private:
     std::unique_ptr<ChildProcess> host(
         const QStringList &arguments = {}, const char *pSettings = "settings") const
     {
-        const QStringList line = {
-            QStringLiteral("--plugin-path"), testPath("good"), QStringLiteral("--settings-path"),
-            folder(pSettings)};
-        return std::make_unique<ChildProcess>(
-            testPath("testhost"), line + arguments,
+        const QStringList line = {QStringLiteral("--plugin-path"), testPath("good"),
+            QStringLiteral("--settings-path"), folder(pSettings)};
+        return std::make_unique<ChildProcess>(testPath("testhost"), line + arguments,
             QList<QPair<QString, QString>>({{QLatin1String(s_stays), QStringLiteral("1")}}),
             folder("elsewhere"));
     }
@@ -88,9 +86,8 @@ private slots:
         const auto pFirst = runningHost();
         QElapsedTimer timer;
         timer.start();
-        const auto pSecond = host(
-            {QStringLiteral("--depth=20"), QStringLiteral("sub/a b.kelpa"), QStringLiteral("--"),
-             QStringLiteral("-ü.kelpa")});
+        const auto pSecond = host({QStringLiteral("--depth=20"), QStringLiteral("sub/a b.kelpa"),
+            QStringLiteral("--"), QStringLiteral("-ü.kelpa")});
         QCOMPARE(pSecond->finish(), 0);
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(pSecond->lines().isEmpty());
@@ -103,15 +100,13 @@ private slots:
 
     void theRealProgramOpensInTheFirstWindow()
     {
-        const QStringList line = {
-            QStringLiteral("--plugin-path"), testPath("good"), QStringLiteral("--settings-path"),
-            folder("settings")};
+        const QStringList line = {QStringLiteral("--plugin-path"), testPath("good"),
+            QStringLiteral("--settings-path"), folder("settings")};
         ChildProcess first(QStringLiteral(KELPASTUDIO), line);
         QVERIFY(first.waitForLine(QStringLiteral("anchor delayedInitialize")));
         QElapsedTimer timer;
         timer.start();
-        ChildProcess second(
-            QStringLiteral(KELPASTUDIO), line + QStringList(QStringLiteral("one.kelpa")), {},
+        ChildProcess second(QStringLiteral(KELPASTUDIO), line + QStringList(QStringLiteral("one.kelpa")), {},
             folder("elsewhere"));
         QCOMPARE(second.finish(), 0);
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
@@ -173,8 +168,7 @@ private slots:
         ::kill(static_cast<pid_t>(pFirst->processId()), SIGSTOP);
         const auto pSecond = host({QStringLiteral("a.kelpa")});
         QVERIFY(pSecond->waitForLine(QStringLiteral("done %1/a.kelpa").arg(folder("elsewhere"))));
-        QCOMPARE(
-            pSecond->errors(),
+        QCOMPARE(pSecond->errors(),
             QStringLiteral("The running instance does not answer; another one is started.\n"));
     }
 
@@ -186,8 +180,7 @@ private slots:
             const auto isUp = [](const ChildProcess &process) {
                 return process.lines().contains(QStringLiteral("setting "));
             };
-            QTRY_VERIFY_WITH_TIMEOUT(
-                (isUp(*pOne) && pTwo->state() == QProcess::NotRunning)
+            QTRY_VERIFY_WITH_TIMEOUT((isUp(*pOne) && pTwo->state() == QProcess::NotRunning)
                     || (isUp(*pTwo) && pOne->state() == QProcess::NotRunning),
                 20000);
             QVERIFY(!isUp(*pOne) || !isUp(*pTwo));
@@ -262,8 +255,7 @@ private slots:
         }
         QTRY_COMPARE(std::count_if(sockets.begin(), sockets.end(), isOpen), 16);
         for (int i = 0; i < 16; ++i)
-            QTest::ignoreMessage(
-                QtWarningMsg,
+            QTest::ignoreMessage(QtWarningMsg,
                 "A message from another start was dropped: the sender went away in the middle of it");
         sockets.clear();
         QTRY_VERIFY(connected()->isOpen());
@@ -272,8 +264,7 @@ private slots:
     void whatIsTooLongToHandOverStartsByItself()
     {
         SingleInstance instance(folder("settings"));
-        QCOMPARE(
-            instance.claim({{}, {}, {QString(SingleInstance::s_nLargestMessage, QLatin1Char('x'))}}),
+        QCOMPARE(instance.claim({{}, {}, {QString(SingleInstance::s_nLargestMessage, QLatin1Char('x'))}}),
             SingleInstance::Role::Alone);
         QVERIFY(instance.problem().contains(QLatin1String("too long")));
     }
