@@ -30,9 +30,8 @@ void showMessage(PluginManager::Message kind, const QString &strText)
     const bool bFailure = kind == PluginManager::Message::StartFailure;
     if (!hasScreen() || (s_bHasConsole && !bFailure))
         return;
-    QMessageBox box(
-        bFailure ? QMessageBox::Critical : QMessageBox::Information, QCoreApplication::applicationName(),
-        strText, QMessageBox::Ok);
+    QMessageBox box(bFailure ? QMessageBox::Critical : QMessageBox::Information,
+        QCoreApplication::applicationName(), strText, QMessageBox::Ok);
     box.exec();
 }
 

@@ -19,18 +19,18 @@ constexpr char s_context[] = "ExtensionSystem::CommandLine";
 
 const Option s_options[] = {
     {"plugin-path", "folder",
-     QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Look for plug-ins here too; may be repeated.")},
+        QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Look for plug-ins here too; may be repeated.")},
     {"load", "name",
-     QT_TRANSLATE_NOOP(
-         "ExtensionSystem::CommandLine", "Load only this plug-in and what it needs; may be repeated.")},
+        QT_TRANSLATE_NOOP(
+            "ExtensionSystem::CommandLine", "Load only this plug-in and what it needs; may be repeated.")},
     {"no-load", "name",
-     QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Leave this plug-in out; may be repeated.")},
+        QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Leave this plug-in out; may be repeated.")},
     {"settings-path", "folder",
-     QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Keep the user's settings here.")},
+        QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Keep the user's settings here.")},
     {"profile", nullptr,
-     QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Print how long each plug-in takes to start.")},
+        QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Print how long each plug-in takes to start.")},
     {"new-instance", nullptr,
-     QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Start even when the program is already running.")},
+        QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Start even when the program is already running.")},
     {"version", nullptr, QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Print the version and exit.")},
     {"help", nullptr, QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Print this help and exit.")},
 };
@@ -83,10 +83,9 @@ QList<PluginError> CommandLine::addPluginOptions(const QList<PluginRecord> &reco
                 m_declared.insert(strName, argument);
                 continue;
             }
-            clashes.append(
-                {record.spec.name, record.spec.file, PluginPhase::Read,
-                 QStringLiteral("the option %1 already belongs to %2")
-                     .arg(argument.name, m_ownerOf.value(strName, QStringLiteral("the program")))});
+            clashes.append({record.spec.name, record.spec.file, PluginPhase::Read,
+                QStringLiteral("the option %1 already belongs to %2")
+                    .arg(argument.name, m_ownerOf.value(strName, QStringLiteral("the program")))});
         }
     }
     return clashes;

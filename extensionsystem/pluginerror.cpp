@@ -7,9 +7,8 @@ namespace ExtensionSystem {
 
 QString phaseName(PluginPhase phase)
 {
-    static const char *const s_names[] = {
-        "read",          "resolve", "load", "initialize", "extensionsInitialized", "delayedInitialize",
-        "remoteCommand", "shutdown"};
+    static const char *const s_names[] = {"read", "resolve", "load", "initialize", "extensionsInitialized",
+        "delayedInitialize", "remoteCommand", "shutdown"};
     return QLatin1String(s_names[static_cast<int>(phase)]);
 }
 

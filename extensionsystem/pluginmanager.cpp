@@ -87,8 +87,7 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
     d->line = std::make_unique<CommandLine>(commandLine);
     CommandLine &line = *d->line;
     if (line.wantsVersion()) {
-        tell(
-            Message::Output,
+        tell(Message::Output,
             QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
         return 0;
     }
@@ -154,8 +153,7 @@ int PluginManager::failStart()
     const QString strReason = pError
         ? pError->text()
         : tr("No plug-in could be loaded from %1.").arg(d->line->pluginFolders().join(QStringLiteral(", ")));
-    tell(
-        Message::StartFailure,
+    tell(Message::StartFailure,
         tr("%1 cannot start.").arg(QCoreApplication::applicationName()) + QLatin1Char('\n') + strReason);
     return 1;
 }

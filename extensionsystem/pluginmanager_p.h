@@ -28,7 +28,7 @@ struct PluginManager::Private
     QList<SettingsFault> faults;
 
     QObjectList pool;
-    QReadWriteLock poolLock{QReadWriteLock::Recursive};
+    QReadWriteLock poolLock {QReadWriteLock::Recursive};
 };
 
 } // namespace ExtensionSystem

@@ -34,11 +34,11 @@ struct PluginResolution
 
 /// Decides over plain records, in search order: of two with one name the first sound one wins. An optional
 /// dependency that is absent, does not fit, or would close a circle is ignored. Same records, same result.
-[[nodiscard]] EXTENSIONSYSTEM_EXPORT PluginResolution
-resolvePlugins(const QList<PluginSpec> &specs, const PluginSelection &selection = {});
+[[nodiscard]] EXTENSIONSYSTEM_EXPORT PluginResolution resolvePlugins(
+    const QList<PluginSpec> &specs, const PluginSelection &selection = {});
 
 /// How a dependent words its reason: what it needs, then why that cannot be had.
-[[nodiscard]] EXTENSIONSYSTEM_EXPORT QString
-dependencyReason(const PluginSpec &needed, const QString &strReason);
+[[nodiscard]] EXTENSIONSYSTEM_EXPORT QString dependencyReason(
+    const PluginSpec &needed, const QString &strReason);
 
 } // namespace ExtensionSystem

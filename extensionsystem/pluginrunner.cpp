@@ -168,9 +168,8 @@ void PluginRunner::Private::resolve(const QList<PluginRecord> &records, const Pl
 void PluginRunner::Private::noteUnknown(const QStringList &names)
 {
     for (const QString &strName : names)
-        errors.append(
-            {strName, QString(), PluginPhase::Resolve,
-             QStringLiteral("named on the command line, but there is no such plug-in")});
+        errors.append({strName, QString(), PluginPhase::Resolve,
+            QStringLiteral("named on the command line, but there is no such plug-in")});
 }
 
 // An error that stops nobody.
@@ -268,9 +267,8 @@ void PluginRunner::Private::initialize(int n)
     Plugin &plugin = plugins[n];
     QString strError;
     bool bDone = false;
-    const QString strThrown = hook(n, PluginPhase::Initialize, [&] {
-        bDone = plugin.object->initialize(plugin.record.arguments, &strError);
-    });
+    const QString strThrown = hook(n, PluginPhase::Initialize,
+        [&] { bDone = plugin.object->initialize(plugin.record.arguments, &strError); });
     if (bDone)
         plugin.state = PluginState::Initialized;
     else if (strThrown.isEmpty())

@@ -66,8 +66,7 @@ QList<PluginRecord> findPlugins(const QStringList &folders)
             if (const auto record = readPlugin(file.absoluteFilePath()))
                 records.append(*record);
             else
-                qCDebug(
-                    lcExtensionSystem, "%s is no plug-in of this program",
+                qCDebug(lcExtensionSystem, "%s is no plug-in of this program",
                     qUtf8Printable(file.absoluteFilePath()));
         }
     }

@@ -77,8 +77,7 @@ public:
                 problem(pKey, QStringLiteral("has an entry that is no object"));
                 continue;
             }
-            Reader reader(
-                entries.at(i).toObject(), QStringLiteral("%1[%2] ").arg(QLatin1String(pKey)).arg(i),
+            Reader reader(entries.at(i).toObject(), QStringLiteral("%1[%2] ").arg(QLatin1String(pKey)).arg(i),
                 m_pProblems);
             function(reader);
         }

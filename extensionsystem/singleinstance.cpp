@@ -54,10 +54,8 @@ QString keyOf(const QString &strFolder)
 
 QByteArray RemoteCommand::toJson() const
 {
-    const QJsonObject object = {
-        {s_options, QJsonArray::fromStringList(options)},
-        {s_workingDirectory, workingDirectory},
-        {s_arguments, QJsonArray::fromStringList(arguments)}};
+    const QJsonObject object = {{s_options, QJsonArray::fromStringList(options)},
+        {s_workingDirectory, workingDirectory}, {s_arguments, QJsonArray::fromStringList(arguments)}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
@@ -197,9 +195,8 @@ void SingleInstance::accept(QLocalSocket *pSocket)
     connect(pTimer, &QTimer::timeout, this, [this, pSocket] { drop(pSocket, "the message takes too long"); });
     pTimer->start(s_nMessageTimeMs);
     connect(pSocket, &QLocalSocket::readyRead, this, [this, pSocket] { read(pSocket); });
-    connect(pSocket, &QLocalSocket::disconnected, this, [this, pSocket] {
-        drop(pSocket, "the sender went away in the middle of it");
-    });
+    connect(pSocket, &QLocalSocket::disconnected, this,
+        [this, pSocket] { drop(pSocket, "the sender went away in the middle of it"); });
     read(pSocket);
 }
 

@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: MIT
+# shellcheck shell=bash
 # Sourced by ./run, ./test and the other scripts: packages, configuring and building. Messages go to stderr.
 
 kelpa_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-kelpa_say() { printf '%s\n' "$*" >&2; }
+kelpa_say() { printf '%s\n' "$@" >&2; }
 kelpa_fail() { kelpa_say "$@"; exit 1; }
 
 kelpa_packages() { sed 's/#.*//' "$kelpa_root/packages.txt" | xargs -n 1; }

@@ -8,8 +8,7 @@
 class ChildProcess : public QProcess
 {
 public:
-    explicit ChildProcess(
-        const QString &strProgram, const QStringList &arguments,
+    explicit ChildProcess(const QString &strProgram, const QStringList &arguments,
         const QList<QPair<QString, QString>> &environment = {}, const QString &strFolder = QString())
     {
         QProcessEnvironment full = QProcessEnvironment::systemEnvironment();

@@ -47,8 +47,7 @@ void onInitializationDone()
 {
     print(QStringLiteral("done ") + PluginManager::arguments().join(QLatin1Char(' ')));
     if (PluginManager::settings())
-        print(
-            QStringLiteral("setting ")
+        print(QStringLiteral("setting ")
             + PluginManager::settings()->value(QStringLiteral("sea/level")).toString());
     if (qEnvironmentVariableIsSet("HOST_WRITES"))
         PluginManager::settings()->setValue(QStringLiteral("sea/level"), 7);

@@ -66,28 +66,18 @@ private:
 private slots:
     void theLifeOfRealLibraries()
     {
-        Host host(
-            {"good"},
-            withSettings(
-                m_settings.path(),
+        Host host({"good"},
+            withSettings(m_settings.path(),
                 {QStringLiteral("--depth"), QStringLiteral("20"), QStringLiteral("a.kelpa"),
-                 QStringLiteral("--rusty"), QStringLiteral("/b/../c.kelpa")}));
+                    QStringLiteral("--rusty"), QStringLiteral("/b/../c.kelpa")}));
         QCOMPARE(host.finish(), 0);
-        const QStringList expected = {
-            QStringLiteral("base construct"),
-            QStringLiteral("anchor construct"),
-            QStringLiteral("base initialize"),
-            QStringLiteral("anchor initialize --depth 20 --rusty"),
-            QStringLiteral("anchor extensionsInitialized"),
-            QStringLiteral("base extensionsInitialized"),
-            QStringLiteral("base delayedInitialize"),
-            QStringLiteral("anchor delayedInitialize"),
-            QStringLiteral("done /tmp/a.kelpa /c.kelpa"),
-            QStringLiteral("setting "),
-            QStringLiteral("anchor aboutToShutdown"),
-            QStringLiteral("base aboutToShutdown"),
-            QStringLiteral("anchor destroy"),
-            QStringLiteral("base destroy")};
+        const QStringList expected = {QStringLiteral("base construct"), QStringLiteral("anchor construct"),
+            QStringLiteral("base initialize"), QStringLiteral("anchor initialize --depth 20 --rusty"),
+            QStringLiteral("anchor extensionsInitialized"), QStringLiteral("base extensionsInitialized"),
+            QStringLiteral("base delayedInitialize"), QStringLiteral("anchor delayedInitialize"),
+            QStringLiteral("done /tmp/a.kelpa /c.kelpa"), QStringLiteral("setting "),
+            QStringLiteral("anchor aboutToShutdown"), QStringLiteral("base aboutToShutdown"),
+            QStringLiteral("anchor destroy"), QStringLiteral("base destroy")};
         QCOMPARE(host.lines(), expected);
         QCOMPARE(host.errors(), QString());
     }
@@ -110,8 +100,7 @@ private slots:
         QStringList expected;
         const auto expect = [&expected](const char *pName, const char *pPhase, const char *pReason) {
             expected.append(QStringLiteral("kelpa.extensionsystem: plug-in \"%1\", %2/lib%1.so, phase %3: %4")
-                                .arg(
-                                    QLatin1String(pName), testPath("bad"), QLatin1String(pPhase),
+                                .arg(QLatin1String(pName), testPath("bad"), QLatin1String(pPhase),
                                     QLatin1String(pReason)));
         };
         expect("behind", "initialize", "needs failing 1.0.0, which failed: no licence for the sea");
@@ -129,7 +118,7 @@ private slots:
         QTest::addColumn<QString>("out"); // found in what is printed
         QTest::addColumn<QString>("err");
         const auto row = [](const char *pName, const char *pOptions, int nExitCode, const char *pOut,
-                            const QString &strErr) {
+                             const QString &strErr) {
             QTest::newRow(pName) << QString::fromLatin1(pOptions).split(QLatin1Char(' ')) << nExitCode
                                  << QString::fromLatin1(pOut) << strErr;
         };
@@ -155,8 +144,8 @@ private slots:
             QStringLiteral("/no/such, phase read: there is no such folder\n"));
         row("the first of two with one name wins", "--plugin-path " TEST_ROOT "/double", 0,
             "anchor initialize",
-            QStringLiteral("phase resolve: a plug-in of this name was found before: " TEST_ROOT
-                           "/good/libbase.so\n"));
+            QStringLiteral(
+                "phase resolve: a plug-in of this name was found before: " TEST_ROOT "/good/libbase.so\n"));
         row("the profile names plug-in and phase", "--profile", 0, "done",
             QStringLiteral(" ms  anchor extensionsInitialized\n"));
         row("reading is profiled too", "--profile", 0, "done", QStringLiteral(" ms  base read\n"));
@@ -170,8 +159,7 @@ private slots:
         QFETCH(QString, err);
         Host host({"good"}, withSettings(m_settings.path(), options));
         QCOMPARE(host.finish(), exitCode);
-        QVERIFY2(
-            host.lines().join(QLatin1Char('\n')).contains(out),
+        QVERIFY2(host.lines().join(QLatin1Char('\n')).contains(out),
             qPrintable(host.lines().join(QLatin1Char('\n'))));
         QVERIFY2(host.errors().contains(err), qPrintable(host.errors()));
         QCOMPARE(host.errors().isEmpty(), err.isEmpty());
@@ -199,8 +187,7 @@ private slots:
         QFETCH(QString, message);
         Host host({"good", folder.constData()}, withSettings(m_settings.path()));
         QCOMPARE(host.finish(), 1);
-        QVERIFY2(
-            host.errors().contains(QStringLiteral("\nHost cannot start.\n") + message),
+        QVERIFY2(host.errors().contains(QStringLiteral("\nHost cannot start.\n") + message),
             qPrintable(host.errors()));
         QVERIFY(!host.lines().contains(QStringLiteral("done ")));
         QVERIFY(host.lines().contains(QStringLiteral("base destroy")));
@@ -208,10 +195,8 @@ private slots:
 
     void theRealProgramRefusesToRunWithoutARequiredPlugin()
     {
-        ChildProcess program(
-            QStringLiteral(KELPASTUDIO),
-            withSettings(
-                m_settings.path(),
+        ChildProcess program(QStringLiteral(KELPASTUDIO),
+            withSettings(m_settings.path(),
                 {QStringLiteral("--new-instance"), QStringLiteral("--plugin-path"), testPath("required")}));
         QCOMPARE(program.finish(), 1);
         QVERIFY2(
@@ -259,14 +244,12 @@ private slots:
             write(strStore, content);
         setModes(strStore, fileMode, folder.path(), folderMode);
 
-        Host host(
-            {"good"}, withSettings(folder.path()),
+        Host host({"good"}, withSettings(folder.path()),
             {{QStringLiteral("HOST_DROPS_ROOT"), QStringLiteral("1")},
-             {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
+                {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
         QCOMPARE(host.finish(), 0);
         const QStringList faults = host.lines().filter(QStringLiteral("fault "));
-        QCOMPARE(
-            faults,
+        QCOMPARE(faults,
             reason.isEmpty() ? QStringList()
                              : QStringList(QStringLiteral("fault %1: %2").arg(strStore, reason)));
         setModes(strStore, 0755, folder.path(), 0777);
@@ -281,13 +264,11 @@ private slots:
         QTemporaryDir folder;
         const QString strStore = folder.filePath(QStringLiteral("KelpaStudio.ini"));
         write(strStore, "[sea]\nlevel=3\n");
-        Host host(
-            {"good"}, withSettings(folder.path()),
+        Host host({"good"}, withSettings(folder.path()),
             {{QStringLiteral("HOST_DISK_FULL"), QStringLiteral("1")},
-             {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
+                {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
         QCOMPARE(host.finish(), 0);
-        QCOMPARE(
-            host.lines().filter(QStringLiteral("fault ")),
+        QCOMPARE(host.lines().filter(QStringLiteral("fault ")),
             QStringList(QStringLiteral("fault %1: it cannot be written").arg(strStore)));
         QCOMPARE(read(strStore), QByteArray("[sea]\nlevel=3\n"));
     }
@@ -296,8 +277,7 @@ private slots:
     {
         const auto set = [](const QString &strPath, int nMode) {
             // Octal digits of a mode are hexadecimal digits of Qt's flags.
-            QFile::setPermissions(
-                strPath,
+            QFile::setPermissions(strPath,
                 QFile::Permissions(
                     (nMode >> 6 & 7) << 12 | (nMode >> 6 & 7) << 8 | (nMode >> 3 & 7) << 4 | (nMode & 7)));
         };

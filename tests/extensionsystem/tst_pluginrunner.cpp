@@ -152,9 +152,9 @@ World randomWorld(quint32 nSeed)
     const int nNames = 3 + dice.below(14);
     const int nRecords = dice.below(nNames + 2);
     const int nTrouble = dice.below(12); // in percent: some worlds are peaceful
-    static const QStringList s_hooks = {QStringLiteral("construct"),  QStringLiteral("initialize"),
-                                        QStringLiteral("initialize"), QStringLiteral("extensions"),
-                                        QStringLiteral("delayed"),    QStringLiteral("shutdown")};
+    static const QStringList s_hooks = {QStringLiteral("construct"), QStringLiteral("initialize"),
+        QStringLiteral("initialize"), QStringLiteral("extensions"), QStringLiteral("delayed"),
+        QStringLiteral("shutdown")};
     for (int i = 0; i < nRecords; ++i) {
         PluginSpec plugin = spec(dice.percent(nTrouble) ? dice.name(nNames) : QStringLiteral("p%1").arg(i));
         plugin.file += QStringLiteral(".%1").arg(i);
@@ -251,7 +251,7 @@ private:
                 if (!m_byName.contains(strName))
                     continue;
                 for (const PluginDependency &dependency :
-                     m_world.specs.at(m_byName.value(strName)).dependencies) {
+                    m_world.specs.at(m_byName.value(strName)).dependencies) {
                     if (dependency.bRequired)
                         wanted.insert(dependency.name);
                 }
@@ -282,9 +282,8 @@ private:
     {
         std::set<QString> done;
         while (done.size() < loadable.size()) {
-            const auto next = std::find_if(loadable.begin(), loadable.end(), [&](const QString &strName) {
-                return !done.count(strName) && isReady(strName, done);
-            });
+            const auto next = std::find_if(loadable.begin(), loadable.end(),
+                [&](const QString &strName) { return !done.count(strName) && isReady(strName, done); });
             if (next == loadable.end()) {
                 bOrderCertain = false;
                 return;
@@ -451,8 +450,7 @@ private:
             seen.insert(plugin.name);
             for (const PluginDependency &dependency : plugin.dependencies) {
                 if (dependency.bRequired && constructed.contains(plugin.name))
-                    QVERIFY(
-                        log.indexOf(QStringLiteral("construct ") + dependency.name)
+                    QVERIFY(log.indexOf(QStringLiteral("construct ") + dependency.name)
                         < log.indexOf(QStringLiteral("construct ") + plugin.name));
             }
         }
@@ -506,9 +504,9 @@ private slots:
         QTest::newRow("one too old")
             << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:1:c"), QStringLiteral("c:0.9:")})
             << "needs b 1.0.0, which failed: needs c 1.0.0, but version 0.9.0 is too old (/x/c)";
-        QTest::newRow("one too new")
-            << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:2:")})
-            << "needs b 1.0.0, but version 2.0.0 is compatible only down to 2.0.0 (/x/b)";
+        QTest::newRow("one too new") << QStringList({QStringLiteral("a:1:b"),
+            QStringLiteral(
+                "b:2:")}) << "needs b 1.0.0, but version 2.0.0 is compatible only down to 2.0.0 (/x/b)";
         QTest::newRow("behind a circle")
             << QStringList({QStringLiteral("a:1:b"), QStringLiteral("b:1:c"), QStringLiteral("c:1:b")})
             << "needs b 1.0.0, which failed: needs itself: b -> c -> b";
@@ -531,20 +529,18 @@ private slots:
     void errorsAreData()
     {
         QStringList log;
-        PluginRunner runner(
-            {record(spec(QStringLiteral("b"), {QStringLiteral("a")}), &log),
-             record(spec(QStringLiteral("a")), &log, {QStringLiteral("initialize"), true, 1, 0, {}})});
+        PluginRunner runner({record(spec(QStringLiteral("b"), {QStringLiteral("a")}), &log),
+            record(spec(QStringLiteral("a")), &log, {QStringLiteral("initialize"), true, 1, 0, {}})});
         QSignalSpy failed(&runner, &PluginRunner::failed);
         QVERIFY(runner.start());
         const QList<PluginError> expected = {
             {QStringLiteral("a"), QStringLiteral("/x/a"), PluginPhase::Initialize,
-             QStringLiteral("exception: initialize")},
+                QStringLiteral("exception: initialize")},
             {QStringLiteral("b"), QStringLiteral("/x/b"), PluginPhase::Initialize,
-             QStringLiteral("needs a 1.0.0, which failed: exception: initialize")}};
+                QStringLiteral("needs a 1.0.0, which failed: exception: initialize")}};
         QCOMPARE(runner.errors(), expected);
         QCOMPARE(failed.size(), 2);
-        QCOMPARE(
-            runner.errors().at(0).text(),
+        QCOMPARE(runner.errors().at(0).text(),
             QStringLiteral("plug-in \"a\", /x/a, phase initialize: exception: initialize"));
     }
 
@@ -583,15 +579,13 @@ private slots:
             emit pPlugin->asynchronousShutdownFinished();
             return IPlugin::AsynchronousShutdown;
         };
-        PluginRunner runner(
-            {record(spec(QStringLiteral("a")), &log, later),
-             record(spec(QStringLiteral("b")), &log, atOnce)});
+        PluginRunner runner({record(spec(QStringLiteral("a")), &log, later),
+            record(spec(QStringLiteral("b")), &log, atOnce)});
         QVERIFY(runner.start());
         log.clear();
         runner.shutdown(20000);
-        const QStringList expected = {
-            QStringLiteral("shutdown b"), QStringLiteral("shutdown a"), QStringLiteral("finished"),
-            QStringLiteral("destroy b"), QStringLiteral("destroy a")};
+        const QStringList expected = {QStringLiteral("shutdown b"), QStringLiteral("shutdown a"),
+            QStringLiteral("finished"), QStringLiteral("destroy b"), QStringLiteral("destroy a")};
         QCOMPARE(log, expected);
         QVERIFY(runner.errors().isEmpty());
     }

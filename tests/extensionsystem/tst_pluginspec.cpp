@@ -69,8 +69,7 @@ private slots:
     void everyProblemIsNamedAndTheRestIsKept()
     {
         const PluginSpec spec = PluginSpec::fromJson({{QStringLiteral("Required"), true}}, QString());
-        QCOMPARE(
-            spec.problems,
+        QCOMPARE(spec.problems,
             QStringList({QStringLiteral("\"Name\" is missing"), QStringLiteral("\"Version\" is missing")}));
         QVERIFY(spec.bRequired);
     }

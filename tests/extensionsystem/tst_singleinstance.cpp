@@ -43,11 +43,9 @@ private:
     std::unique_ptr<ChildProcess> host(
         const QStringList &arguments = {}, const char *pSettings = "settings") const
     {
-        const QStringList line = {
-            QStringLiteral("--plugin-path"), testPath("good"), QStringLiteral("--settings-path"),
-            folder(pSettings)};
-        return std::make_unique<ChildProcess>(
-            testPath("testhost"), line + arguments,
+        const QStringList line = {QStringLiteral("--plugin-path"), testPath("good"),
+            QStringLiteral("--settings-path"), folder(pSettings)};
+        return std::make_unique<ChildProcess>(testPath("testhost"), line + arguments,
             QList<QPair<QString, QString>>({{QLatin1String(s_stays), QStringLiteral("1")}}),
             folder("elsewhere"));
     }
@@ -94,9 +92,8 @@ private slots:
         const auto pFirst = runningHost();
         QElapsedTimer timer;
         timer.start();
-        const auto pSecond = host(
-            {QStringLiteral("--depth=20"), QStringLiteral("sub/a b.kelpa"), QStringLiteral("--"),
-             QStringLiteral("-ü.kelpa")});
+        const auto pSecond = host({QStringLiteral("--depth=20"), QStringLiteral("sub/a b.kelpa"),
+            QStringLiteral("--"), QStringLiteral("-ü.kelpa")});
         QCOMPARE(pSecond->finish(), 0);
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(pSecond->lines().isEmpty());
@@ -109,15 +106,13 @@ private slots:
 
     void theRealProgramOpensInTheFirstWindow()
     {
-        const QStringList line = {
-            QStringLiteral("--plugin-path"), testPath("good"), QStringLiteral("--settings-path"),
-            folder("settings")};
+        const QStringList line = {QStringLiteral("--plugin-path"), testPath("good"),
+            QStringLiteral("--settings-path"), folder("settings")};
         ChildProcess first(QStringLiteral(KELPASTUDIO), line);
         QVERIFY(first.waitForLine(QStringLiteral("anchor delayedInitialize")));
         QElapsedTimer timer;
         timer.start();
-        ChildProcess second(
-            QStringLiteral(KELPASTUDIO), line + QStringList(QStringLiteral("one.kelpa")), {},
+        ChildProcess second(QStringLiteral(KELPASTUDIO), line + QStringList(QStringLiteral("one.kelpa")), {},
             folder("elsewhere"));
         QCOMPARE(second.finish(), 0);
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
@@ -179,8 +174,7 @@ private slots:
         QVERIFY(freeze(*pFirst));
         const auto pSecond = host({QStringLiteral("a.kelpa")});
         QVERIFY(pSecond->waitForLine(QStringLiteral("done %1/a.kelpa").arg(folder("elsewhere"))));
-        QCOMPARE(
-            pSecond->errors(),
+        QCOMPARE(pSecond->errors(),
             QStringLiteral("The running instance does not answer; another one is started.\n"));
     }
 
@@ -192,8 +186,7 @@ private slots:
             const auto isUp = [](const ChildProcess &process) {
                 return process.lines().contains(QStringLiteral("setting "));
             };
-            QTRY_VERIFY_WITH_TIMEOUT(
-                (isUp(*pOne) && pTwo->state() == QProcess::NotRunning)
+            QTRY_VERIFY_WITH_TIMEOUT((isUp(*pOne) && pTwo->state() == QProcess::NotRunning)
                     || (isUp(*pTwo) && pOne->state() == QProcess::NotRunning),
                 20000);
             QVERIFY(!isUp(*pOne) || !isUp(*pTwo));
@@ -272,8 +265,7 @@ private slots:
     void whatIsTooLongToHandOverStartsByItself()
     {
         SingleInstance instance(folder("settings"));
-        QCOMPARE(
-            instance.claim({{}, {}, {QString(SingleInstance::s_nLargestMessage, QLatin1Char('x'))}}),
+        QCOMPARE(instance.claim({{}, {}, {QString(SingleInstance::s_nLargestMessage, QLatin1Char('x'))}}),
             SingleInstance::Role::Alone);
         QVERIFY(instance.problem().contains(QLatin1String("too long")));
     }
