@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-/// What a benchmark may take: nanoseconds, or a multiple of another benchmark's time.
+/// What a benchmark may take: nanoseconds, or a multiple of another benchmark's time. Processor time counts:
+/// the work is that of one thread, and other programs on the machine must not matter.
 struct Bound
 {
     const char *pName;
@@ -17,7 +18,7 @@ struct Bound
     const char *pComparedTo;
 };
 
-/// Prints like the console and keeps the real time of every repetition, to compare the medians with the
+/// Prints like the console and keeps the time of every repetition, to compare the medians with the
 /// bounds.
 class BoundsReporter : public benchmark::ConsoleReporter
 {
@@ -28,7 +29,7 @@ public:
             if (run.run_type == Run::RT_Aggregate && run.aggregate_name != "median")
                 continue;
             const double fNs =
-                run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+                run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
             if (run.run_type == Run::RT_Aggregate)
                 m_times[run.run_name.str()] = {fNs};
             else

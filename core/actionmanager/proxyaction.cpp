@@ -20,7 +20,6 @@ void ProxyAction::setAction(QAction *pAction)
     m_bPointed = pAction;
     if (pAction)
         m_destroyedConnection = connect(pAction, &QObject::destroyed, this, &ProxyAction::liveActionChanged);
-    connectAction();
     emit liveActionChanged();
     updateState();
 }
@@ -71,7 +70,8 @@ void ProxyAction::updateState()
         setEnabled(false);
 }
 
-// Each step tells the world, and whoever listens may delete the source or this proxy.
+// Each step tells the world, and whoever listens may delete the source or this proxy. The setters of icons
+// would tell it also without a change.
 void ProxyAction::update(QAction *pSource, bool bInitialize)
 {
     using To = ProxyAction &;
@@ -84,9 +84,17 @@ void ProxyAction::update(QAction *pSource, bool bInitialize)
     } s_steps[] = {
         {Initialize, [](To to, From from) { to.setSeparator(from.isSeparator()); }},
         {Initialize, [](To to, From from) { to.setMenuRole(from.menuRole()); }},
-        {Icon, [](To to, From from) { to.setIcon(from.icon()); }},
+        {Icon,
+         [](To to, From from) {
+             if (to.icon().cacheKey() != from.icon().cacheKey())
+                 to.setIcon(from.icon());
+         }},
         {Icon, [](To to, From from) { to.setIconText(from.iconText()); }},
-        {Icon, [](To to, From from) { to.setIconVisibleInMenu(from.isIconVisibleInMenu()); }},
+        {Icon,
+         [](To to, From from) {
+             if (to.isIconVisibleInMenu() != from.isIconVisibleInMenu())
+                 to.setIconVisibleInMenu(from.isIconVisibleInMenu());
+         }},
         {Text, [](To to, From from) { to.setText(from.text()); }},
         {Text,
          [](To to, From from) {
