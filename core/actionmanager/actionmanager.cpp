@@ -4,6 +4,7 @@
 #include "actionmanager/actioncontainer.h"
 #include "actionmanager/actionmanager_p.h"
 #include "actionmanager/contextaction.h"
+#include "actionmanager/proxyaction.h"
 #include "actionmanager/shortcuts.h"
 #include "icore.h"
 #include "mainwindow.h"
@@ -68,10 +69,10 @@ ContextAction *ActionManager::registerAction(
 {
     if (!s_pInstance || !pAction || !pContext || strId.isEmpty())
         return nullptr;
-    const auto pCommand = s_pInstance->d->addAction(pAction, strId, pContext, bScriptable);
+    const auto pProxy = s_pInstance->d->addAction(pAction, strId, pContext, bScriptable);
     emit s_pInstance->commandListChanged();
     emit s_pInstance->commandAdded(strId);
-    return pCommand;
+    return pProxy ? static_cast<ContextAction *>(pProxy->parent()) : nullptr;
 }
 
 void ActionManager::unregisterAction(QAction *pAction, const QString &strId, const QString &strContext)

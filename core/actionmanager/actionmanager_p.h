@@ -11,6 +11,7 @@
 
 class ActionContainer;
 class ContextAction;
+class ProxyAction;
 class QAction;
 class QSettings;
 class QWidget;
@@ -26,11 +27,13 @@ public:
     ~ActionManagerPrivate() override;
 
     void enterWindow(QWidget *pWindow);
-    QPointer<ContextAction> addAction(
+    /// The command's proxy, its child.
+    QPointer<ProxyAction> addAction(
         QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable);
     void removeAction(QAction *pAction, ContextAction *pCommand);
     ActionContainer *addContainer(const QString &strId, ActionContainer *pContainer, QWidget *pShownIn);
     void setContext(QWidget *pContext);
+    void putOutOfLine(const QString &strId) { m_outOfLine.insert(m_outOfLine.end(), strId); }
 
     /// In ascending order of the ids, each watched: whoever listens to a command may unregister others.
     [[nodiscard]] QList<QPointer<ContextAction>> commands() const;
@@ -41,7 +44,8 @@ public:
     /// Empty without a store, without a key, and for what is no key sequence.
     [[nodiscard]] QKeySequence storedShortcut(const QString &strId) const;
 
-    QMap<QString, ContextAction *> m_actions;
+    using Actions = QMap<QString, ContextAction *>;
+    Actions m_actions;
     QMap<QString, ActionContainer *> m_containers;
     QWidget *m_pCurrentContext = nullptr;
     QSettings *m_pSettings = nullptr;
@@ -50,11 +54,11 @@ private slots:
     void containerDestroyed();
 
 private:
-    ContextAction *createCommand(const QString &strId);
+    ContextAction *createCommand(const QString &strId, Actions::const_iterator before);
     void removeOverride(QAction *pAction, ContextAction *pCommand);
     void dropCommand(ContextAction *pCommand);
     void dropContainers();
-    void putOutOfLine(QWidget *pContext);
+    void putContextOutOfLine(QWidget *pContext);
 
     /// The main window that the commands came to last.
     QPointer<QWidget> m_pWindow;

@@ -66,34 +66,41 @@ void ActionManagerPrivate::enterWindow(QWidget *pWindow)
     m_pFallback = nullptr;
 }
 
-QPointer<ContextAction> ActionManagerPrivate::addAction(
+// A new proxy gets its shortcut and its window when it is complete: each change before would scan Qt's table
+// of shortcuts, or reach the window as an event. The shortcut comes before any default: the user's wins.
+QPointer<ProxyAction> ActionManagerPrivate::addAction(
     QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable)
 {
-    QPointer<ContextAction> pCommand = m_actions.value(strId);
-    if (!pCommand)
-        pCommand = createCommand(strId);
-    if (pContext != ICore::getMainWindow())
+    QWidget *pWindow = ICore::getMainWindow();
+    const auto it = m_actions.lowerBound(strId);
+    const bool bNew = it == m_actions.end() || it.key() != strId;
+    ContextAction *pCommand = bNew ? createCommand(strId, it) : *it;
+    // A command with one action, and that for all contexts, is in line whatever the context.
+    const bool bInLine = bNew && pContext == pWindow;
+    if (pContext != pWindow)
         m_idsOf[pContext].insert(strId);
-    m_outOfLine.insert(strId);
+    QPointer<ProxyAction> pProxy = pCommand->m_pProxy;
+    pCommand->m_bOutOfLine = pCommand->m_bOutOfLine || bInLine;
     pCommand->addOverrideAction(pAction, pContext, bScriptable);
-    return pCommand;
+    if (!bNew || !pProxy)
+        return pProxy;
+    if (bInLine)
+        pCommand->m_bOutOfLine = false;
+    const QKeySequence keys = pCommand->isSeparator() ? QKeySequence() : storedShortcut(strId);
+    if (!keys.isEmpty())
+        pCommand->setKeySequence(keys);
+    if (pWindow)
+        pWindow->addAction(pProxy);
+    return pProxy;
 }
 
-// Settings and context come before the first action: a stored shortcut wins over any default.
-ContextAction *ActionManagerPrivate::createCommand(const QString &strId)
+ContextAction *ActionManagerPrivate::createCommand(const QString &strId, Actions::const_iterator before)
 {
-    auto *pCommand = new ContextAction(strId);
-    m_actions.insert(strId, pCommand);
-    pCommand->setKeySequence(storedShortcut(strId));
+    auto *pCommand = new ContextAction(strId, this);
+    m_actions.insert(before, strId, pCommand);
     QAction *pProxy = pCommand->getAction();
     pProxy->setObjectName(strId);
-    pCommand->setCurrentContext(m_pCurrentContext);
-    if (QWidget *pWindow = ICore::getMainWindow())
-        pWindow->addAction(pProxy);
     pProxy->setShortcutContext(Qt::ApplicationShortcut);
-    connect(pCommand->m_pProxy, &ProxyAction::liveActionChanged, this, [this, strId] {
-        m_outOfLine.insert(strId);
-    });
     return pCommand;
 }
 
@@ -108,18 +115,17 @@ void ActionManagerPrivate::removeAction(QAction *pAction, ContextAction *pComman
 void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pCommand)
 {
     const QString strId = pCommand->getId();
-    const auto contexts = pCommand->m_overrides.keys();
+    const auto overrides = pCommand->m_overrides;
     const QPointer<ContextAction> pWatched(pCommand);
     pCommand->removeOverrideAction(pAction);
-    for (QWidget *pContext : contexts) {
-        const auto it = m_idsOf.find(pContext);
-        if (it == m_idsOf.end() || (pWatched && pWatched->m_overrides.contains(pContext)))
+    for (const auto &entry : overrides) {
+        const auto it = m_idsOf.find(entry.pContext);
+        if (it == m_idsOf.end() || (pWatched && pWatched->overrideOf(entry.pContext)))
             continue;
         it->erase(strId);
         if (it->empty())
             m_idsOf.erase(it);
     }
-    m_outOfLine.insert(strId);
 }
 
 void ActionManagerPrivate::dropCommand(ContextAction *pCommand)
@@ -175,19 +181,21 @@ void ActionManagerPrivate::setContext(QWidget *pContext)
         m_pFallback = ICore::getMainWindow();
         m_outOfLine.insert(m_actions.keyBegin(), m_actions.keyEnd());
     }
-    putOutOfLine(m_pCurrentContext);
-    putOutOfLine(pContext);
+    putContextOutOfLine(m_pCurrentContext);
+    putContextOutOfLine(pContext);
     m_pCurrentContext = pContext;
     QString strLast;
     for (auto it = m_outOfLine.begin(); it != m_outOfLine.end(); it = m_outOfLine.upper_bound(strLast)) {
         strLast = *it;
         m_outOfLine.erase(it);
-        if (ContextAction *pCommand = m_actions.value(strLast))
+        if (ContextAction *pCommand = m_actions.value(strLast)) {
+            pCommand->m_bOutOfLine = false;
             pCommand->setCurrentContext(m_pCurrentContext);
+        }
     }
 }
 
-void ActionManagerPrivate::putOutOfLine(QWidget *pContext)
+void ActionManagerPrivate::putContextOutOfLine(QWidget *pContext)
 {
     const auto it = m_idsOf.constFind(pContext);
     if (it != m_idsOf.constEnd())
@@ -200,9 +208,12 @@ QKeySequence ActionManagerPrivate::storedShortcut(const QString &strId) const
     if (!m_pSettings)
         return {};
     const QString strText = m_pSettings->value(Shortcuts::keyOf(strId), QString()).toString();
+    if (strText.isEmpty())
+        return {};
     if (const auto keys = Shortcuts::parse(strText, QKeySequence::NativeText))
         return *keys;
-    qCWarning(lcActions, "%s: the shortcut of %s is no key sequence: %s",
-        qUtf8Printable(m_pSettings->fileName()), qUtf8Printable(strId), qUtf8Printable(strText.left(80)));
+    qCWarning(
+        lcActions, "%s: the shortcut of %s is no key sequence: %s", qUtf8Printable(m_pSettings->fileName()),
+        qUtf8Printable(strId), qUtf8Printable(strText.left(80)));
     return {};
 }

@@ -1,13 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "actionmanager/contextaction.h"
 
+#include "actionmanager/actionmanager_p.h"
 #include "actionmanager/proxyaction.h"
 #include "icore.h"
 #include "mainwindow.h"
 
-ContextAction::ContextAction(const QString &strId)
+#include <algorithm>
+#include <utility>
+
+/// A virtual function in place of a signal: registering thousands of commands shows the difference.
+class ContextAction::Proxy : public ProxyAction
+{
+public:
+    explicit Proxy(ContextAction *pCommand)
+        : ProxyAction(pCommand)
+        , m_pCommand(pCommand)
+    {
+    }
+
+protected:
+    void liveActionChanged() override { m_pCommand->putOutOfLine(); }
+
+private:
+    ContextAction *m_pCommand;
+};
+
+ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManager)
     : m_strId(strId)
-    , m_pProxy(new ProxyAction(this))
+    , m_pProxy(new Proxy(this))
+    , m_pManager(pManager)
 {
     m_pProxy->setShortcutVisibleInToolTip(true);
     connect(m_pProxy, &QAction::changed, this, &ContextAction::updateActiveState);
@@ -17,6 +39,12 @@ ContextAction::ContextAction(const QString &strId)
 ContextAction::~ContextAction()
 {
     delete m_pProxy;
+}
+
+void ContextAction::putOutOfLine()
+{
+    if (!std::exchange(m_bOutOfLine, true))
+        m_pManager->putOutOfLine(m_strId);
 }
 
 QAction *ContextAction::getAction() const
@@ -50,22 +78,31 @@ bool ContextAction::isSeparator() const
 // A copy: who listens to an action may register or unregister others.
 void ContextAction::setVisible(bool bVisible)
 {
-    const auto actions = m_overrides.values();
-    for (const QPointer<QAction> &pAction : actions) {
-        if (pAction)
-            pAction->setVisible(bVisible);
+    const auto overrides = m_overrides;
+    for (const Override &entry : overrides) {
+        if (entry.pAction)
+            entry.pAction->setVisible(bVisible);
     }
 }
 
+const ContextAction::Override *ContextAction::overrideOf(const QWidget *pContext) const
+{
+    const auto it = std::find_if(m_overrides.begin(), m_overrides.end(), [=](const Override &entry) {
+        return entry.pContext == pContext;
+    });
+    return it == m_overrides.end() ? nullptr : &*it;
+}
+
+// The proxy dies with the command, and both may while the proxy tells the world.
 void ContextAction::setCurrentContext(QWidget *pContext)
 {
-    const bool bOwn = m_overrides.contains(pContext);
-    m_pCurrentContext = bOwn ? pContext : ICore::getMainWindow();
-    if (!m_pProxy)
+    m_pCurrentContext = overrideOf(pContext) ? pContext : ICore::getMainWindow();
+    const QPointer<ProxyAction> pProxy = m_pProxy;
+    if (!pProxy)
         return;
-    const QPointer<ContextAction> pGuard(this);
-    m_pProxy->setAction(m_overrides.value(m_pCurrentContext));
-    if (pGuard)
+    const Override *pEntry = overrideOf(m_pCurrentContext);
+    pProxy->setAction(pEntry ? pEntry->pAction.data() : nullptr);
+    if (pProxy)
         updateActiveState();
 }
 
@@ -99,23 +136,20 @@ QString ContextAction::stringWithAppendedShortcut(const QString &strText) const
 
 void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable)
 {
-    const QPointer<ContextAction> pGuard(this);
-    if (m_overrides.isEmpty() && m_pProxy)
-        m_pProxy->initialize(pAction);
-    if (!pGuard)
+    const QPointer<ProxyAction> pProxy = m_pProxy;
+    if (m_overrides.isEmpty() && pProxy)
+        pProxy->initialize(pAction);
+    if (!pProxy)
         return;
-    if (!m_overrides.contains(pContext)) {
-        m_overrides.insert(pContext, pAction);
-        m_scriptable.insert(pAction, bScriptable);
-    }
+    if (!overrideOf(pContext))
+        m_overrides.append({pContext, pAction, bScriptable});
     setCurrentContext(pContext);
 }
 
 // Actions that are gone go with it.
 void ContextAction::removeOverrideAction(QAction *pAction)
 {
-    using Iterator = decltype(m_overrides)::iterator;
-    m_overrides.removeIf([=](Iterator it) { return !*it || *it == pAction; });
+    m_overrides.removeIf([=](const Override &entry) { return !entry.pAction || entry.pAction == pAction; });
     setCurrentContext(m_pCurrentContext);
 }
 

@@ -4,7 +4,7 @@
 #include <core_global.h>
 
 #include <QKeySequence>
-#include <QMap>
+#include <QList>
 #include <QObject>
 #include <QPointer>
 
@@ -80,7 +80,17 @@ private:
     friend class ActionManager;
     friend class ActionManagerPrivate;
 
-    explicit ContextAction(const QString &strId);
+    class Proxy;
+    struct Override
+    {
+        QWidget *pContext;
+        QPointer<QAction> pAction;
+        bool bScriptable;
+    };
+
+    ContextAction(const QString &strId, ActionManagerPrivate *pManager);
+    void putOutOfLine();
+    [[nodiscard]] const Override *overrideOf(const QWidget *pContext) const;
     void addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable);
     void removeOverrideAction(QAction *pAction);
     void setActive(bool bActive);
@@ -91,7 +101,11 @@ private:
     QKeySequence m_defaultKeySequence;
     QString m_strDescription;
     QPointer<ProxyAction> m_pProxy;
-    QMap<QWidget *, QPointer<QAction>> m_overrides;
-    QMap<QAction *, bool> m_scriptable;
+    /// One for each context widget. There are few, and most commands have one.
+    QList<Override> m_overrides;
     bool m_bActive = false;
+
+    /// The manager knows that the live action need not be the one that the current context asks for.
+    bool m_bOutOfLine = false;
+    ActionManagerPrivate *m_pManager;
 };

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "actionmanager/proxyaction.h"
 
+#include <utility>
+
 ProxyAction::ProxyAction(QObject *pParent)
     : QAction(pParent)
 {
-    connectToolTip();
     updateState();
+    connect(this, &QAction::changed, this, [this] {
+        if (!m_bMirroring)
+            updateToolTipWithKeySequence();
+    });
 }
 
 // Null after an action that died is no repetition: the proxy still has to give up its state.
@@ -20,7 +25,7 @@ void ProxyAction::setAction(QAction *pAction)
     m_bPointed = pAction;
     if (pAction)
         m_destroyedConnection = connect(pAction, &QObject::destroyed, this, &ProxyAction::liveActionChanged);
-    emit liveActionChanged();
+    liveActionChanged();
     updateState();
 }
 
@@ -115,15 +120,15 @@ void ProxyAction::update(QAction *pSource, bool bInitialize)
     const QPointer<ProxyAction> pThis(this);
     const QPointer<QAction> pFrom(pSource);
     disconnectAction();
-    disconnect(m_toolTipConnection);
+    const bool bOuter = std::exchange(m_bMirroring, true);
     for (const auto &step : s_steps) {
         if (pThis && pFrom && (step.nWhen & nWhen))
             step.copy(*pThis, *pFrom);
     }
     if (!pThis)
         return;
+    m_bMirroring = bOuter;
     connectAction();
-    connectToolTip();
 }
 
 void ProxyAction::updateToolTipWithKeySequence()
@@ -138,7 +143,8 @@ void ProxyAction::updateToolTipWithKeySequence()
         m_bUpdatingToolTip = false;
 }
 
-// Off first: an update within an update must not leave two sets behind.
+// Off first: an update within an update must not leave two sets behind. Only checkable actions toggle, and
+// one that becomes checkable says so and is connected anew.
 void ProxyAction::connectAction()
 {
     disconnectAction();
@@ -147,13 +153,9 @@ void ProxyAction::connectAction()
     m_connections = {
         connect(m_pAction, &QAction::changed, this, &ProxyAction::actionChanged),
         connect(this, &QAction::triggered, m_pAction, &QAction::triggered),
-        connect(this, &QAction::toggled, m_pAction, &QAction::setChecked)};
-}
-
-void ProxyAction::connectToolTip()
-{
-    disconnect(m_toolTipConnection);
-    m_toolTipConnection = connect(this, &QAction::changed, this, &ProxyAction::updateToolTipWithKeySequence);
+        {}};
+    if (m_pAction->isCheckable())
+        m_connections[2] = connect(this, &QAction::toggled, m_pAction, &QAction::setChecked);
 }
 
 void ProxyAction::disconnectAction()

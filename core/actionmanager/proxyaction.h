@@ -50,9 +50,9 @@ public:
 
     [[nodiscard]] static QString stringWithAppendedShortcut(const QString &strText, const QKeySequence &keys);
 
-signals:
+protected:
     /// It points at another action, or the one it points at was destroyed.
-    void liveActionChanged();
+    virtual void liveActionChanged() { }
 
 private slots:
     void actionChanged();
@@ -63,7 +63,6 @@ private:
     void update(QAction *pSource, bool bInitialize);
     void connectAction();
     void disconnectAction();
-    void connectToolTip();
 
     QPointer<QAction> m_pAction;
     Attributes m_attributes;
@@ -73,8 +72,8 @@ private:
 
     /// Whether it was pointed at an action last, living or not.
     bool m_bPointed = false;
+    bool m_bMirroring = false;
     std::array<QMetaObject::Connection, 3> m_connections;
-    QMetaObject::Connection m_toolTipConnection;
     QMetaObject::Connection m_destroyedConnection;
 };
 
