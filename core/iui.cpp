@@ -70,18 +70,28 @@ void widenContents(QMessageBox *pBox)
     }
 }
 
+// An icon only ever shrinks its pixmaps; between the sizes there are, the image is enlarged here.
+QPixmap messageIcon(const QString &strName, int nDPI)
+{
+    const int nSide = DisplayScale::proportional(nDPI, 32);
+    const QIcon icon = IUi::getIcon(strName, 0, QStringLiteral(":/designer/images/"));
+    const QPixmap pixmap = icon.pixmap(QSize(nSide, nSide), 1.0, QIcon::Normal, QIcon::Off);
+    if (pixmap.isNull())
+        return pixmap;
+    return pixmap.scaled(nSide, nSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, const QString &strTitle,
     const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
 {
     QWidget *pOwner = pParent ? pParent : ICore::getMainWindow();
     QMessageBox box(pOwner);
     box.setWindowTitle(strTitle);
+    box.setTextFormat(Qt::PlainText);
     box.setText(strText);
     box.setStandardButtons(buttons);
     box.setDefaultButton(defaultButton);
-    const int nSize = DisplayScale::proportional(DisplayScale::logicalDpi(pOwner), 32);
-    const QIcon icon = IUi::getIcon(strIcon, 0, QStringLiteral(":/designer/images/"));
-    box.setIconPixmap(icon.pixmap(QSize(nSize, nSize), 1.0));
+    box.setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pOwner)));
     widenContents(&box);
     if (box.exec() == -1 || !box.clickedButton())
         return QMessageBox::Cancel;

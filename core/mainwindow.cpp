@@ -11,6 +11,7 @@
 #include "document/ieditor.h"
 #include "icore.h"
 #include "ui/imainmdiarea.h"
+#include "ui/ioptionsdlg.h"
 
 #include <extensionsystem/pluginmanager.h>
 

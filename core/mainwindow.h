@@ -130,6 +130,6 @@ private:
     ActionManager *m_pActionManager = nullptr;
     ContextManager *m_pContextManager = nullptr;
     ICore *m_pCore = nullptr;
-    IOptionsDlg *m_pOptionsDlg = nullptr;
+    QPointer<IOptionsDlg> m_pOptionsDlg;
     int m_nDisplayScale = 0;
 };

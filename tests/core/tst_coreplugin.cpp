@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <extensionsystem/iplugin.h>
+#include <icore.h>
+#include <mainwindow.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QPluginLoader>
+
+using ExtensionSystem::IPlugin;
+using ExtensionSystem::PluginManager;
+
+class tst_CorePlugin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_pFactory = std::make_unique<FakeFactory>();
+        PluginManager::settings()->setValue("Kelpa/Language", "pt_BR");
+        m_loader.setFileName(KELPA_CORE_PLUGIN);
+        m_pPlugin = qobject_cast<IPlugin *>(m_loader.instance());
+        QVERIFY2(m_pPlugin, qPrintable(m_loader.errorString()));
+    }
+
+    void cleanup()
+    {
+        for (const auto &pDocument : std::as_const(m_pFactory->documents))
+            delete pDocument;
+        for (const auto &pEditor : std::as_const(m_pFactory->editors))
+            delete pEditor;
+        delete m_pPlugin;
+        m_pFactory.reset();
+        m_pProgram.reset();
+    }
+
+    void metadata()
+    {
+        const QJsonObject header = m_loader.metaData();
+        QCOMPARE(header.value("IID").toString(), "com.ORVEN.Kelpa.Plugin");
+        QCOMPARE(header.value("className").toString(), "CorePlugin");
+        const QJsonObject data = header.value("MetaData").toObject();
+        QCOMPARE(data.keys(),
+            QStringList({"Arguments", "Category", "CompatVersion", "Copyright", "Dependencies", "Description",
+                "License", "Name", "Required", "Url", "Vendor", "Version"}));
+        QCOMPARE(data.value("Name").toString(), "core");
+        QCOMPARE(data.value("Version").toString(), "1.0.0");
+        QCOMPARE(data.value("CompatVersion").toString(), "1.0.0");
+        QVERIFY(data.value("Required").toBool());
+        QVERIFY(data.value("Dependencies").toArray().isEmpty());
+    }
+
+    void lifeFromConstructionToTheEnd()
+    {
+        QCOMPARE(QLocale().name(), "pt_BR");
+        MainWindow *pWindow = ICore::getMainWindow();
+        QVERIFY(pWindow && !pWindow->isVisible());
+        QString strError = "untouched";
+        QVERIFY(m_pPlugin->initialize({"/ignored.kelpa"}, &strError));
+        QCOMPARE(strError, "untouched");
+        m_pPlugin->extensionsInitialized();
+        QVERIFY(pWindow->isVisible());
+        QVERIFY(m_pPlugin->delayedInitialize());
+        QCOMPARE(m_pPlugin->aboutToShutdown(), IPlugin::SynchronousShutdown);
+        delete m_pPlugin;
+        m_pPlugin = nullptr;
+        QVERIFY(!ICore::getInstance() && !ICore::getMainWindow());
+        QVERIFY(m_pFactory->documents.isEmpty());
+    }
+
+    void remoteCommandRaisesThenOpensInOrder()
+    {
+        MainWindow *pWindow = ICore::getMainWindow();
+        pWindow->setWindowState(Qt::WindowMinimized | Qt::WindowMaximized);
+        const QString strAbsolute = m_pProgram->write("c.kelpa");
+        m_pProgram->write("b.kelpa");
+        QList<Qt::WindowStates> states;
+        m_pFactory->prepare = [&](FakeDocument *) { states.append(pWindow->windowState()); };
+        QCOMPARE(m_pPlugin->remoteCommand({"--option"}, m_pProgram->folder.path(), {"b.kelpa", strAbsolute}),
+            nullptr);
+        QCOMPARE(names(), QStringList({m_pProgram->filePath("b.kelpa"), strAbsolute}));
+        QVERIFY(!states.first().testFlag(Qt::WindowMinimized));
+        QVERIFY(states.first().testFlag(Qt::WindowMaximized));
+    }
+
+    void openRequestResolvesAgainstTheCurrentFolder()
+    {
+        const QString strOld = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_pProgram->folder.path()));
+        m_pProgram->write("d.kelpa");
+        QVERIFY(QMetaObject::invokeMethod(m_pPlugin, "fileOpenRequest", Q_ARG(QString, "d.kelpa")));
+        QCOMPARE(names(), QStringList({QDir::current().absoluteFilePath("d.kelpa")}));
+        QVERIFY(QDir::setCurrent(strOld));
+    }
+
+    void settingsAreAnnouncedBeforeTheyAreFlushed()
+    {
+        QVERIFY(ICore::settings(QSettings::UserScope) != ICore::settings(QSettings::SystemScope));
+        QCOMPARE(ICore::settings(static_cast<QSettings::Scope>(7)), PluginManager::globalSettings());
+        connect(ICore::getInstance(), &ICore::aboutToSaveSettings, this, [] {
+            PluginManager::settings()->setValue("late", "user");
+            PluginManager::globalSettings()->setValue("late", "machine");
+        });
+        QVERIFY(QMetaObject::invokeMethod(ICore::getInstance(), "saveSettings"));
+        for (const char *pStore : {"user", "machine"}) {
+            QFile file(m_pProgram->folder.filePath(QString(pStore) + ".ini"));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QVERIFY(file.readAll().contains(QByteArray("late=") + pStore));
+        }
+    }
+
+    void resourcesLieBesideTheProgram()
+    {
+        QCOMPARE(ICore::resourcePath(), QFileInfo(QCoreApplication::applicationFilePath()).path());
+    }
+
+private:
+    [[nodiscard]] QStringList names() const
+    {
+        QStringList result;
+        for (const auto &pDocument : m_pFactory->documents)
+            result.append(pDocument->getFileName());
+        return result;
+    }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<FakeFactory> m_pFactory;
+    QPluginLoader m_loader;
+    IPlugin *m_pPlugin = nullptr;
+};
+
+QTEST_MAIN(tst_CorePlugin)
+#include "tst_coreplugin.moc"

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+// What tests of the core share: a program without plug-ins, documents that do as they are told, and answers
+// to message boxes.
+#pragma once
+
+#include <document/documentmanager.h>
+#include <document/editormanager.h>
+#include <document/idocument.h>
+#include <document/idocumentfactory.h>
+#include <document/ieditor.h>
+#include <extensionsystem/pluginmanager.h>
+#include <ui/icreatedocumentdlg.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUndoStack>
+#include <QtTest>
+
+/// The framework without a plug-in: both stores lie in a folder that goes with it.
+class TestProgram
+{
+public:
+    TestProgram()
+    {
+        manager.setSettings(std::make_unique<QSettings>(filePath("user.ini"), QSettings::IniFormat));
+        manager.setGlobalSettings(std::make_unique<QSettings>(filePath("machine.ini"), QSettings::IniFormat));
+    }
+
+    [[nodiscard]] QString filePath(const char *pName) const { return folder.filePath(QLatin1String(pName)); }
+
+    QString write(const char *pName, const QByteArray &content = "x") const
+    {
+        QFile file(filePath(pName));
+        const bool bWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+        return bWritten ? file.fileName() : QString();
+    }
+
+    QTemporaryDir folder;
+    ExtensionSystem::PluginManager manager;
+};
+
+/// Clicks one button in each message box that comes up while it lives, in order, and keeps what they said.
+/// NoButton closes the box as the window system would.
+class BoxAnswers
+{
+public:
+    explicit BoxAnswers(QList<QMessageBox::StandardButton> answers)
+        : m_answers(std::move(answers))
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { answer(); });
+        m_timer.start(1);
+    }
+
+    struct Box
+    {
+        QString title;
+        QString text;
+        QMessageBox::StandardButtons buttons;
+        QMessageBox::StandardButton defaultButton;
+        QSize iconSize;
+        QWidget *pParent;
+    };
+    QList<Box> boxes;
+
+    [[nodiscard]] QStringList texts() const
+    {
+        QStringList result;
+        for (const Box &box : boxes)
+            result.append(box.text);
+        return result;
+    }
+
+private:
+    void answer()
+    {
+        auto *pBox = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!pBox || pBox == m_pAnswered || !pBox->isVisible())
+            return;
+        m_pAnswered = pBox;
+        boxes.append({pBox->windowTitle(), pBox->text(), pBox->standardButtons(),
+            pBox->standardButton(pBox->defaultButton()), pBox->iconPixmap().size(), pBox->parentWidget()});
+        const auto button = m_answers.isEmpty() ? QMessageBox::NoButton : m_answers.takeFirst();
+        if (QAbstractButton *pButton = pBox->button(button))
+            pButton->click();
+        else
+            pBox->done(-1);
+    }
+
+    QTimer m_timer;
+    QPointer<QMessageBox> m_pAnswered;
+    QList<QMessageBox::StandardButton> m_answers;
+};
+
+/// Succeeds or fails as told and keeps a log of the calls.
+class FakeDocument : public IDocument
+{
+    Q_OBJECT
+
+public:
+    FakeDocument() { setUndoStack(&stack); }
+    ~FakeDocument() override
+    {
+        if (pDeleted)
+            pDeleted->append(getFileName());
+    }
+
+    bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override
+    {
+        calls.append(QStringLiteral("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
+        return bContentSucceeds;
+    }
+    bool open() override { return bOpenSucceeds && IDocument::open(); }
+    using IDocument::save;
+    bool save() override
+    {
+        calls.append(QStringLiteral("save"));
+        if (bSaveSucceeds)
+            stack.setClean();
+        return bSaveSucceeds;
+    }
+    bool saveAs() override
+    {
+        calls.append(QStringLiteral("saveAs"));
+        if (!bSaveAsSucceeds)
+            return false;
+        setFileName(strSaveAsName);
+        setIsTempDocument(false);
+        stack.setClean();
+        return true;
+    }
+    bool close() override
+    {
+        calls.append(QStringLiteral("close"));
+        return closeAnswer ? *closeAnswer : IDocument::close();
+    }
+    void cleanTempDir() override { calls.append(QStringLiteral("cleanTempDir")); }
+    bool saveBackup() override
+    {
+        calls.append(QStringLiteral("saveBackup"));
+        if (onBackup)
+            onBackup();
+        return true;
+    }
+
+    void modify() { stack.push(new QUndoCommand); }
+
+    QUndoStack stack;
+    QStringList calls;
+    std::optional<bool> closeAnswer;
+    std::function<void()> onBackup;
+    QString strSaveAsName;
+    QStringList *pDeleted = nullptr;
+    bool bContentSucceeds = true;
+    bool bOpenSucceeds = true;
+    bool bSaveSucceeds = true;
+    bool bSaveAsSucceeds = true;
+};
+
+class FakeNewDialog : public ICreateDocumentDlg
+{
+    Q_OBJECT
+
+public:
+    FakeNewDialog(const QString &strPath, int nResult)
+        : ICreateDocumentDlg(nullptr)
+        , m_strPath(strPath)
+        , m_nResult(nResult)
+    {
+    }
+    int exec() override { return m_nResult; }
+    QString getFilePath() override { return m_strPath; }
+    int getFirstValue() override { return 1; }
+    int getSecondValue() override { return 2; }
+    int getThirdValue() override { return 3; }
+    bool getFlag() override { return true; }
+
+private:
+    const QString m_strPath;
+    const int m_nResult;
+};
+
+/// In the pool while it lives.
+class FakeFactory : public IDocumentFactory
+{
+    Q_OBJECT
+
+public:
+    explicit FakeFactory(const QStringList &suffixes = {QStringLiteral("kelpa")})
+        : IDocumentFactory(nullptr)
+        , m_suffixes(suffixes)
+    {
+        ExtensionSystem::PluginManager::addObject(this);
+    }
+    ~FakeFactory() override { ExtensionSystem::PluginManager::removeObject(this); }
+
+    IDocument *createDocument() override
+    {
+        auto *pDocument = new FakeDocument;
+        documents.append(pDocument);
+        pDocument->pDeleted = &deleted;
+        if (prepare)
+            prepare(pDocument);
+        return pDocument;
+    }
+    IEditor *createEditor() override
+    {
+        auto *pEditor = new IEditor;
+        editors.append(pEditor);
+        if (onEditor)
+            onEditor(pEditor);
+        return pEditor;
+    }
+    QStringList getSupportedSuffixes() override { return m_suffixes; }
+    IOptionsDlg *createOptionsDialog() override { return nullptr; }
+    ICreateDocumentDlg *createNewDocumentDialog() override
+    {
+        pDialog = new FakeNewDialog(strNewPath, nDialogResult);
+        return pDialog;
+    }
+    QString getOpenFileName() override { return strOpenName; }
+
+    QList<QPointer<FakeDocument>> documents;
+    QList<QPointer<IEditor>> editors;
+    QStringList deleted;
+    std::function<void(FakeDocument *)> prepare;
+    std::function<void(IEditor *)> onEditor;
+    QPointer<ICreateDocumentDlg> pDialog;
+    QString strNewPath;
+    QString strOpenName;
+    int nDialogResult = QDialog::Accepted;
+
+private:
+    const QStringList m_suffixes;
+};
