@@ -194,9 +194,12 @@ void RegisterPlain(benchmark::State &state)
 }
 
 const std::vector<Bound> s_bounds = {
-    {"Focus/2000", 1e6, nullptr},           {"Focus/500", 1.5, "FocusPlain/500"},
-    {"Focus/5000", 1.5, "FocusPlain/5000"}, {"Focus/50000", 1.5, "FocusPlain/50000"},
-    {"ActiveContext", 2e4, nullptr},        {"Register", 1e8, nullptr},
+    {"Focus/2000", 1e6, nullptr},
+    {"Focus/500", 1.5, "FocusPlain/500"},
+    {"Focus/5000", 1.5, "FocusPlain/5000"},
+    {"Focus/50000", 1.5, "FocusPlain/50000"},
+    {"ActiveContext", 2e4, nullptr},
+    {"Register", 1e8, nullptr},
     {"Register", 2, "RegisterPlain"},
 };
 

@@ -49,9 +49,8 @@ public:
                 continue;
             const bool bHolds = fSlack == 0 || fValue / fBase <= bound.fLimit * fSlack;
             bGood = bGood && bHolds;
-            std::printf(
-                "%s %s: %.4g, bound %.4g%s%s\n", bHolds ? "ok  " : "FAIL", bound.pName, fValue / fBase,
-                bound.fLimit, bound.pComparedTo ? " times " : " ns",
+            std::printf("%s %s: %.4g, bound %.4g%s%s\n", bHolds ? "ok  " : "FAIL", bound.pName,
+                fValue / fBase, bound.fLimit, bound.pComparedTo ? " times " : " ns",
                 bound.pComparedTo ? bound.pComparedTo : "");
         }
         return bGood;

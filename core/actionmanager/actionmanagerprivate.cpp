@@ -155,9 +155,8 @@ ActionContainer *ActionManagerPrivate::addContainer(
 void ActionManagerPrivate::containerDestroyed()
 {
     const QObject *pSender = sender();
-    const auto it = std::find_if(m_containers.begin(), m_containers.end(), [=](const ActionContainer *p) {
-        return static_cast<const QObject *>(p) == pSender;
-    });
+    const auto it = std::find_if(m_containers.begin(), m_containers.end(),
+        [=](const ActionContainer *p) { return static_cast<const QObject *>(p) == pSender; });
     if (it != m_containers.end())
         m_containers.erase(it);
 }
@@ -202,7 +201,7 @@ void ActionManagerPrivate::putContextOutOfLine(QWidget *pContext)
         m_outOfLine.insert(it->begin(), it->end());
 }
 
-// Written in portable form and parsed in native form: stored files of users are read this way since ever.
+// Written in portable form and parsed in native form: the files that users have are read this way.
 QKeySequence ActionManagerPrivate::storedShortcut(const QString &strId) const
 {
     if (!m_pSettings)
@@ -212,8 +211,7 @@ QKeySequence ActionManagerPrivate::storedShortcut(const QString &strId) const
         return {};
     if (const auto keys = Shortcuts::parse(strText, QKeySequence::NativeText))
         return *keys;
-    qCWarning(
-        lcActions, "%s: the shortcut of %s is no key sequence: %s", qUtf8Printable(m_pSettings->fileName()),
-        qUtf8Printable(strId), qUtf8Printable(strText.left(80)));
+    qCWarning(lcActions, "%s: the shortcut of %s is no key sequence: %s",
+        qUtf8Printable(m_pSettings->fileName()), qUtf8Printable(strId), qUtf8Printable(strText.left(80)));
     return {};
 }

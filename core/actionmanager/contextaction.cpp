@@ -87,9 +87,8 @@ void ContextAction::setVisible(bool bVisible)
 
 const ContextAction::Override *ContextAction::overrideOf(const QWidget *pContext) const
 {
-    const auto it = std::find_if(m_overrides.begin(), m_overrides.end(), [=](const Override &entry) {
-        return entry.pContext == pContext;
-    });
+    const auto it = std::find_if(m_overrides.begin(), m_overrides.end(),
+        [=](const Override &entry) { return entry.pContext == pContext; });
     return it == m_overrides.end() ? nullptr : &*it;
 }
 

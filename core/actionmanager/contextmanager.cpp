@@ -46,7 +46,7 @@ Context ContextManager::registerContext(Context &context)
 
 Context ContextManager::registerContext(QWidget *pWidget, const QString &strId, const QString &strName)
 {
-    Context context{pWidget, strId, strName};
+    Context context {pWidget, strId, strName};
     return registerContext(context);
 }
 
@@ -125,8 +125,7 @@ const Context *ContextManager::firstOf(const QString &strId) const
 
 qsizetype ContextManager::indexOf(QWidget *pWidget, const QString &strId) const
 {
-    const auto it = std::find_if(m_contexts.begin(), m_contexts.end(), [&](const Context &context) {
-        return context.widget == pWidget && context.id == strId;
-    });
+    const auto it = std::find_if(m_contexts.begin(), m_contexts.end(),
+        [&](const Context &context) { return context.widget == pWidget && context.id == strId; });
     return it == m_contexts.end() ? -1 : it - m_contexts.begin();
 }

@@ -90,22 +90,22 @@ void ProxyAction::update(QAction *pSource, bool bInitialize)
         {Initialize, [](To to, From from) { to.setSeparator(from.isSeparator()); }},
         {Initialize, [](To to, From from) { to.setMenuRole(from.menuRole()); }},
         {Icon,
-         [](To to, From from) {
-             if (to.icon().cacheKey() != from.icon().cacheKey())
-                 to.setIcon(from.icon());
-         }},
+            [](To to, From from) {
+                if (to.icon().cacheKey() != from.icon().cacheKey())
+                    to.setIcon(from.icon());
+            }},
         {Icon, [](To to, From from) { to.setIconText(from.iconText()); }},
         {Icon,
-         [](To to, From from) {
-             if (to.isIconVisibleInMenu() != from.isIconVisibleInMenu())
-                 to.setIconVisibleInMenu(from.isIconVisibleInMenu());
-         }},
+            [](To to, From from) {
+                if (to.isIconVisibleInMenu() != from.isIconVisibleInMenu())
+                    to.setIconVisibleInMenu(from.isIconVisibleInMenu());
+            }},
         {Text, [](To to, From from) { to.setText(from.text()); }},
         {Text,
-         [](To to, From from) {
-             to.m_strToolTip = from.toolTip();
-             to.updateToolTipWithKeySequence();
-         }},
+            [](To to, From from) {
+                to.m_strToolTip = from.toolTip();
+                to.updateToolTipWithKeySequence();
+            }},
         {Text, [](To to, From from) { to.setStatusTip(from.statusTip()); }},
         {Text, [](To to, From from) { to.setWhatsThis(from.whatsThis()); }},
         {Always, [](To to, From from) { to.setCheckable(from.isCheckable()); }},
@@ -150,10 +150,8 @@ void ProxyAction::connectAction()
     disconnectAction();
     if (!m_pAction)
         return;
-    m_connections = {
-        connect(m_pAction, &QAction::changed, this, &ProxyAction::actionChanged),
-        connect(this, &QAction::triggered, m_pAction, &QAction::triggered),
-        {}};
+    m_connections = {connect(m_pAction, &QAction::changed, this, &ProxyAction::actionChanged),
+        connect(this, &QAction::triggered, m_pAction, &QAction::triggered), {}};
     if (m_pAction->isCheckable())
         m_connections[2] = connect(this, &QAction::toggled, m_pAction, &QAction::setChecked);
 }

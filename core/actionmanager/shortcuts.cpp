@@ -158,12 +158,11 @@ QList<ShortcutInfo> Shortcuts::search(const QString &strText)
     const QStringList words = strText.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     QList<ShortcutInfo> infos = list();
     infos.removeIf([&](const ShortcutInfo &info) {
-        const QStringList texts{
+        const QStringList texts {
             info.id, info.fullText, info.description, info.current.toString(QKeySequence::NativeText)};
         const QString strAll = texts.join(QLatin1Char('\n'));
-        return !std::all_of(words.begin(), words.end(), [&](const QString &strWord) {
-            return strAll.contains(strWord, Qt::CaseInsensitive);
-        });
+        return !std::all_of(words.begin(), words.end(),
+            [&](const QString &strWord) { return strAll.contains(strWord, Qt::CaseInsensitive); });
     });
     return infos;
 }
@@ -213,7 +212,7 @@ bool Shortcuts::exportTo(const QString &strFileName, QString &strError)
         if (Shortcuts::parse(it.value(), QKeySequence::PortableText))
             shortcuts.insert(it.key(), it.value());
     }
-    const QJsonObject root{{QStringLiteral("format"), s_format}, {s_group, shortcuts}};
+    const QJsonObject root {{QStringLiteral("format"), s_format}, {s_group, shortcuts}};
     QSaveFile file(strFileName);
     if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(root).toJson()) >= 0 && file.commit())
         return true;

@@ -1,34 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/coretest.h"
+
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
 #include <actionmanager/contextmanager.h>
 #include <actionmanager/proxyaction.h>
-#include <extensionsystem/pluginmanager.h>
 #include <mainwindow.h>
 
 #include <QAction>
 #include <QKeySequence>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
-/// A program with a main window, and a store of settings that is empty at the start of every case.
-struct Program
+/// A program with a main window and nothing else.
+struct Program : TestProgram
 {
-    QTemporaryDir dir;
-    ExtensionSystem::PluginManager plugins;
-    std::unique_ptr<MainWindow> pWindow;
-
-    Program()
-    {
-        plugins.setSettings(std::make_unique<QSettings>(dir.filePath("user.ini"), QSettings::IniFormat));
-        plugins.setGlobalSettings(
-            std::make_unique<QSettings>(dir.filePath("machine.ini"), QSettings::IniFormat));
-        pWindow = std::make_unique<MainWindow>(nullptr);
-    }
+    std::unique_ptr<MainWindow> pWindow = std::make_unique<MainWindow>(nullptr);
 
     MainWindow *window() const { return pWindow.get(); }
     static QSettings &settings() { return *ExtensionSystem::PluginManager::settings(); }

@@ -35,12 +35,12 @@ private slots:
         pMenu->insertAction(c.pCommand);
         pMenu->insertAction(nullptr);
         pMenu->insertMenu(nullptr);
-        QCOMPARE(entries(pMenu->getMenu()), (QStringList{"Test.B", "Sub", "Test.A", "Test.C"}));
+        QCOMPARE(entries(pMenu->getMenu()), (QStringList {"Test.B", "Sub", "Test.A", "Test.C"}));
 
         ActionContainer *pBar = ActionManager::createMenuBarContainer("Test.Bar");
         pBar->insertMenu(pSub);
         pBar->insertMenu(pMenu, pSub);
-        QCOMPARE(entries(pBar->getMenuBar()), (QStringList{"&Test", "Sub"}));
+        QCOMPARE(entries(pBar->getMenuBar()), (QStringList {"&Test", "Sub"}));
         QCOMPARE(pBar->getMenu(), nullptr);
         QCOMPARE(pMenu->getMenuBar(), nullptr);
         QCOMPARE(pMenu->getMenu()->objectName(), "MenuBar.Test");

@@ -29,13 +29,13 @@ private slots:
         {
             const auto nBefore = m_program.window()->actions().size();
             Registered global("Edit.Cut", m_program.window()), local("Edit.Cut", &panel);
-            QCOMPARE(order, (QStringList{"list", "Edit.Cut", "list", "Edit.Cut"}));
+            QCOMPARE(order, (QStringList {"list", "Edit.Cut", "list", "Edit.Cut"}));
             QCOMPARE(m_program.window()->actions().size(), nBefore + 1);
             QCOMPARE(global.proxy()->objectName(), "Edit.Cut");
             QCOMPARE(global.proxy()->shortcutContext(), Qt::ApplicationShortcut);
             order.clear();
         }
-        QCOMPARE(order, (QStringList{"list", "list"}));
+        QCOMPARE(order, (QStringList {"list", "list"}));
         QCOMPARE(ActionManager::getAction("Edit.Cut"), nullptr);
         order.clear();
         QAction action;
@@ -133,7 +133,7 @@ private slots:
         QTest::newRow("a good and a bad key") << QVariant("Ctrl+A, Bogus") << true;
         QTest::newRow("a hundred thousand letters") << QVariant(QString(100000, 'x')) << true;
         QTest::newRow("bytes that are no text") << QVariant(QByteArray("\xff\xfe\0\x01", 4)) << true;
-        QTest::newRow("a list") << QVariant(QVariantList{1, "two", 3.0}) << false;
+        QTest::newRow("a list") << QVariant(QVariantList {1, "two", 3.0}) << false;
         QTest::newRow("a rectangle") << QVariant(QRect(1, 2, 3, 4)) << false;
     }
     void garbageInTheStoreGivesTheDefault()
@@ -151,7 +151,7 @@ private slots:
 
     void aFileOfGarbageNeverStopsTheStart()
     {
-        const QString strFileName = m_program.dir.filePath("garbage.ini");
+        const QString strFileName = m_program.filePath("garbage.ini");
         QFile file(strFileName);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("\xff\xfe]]]\n[Shortcuts]\nEdit.Good=Ctrl+H\nEdit.Bad=@Variant(x\n=\n==\n\\x00=1\n");

@@ -94,9 +94,8 @@ private slots:
         // [snippet]
         ContextManager::registerContext(pNotes, "Notes", tr("Notes"));
         auto *pDuplicate = new QAction(tr("Duplicate"), pNotes);
-        connect(pDuplicate, &QAction::triggered, pNotes, [pNotes] {
-            pNotes->appendPlainText(pNotes->toPlainText());
-        });
+        connect(pDuplicate, &QAction::triggered, pNotes,
+            [pNotes] { pNotes->appendPlainText(pNotes->toPlainText()); });
         ActionManager::registerAction(pDuplicate, "Edit.Duplicate", pNotes, false);
         // [/snippet]
         ActionManager::setContext(ContextManager::getActiveContext(pNotes->viewport()).widget);
@@ -128,7 +127,7 @@ private slots:
             addRow(info.fullText, strKeys, info.returnsAtNextStart() ? tr("Back after the next start") : "");
         }
         // [/snippet]
-        QCOMPARE(rows, QStringList{"Edit > Edit.Trim||Back after the next start"});
+        QCOMPARE(rows, QStringList {"Edit > Edit.Trim||Back after the next start"});
     }
 
 private:

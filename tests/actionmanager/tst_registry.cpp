@@ -153,8 +153,7 @@ private:
             return m_panels.size() > 3 ? destroyPanel(static_cast<size_t>(below(int(m_panels.size()))))
                                        : createPanel();
         case 2:
-            return focus(
-                m_panels.empty()
+            return focus(m_panels.empty()
                     ? m_pRest
                     : m_panels[static_cast<size_t>(below(int(m_panels.size())))]->findChild<QLineEdit *>());
         case 3:
@@ -190,7 +189,7 @@ private:
         pPanel->setGeometry(0, 0, 50, 30);
         pPanel->show();
         m_panels.push_back(pPanel);
-        const Context context{pPanel, QString("Panel"), QString()};
+        const Context context {pPanel, QString("Panel"), QString()};
         ContextManager::registerContext(pPanel, context.id, context.name);
         m_model.contexts.push_back(context);
     }

@@ -37,16 +37,16 @@ private slots:
         Registered global("Edit.Go", m_program.window());
         Registered left("Edit.Go", m_pLeft), right("Edit.Go", m_pRight);
         global.pCommand->setDefaultKeySequence(keys("Ctrl+G"));
-        const auto fired = [&] { return QList<int>{left.nFired, right.nFired, global.nFired}; };
+        const auto fired = [&] { return QList<int> {left.nFired, right.nFired, global.nFired}; };
         focus(m_pLeft);
         press("Ctrl+G");
-        QTRY_COMPARE(fired(), (QList<int>{1, 0, 0}));
+        QTRY_COMPARE(fired(), (QList<int> {1, 0, 0}));
         focus(m_pRight);
         press("Ctrl+G");
-        QTRY_COMPARE(fired(), (QList<int>{1, 1, 0}));
+        QTRY_COMPARE(fired(), (QList<int> {1, 1, 0}));
         focus(m_pField);
         press("Ctrl+G");
-        QTRY_COMPARE(fired(), (QList<int>{1, 1, 1}));
+        QTRY_COMPARE(fired(), (QList<int> {1, 1, 1}));
     }
 
     void aDisabledCommandDoesNotFire()

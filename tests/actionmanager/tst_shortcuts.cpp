@@ -47,7 +47,7 @@ private slots:
         QAction *pSeparator = nullptr;
         const QString strId =
             pMenu->insertSeparator(static_cast<ContextAction *>(nullptr), &pSeparator)->getId();
-        QCOMPARE(ids(Shortcuts::list()), (QStringList{"Edit.Copy", "Edit.Find", "View.Zoom"}));
+        QCOMPARE(ids(Shortcuts::list()), (QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"}));
         ActionManager::unregisterAction(pSeparator, strId);
         delete pMenu->getMenu();
         delete pMenu;
@@ -57,12 +57,12 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("found");
-        QTest::newRow("nothing finds all") << "" << QStringList{"Edit.Copy", "Edit.Find", "View.Zoom"};
-        QTest::newRow("a word of the id") << "zoom" << QStringList{"View.Zoom"};
-        QTest::newRow("a word of the menu and one of the text") << " EDIT  fin " << QStringList{"Edit.Find"};
-        QTest::newRow("the shortcut in force") << "ctrl+y" << QStringList{"Edit.Copy"};
-        QTest::newRow("the description") << "described" << QStringList{"Edit.Copy"};
-        QTest::newRow("a mnemonic is not in the text") << "&" << QStringList{};
+        QTest::newRow("nothing finds all") << "" << QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"};
+        QTest::newRow("a word of the id") << "zoom" << QStringList {"View.Zoom"};
+        QTest::newRow("a word of the menu and one of the text") << " EDIT  fin " << QStringList {"Edit.Find"};
+        QTest::newRow("the shortcut in force") << "ctrl+y" << QStringList {"Edit.Copy"};
+        QTest::newRow("the description") << "described" << QStringList {"Edit.Copy"};
+        QTest::newRow("a mnemonic is not in the text") << "&" << QStringList {};
     }
     void searchingFindsAllWords()
     {
@@ -74,12 +74,12 @@ private slots:
     void conflictsIncludeBeginnings()
     {
         QVERIFY(Shortcuts::conflicts().isEmpty());
-        QCOMPARE(ids(Shortcuts::conflictsOf("View.Zoom", keys("Ctrl+F"))), QStringList{"Edit.Find"});
-        QCOMPARE(ids(Shortcuts::conflictsOf("View.Zoom", keys("Ctrl+F, Ctrl+Z"))), QStringList{"Edit.Find"});
+        QCOMPARE(ids(Shortcuts::conflictsOf("View.Zoom", keys("Ctrl+F"))), QStringList {"Edit.Find"});
+        QCOMPARE(ids(Shortcuts::conflictsOf("View.Zoom", keys("Ctrl+F, Ctrl+Z"))), QStringList {"Edit.Find"});
         QVERIFY(Shortcuts::conflictsOf("Edit.Find", keys("Ctrl+F")).isEmpty());
         QVERIFY(Shortcuts::conflictsOf("Edit.Find", {}).isEmpty());
         m_find->pCommand->setKeySequence(keys("Ctrl+Y, F"));
-        QCOMPARE(ids(Shortcuts::conflicts()), (QStringList{"Edit.Copy", "Edit.Find"}));
+        QCOMPARE(ids(Shortcuts::conflicts()), (QStringList {"Edit.Copy", "Edit.Find"}));
     }
 
     void resettingTakesOneOrAll()
@@ -97,7 +97,7 @@ private slots:
     {
         m_program.settings().setValue("Shortcuts/Absent.Command", "Ctrl+J");
         m_program.settings().setValue("Shortcuts/Absent.Garbage", "Nonsense");
-        const QString strFile = m_program.dir.filePath("keys.json");
+        const QString strFile = m_program.filePath("keys.json");
         QString strError;
         m_find->pCommand->setKeySequence({});
         QVERIFY2(Shortcuts::exportTo(strFile, strError), qPrintable(strError));
@@ -127,7 +127,7 @@ private slots:
     void aBadFileChangesNothing()
     {
         QFETCH(QByteArray, content);
-        const QString strFile = m_program.dir.filePath("bad.json");
+        const QString strFile = m_program.filePath("bad.json");
         QFile file(strFile);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         file.close();
