@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "actionmanager/actionmanager.h"
+#include "actionmanager/contextmanager.h"
 #include "displayscale.h"
 #include "document/documentmanager.h"
 #include "document/editormanager.h"
@@ -68,6 +70,7 @@ MainWindow::MainWindow(QWidget *pParent)
 
     createManagers();
     createMdiArea();
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
 }
 
@@ -86,6 +89,10 @@ void MainWindow::createManagers()
     m_pCore = new ICore(this);
     m_pDocumentManager = new DocumentManager;
     m_pEditorManager = new EditorManager;
+    // These two live until the process ends, whatever becomes of this window.
+    m_pActionManager = ActionManager::getInstance() ? ActionManager::getInstance() : new ActionManager;
+    m_pContextManager = ContextManager::getInstance() ? ContextManager::getInstance() : new ContextManager;
+    ActionManager::initialize();
     DocumentManager::setSettings(PluginManager::settings());
     DocumentManager::readSettings();
 }
@@ -123,6 +130,7 @@ MainWindow::~MainWindow()
     delete m_pCore;
     m_pCore = nullptr;
 
+    disconnect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     disconnect(this, &MainWindow::dpiChanged, this, nullptr);
     const auto objects = m_pChannel->registeredObjects();
     for (QObject *pObject : objects)

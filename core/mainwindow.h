@@ -7,6 +7,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class ActionManager;
+class ContextManager;
 class DocumentManager;
 class EditorManager;
 class ICore;
@@ -96,6 +98,10 @@ public slots:
     void fileClose();
     void fileSave();
     void fileExit();
+
+    /// Makes the context of the widget that has the focus the current one; menus with the focus change
+    /// nothing.
+    void updateFocusWidget(QWidget *old, QWidget *now);
     void updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow);
 
     /// The sender, a document, leaves every registry and is deleted, and its editor with it.
@@ -121,6 +127,8 @@ private:
     IMainMdiArea *m_pMdiArea = nullptr;
     DocumentManager *m_pDocumentManager = nullptr;
     EditorManager *m_pEditorManager = nullptr;
+    ActionManager *m_pActionManager = nullptr;
+    ContextManager *m_pContextManager = nullptr;
     ICore *m_pCore = nullptr;
     QPointer<IOptionsDlg> m_pOptionsDlg;
     int m_nDisplayScale = 0;

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+// How commands come, go and follow the context.
+#include "actionmanager/actionmanager_p.h"
+
+#include "actionmanager/actioncontainer.h"
+#include "actionmanager/contextaction.h"
+#include "actionmanager/proxyaction.h"
+#include "actionmanager/shortcuts.h"
+#include "icore.h"
+#include "mainwindow.h"
+
+#include <QLoggingCategory>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcActions, "kelpa.core.actionmanager")
+
+} // namespace
+
+ActionManagerPrivate::ActionManagerPrivate() = default;
+
+ActionManagerPrivate::~ActionManagerPrivate()
+{
+    dropContainers();
+    qDeleteAll(std::exchange(m_actions, {}));
+}
+
+QList<QPointer<ContextAction>> ActionManagerPrivate::commands() const
+{
+    return {m_actions.cbegin(), m_actions.cend()};
+}
+
+QList<QPointer<ContextAction>> ActionManagerPrivate::nonSeparators() const
+{
+    auto found = commands();
+    found.removeIf([](const QPointer<ContextAction> &pCommand) { return pCommand->isSeparator(); });
+    return found;
+}
+
+// The next window may have the address of the former one, and would inherit its dead actions.
+void ActionManagerPrivate::enterWindow(QWidget *pWindow)
+{
+    if (!pWindow || m_pWindow == pWindow)
+        return;
+    if (m_bHadWindow && !m_pWindow) {
+        dropContainers();
+        m_pCurrentContext = nullptr;
+    }
+    m_pWindow = pWindow;
+    m_bHadWindow = true;
+    const auto all = commands();
+    for (const QPointer<ContextAction> &pCommand : all) {
+        if (pCommand)
+            removeOverride(nullptr, pCommand);
+        if (pCommand && pCommand->isEmpty())
+            dropCommand(pCommand);
+        else if (pCommand)
+            pWindow->addAction(pCommand->getAction());
+    }
+    m_pFallback = nullptr;
+}
+
+// A new proxy gets its shortcut and its window when it is complete: each change before would scan Qt's table
+// of shortcuts, or reach the window as an event. The shortcut comes before any default: the user's wins.
+QPointer<ProxyAction> ActionManagerPrivate::addAction(
+    QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable)
+{
+    QWidget *pWindow = ICore::getMainWindow();
+    const auto it = m_actions.lowerBound(strId);
+    const bool bNew = it == m_actions.end() || it.key() != strId;
+    ContextAction *pCommand = bNew ? createCommand(strId, it) : *it;
+    // A command with one action, and that for all contexts, is in line whatever the context.
+    const bool bInLine = bNew && pContext == pWindow;
+    if (pContext != pWindow)
+        m_idsOf[pContext].insert(strId);
+    QPointer<ProxyAction> pProxy = pCommand->m_pProxy;
+    pCommand->m_bOutOfLine = pCommand->m_bOutOfLine || bInLine;
+    pCommand->addOverrideAction(pAction, pContext, bScriptable);
+    if (!bNew || !pProxy)
+        return pProxy;
+    if (bInLine)
+        pCommand->m_bOutOfLine = false;
+    const QKeySequence keys = pCommand->isSeparator() ? QKeySequence() : storedShortcut(strId);
+    if (!keys.isEmpty())
+        pCommand->setKeySequence(keys);
+    if (pWindow)
+        pWindow->addAction(pProxy);
+    return pProxy;
+}
+
+ContextAction *ActionManagerPrivate::createCommand(const QString &strId, Actions::const_iterator before)
+{
+    auto *pCommand = new ContextAction(strId, this);
+    m_actions.insert(before, strId, pCommand);
+    QAction *pProxy = pCommand->getAction();
+    pProxy->setObjectName(strId);
+    pProxy->setShortcutContext(Qt::ApplicationShortcut);
+    return pCommand;
+}
+
+void ActionManagerPrivate::removeAction(QAction *pAction, ContextAction *pCommand)
+{
+    const QPointer<ContextAction> pWatched(pCommand);
+    removeOverride(pAction, pCommand);
+    if (pWatched && pWatched->isEmpty())
+        dropCommand(pWatched);
+}
+
+void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pCommand)
+{
+    const QString strId = pCommand->getId();
+    const auto overrides = pCommand->m_overrides;
+    const QPointer<ContextAction> pWatched(pCommand);
+    pCommand->removeOverrideAction(pAction);
+    for (const auto &entry : overrides) {
+        const auto it = m_idsOf.find(entry.pContext);
+        if (it == m_idsOf.end() || (pWatched && pWatched->overrideOf(entry.pContext)))
+            continue;
+        it->erase(strId);
+        if (it->empty())
+            m_idsOf.erase(it);
+    }
+}
+
+void ActionManagerPrivate::dropCommand(ContextAction *pCommand)
+{
+    const QString strId = pCommand->getId();
+    const QPointer<ContextAction> pWatched(pCommand);
+    QAction *pProxy = pCommand->getAction();
+    if (QWidget *pWindow = ICore::getMainWindow())
+        pWindow->removeAction(pProxy);
+    delete pProxy;
+    if (!pWatched)
+        return;
+    m_actions.remove(strId);
+    m_outOfLine.erase(strId);
+    delete pCommand;
+}
+
+ActionContainer *ActionManagerPrivate::addContainer(
+    const QString &strId, ActionContainer *pContainer, QWidget *pShownIn)
+{
+    pShownIn->setObjectName(strId);
+    m_containers.insert(strId, pContainer);
+    connect(pContainer, &QObject::destroyed, this, &ActionManagerPrivate::containerDestroyed);
+    return pContainer;
+}
+
+void ActionManagerPrivate::containerDestroyed()
+{
+    const QObject *pSender = sender();
+    const auto it = std::find_if(m_containers.begin(), m_containers.end(),
+        [=](const ActionContainer *p) { return static_cast<const QObject *>(p) == pSender; });
+    if (it != m_containers.end())
+        m_containers.erase(it);
+}
+
+void ActionManagerPrivate::dropContainers()
+{
+    const auto containers = std::exchange(m_containers, {});
+    for (ActionContainer *pContainer : containers) {
+        delete pContainer->getMenu();
+        delete pContainer->getMenuBar();
+        delete pContainer;
+    }
+}
+
+// A change of context touches the commands that have an action of their own for the old one or the new one,
+// and those that are out of line; to every other command it changes nothing. Who listens may change the
+// context again: the rest of the commands then follows that.
+void ActionManagerPrivate::setContext(QWidget *pContext)
+{
+    if (m_pFallback != ICore::getMainWindow()) {
+        m_pFallback = ICore::getMainWindow();
+        m_outOfLine.insert(m_actions.keyBegin(), m_actions.keyEnd());
+    }
+    putContextOutOfLine(m_pCurrentContext);
+    putContextOutOfLine(pContext);
+    m_pCurrentContext = pContext;
+    QString strLast;
+    for (auto it = m_outOfLine.begin(); it != m_outOfLine.end(); it = m_outOfLine.upper_bound(strLast)) {
+        strLast = *it;
+        m_outOfLine.erase(it);
+        if (ContextAction *pCommand = m_actions.value(strLast)) {
+            pCommand->m_bOutOfLine = false;
+            pCommand->setCurrentContext(m_pCurrentContext);
+        }
+    }
+}
+
+void ActionManagerPrivate::putContextOutOfLine(QWidget *pContext)
+{
+    const auto it = m_idsOf.constFind(pContext);
+    if (it != m_idsOf.constEnd())
+        m_outOfLine.insert(it->begin(), it->end());
+}
+
+// Written in portable form and parsed in native form: the files that users have are read this way.
+QKeySequence ActionManagerPrivate::storedShortcut(const QString &strId) const
+{
+    if (!m_pSettings)
+        return {};
+    const QString strText = m_pSettings->value(Shortcuts::keyOf(strId), QString()).toString();
+    if (strText.isEmpty())
+        return {};
+    if (const auto keys = Shortcuts::parse(strText, QKeySequence::NativeText))
+        return *keys;
+    qCWarning(lcActions, "%s: the shortcut of %s is no key sequence: %s",
+        qUtf8Printable(m_pSettings->fileName()), qUtf8Printable(strId), qUtf8Printable(strText.left(80)));
+    return {};
+}

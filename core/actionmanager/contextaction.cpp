@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "actionmanager/contextaction.h"
+
+#include "actionmanager/actionmanager_p.h"
+#include "actionmanager/proxyaction.h"
+#include "icore.h"
+#include "mainwindow.h"
+
+#include <algorithm>
+#include <utility>
+
+/// A virtual function in place of a signal: registering thousands of commands shows the difference.
+class ContextAction::Proxy : public ProxyAction
+{
+public:
+    explicit Proxy(ContextAction *pCommand)
+        : ProxyAction(pCommand)
+        , m_pCommand(pCommand)
+    {
+    }
+
+protected:
+    void liveActionChanged() override { m_pCommand->putOutOfLine(); }
+
+private:
+    ContextAction *m_pCommand;
+};
+
+ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManager)
+    : m_strId(strId)
+    , m_pProxy(new Proxy(this))
+    , m_pManager(pManager)
+{
+    m_pProxy->setShortcutVisibleInToolTip(true);
+    connect(m_pProxy, &QAction::changed, this, &ContextAction::updateActiveState);
+}
+
+// The manager may have deleted the proxy already.
+ContextAction::~ContextAction()
+{
+    delete m_pProxy;
+}
+
+void ContextAction::putOutOfLine()
+{
+    if (!std::exchange(m_bOutOfLine, true))
+        m_pManager->putOutOfLine(m_strId);
+}
+
+QAction *ContextAction::getAction() const
+{
+    return m_pProxy;
+}
+
+QKeySequence ContextAction::getKeySequence() const
+{
+    return m_pProxy ? m_pProxy->shortcut() : QKeySequence();
+}
+
+void ContextAction::setKeySequence(const QKeySequence &keys)
+{
+    if (m_pProxy)
+        m_pProxy->setShortcut(keys);
+}
+
+void ContextAction::setDefaultKeySequence(const QKeySequence &keys)
+{
+    m_defaultKeySequence = keys;
+    if (getKeySequence().isEmpty())
+        setKeySequence(keys);
+}
+
+bool ContextAction::isSeparator() const
+{
+    return m_pProxy && m_pProxy->isSeparator();
+}
+
+// A copy: who listens to an action may register or unregister others.
+void ContextAction::setVisible(bool bVisible)
+{
+    const auto overrides = m_overrides;
+    for (const Override &entry : overrides) {
+        if (entry.pAction)
+            entry.pAction->setVisible(bVisible);
+    }
+}
+
+const ContextAction::Override *ContextAction::overrideOf(const QWidget *pContext) const
+{
+    const auto it = std::find_if(m_overrides.begin(), m_overrides.end(),
+        [=](const Override &entry) { return entry.pContext == pContext; });
+    return it == m_overrides.end() ? nullptr : &*it;
+}
+
+// The proxy dies with the command, and both may while the proxy tells the world.
+void ContextAction::setCurrentContext(QWidget *pContext)
+{
+    m_pCurrentContext = overrideOf(pContext) ? pContext : ICore::getMainWindow();
+    const QPointer<ProxyAction> pProxy = m_pProxy;
+    if (!pProxy)
+        return;
+    const Override *pEntry = overrideOf(m_pCurrentContext);
+    pProxy->setAction(pEntry ? pEntry->pAction.data() : nullptr);
+    if (pProxy)
+        updateActiveState();
+}
+
+bool ContextAction::hasAttribute(ActionAttribute attribute) const
+{
+    Q_UNUSED(attribute)
+    return true;
+}
+
+void ContextAction::setAttribute(ActionAttribute attribute)
+{
+    Q_UNUSED(attribute)
+}
+
+void ContextAction::removeAttribute(ActionAttribute attribute)
+{
+    Q_UNUSED(attribute)
+}
+
+bool ContextAction::isScriptable(const QString &strContext) const
+{
+    Q_UNUSED(strContext)
+    return true;
+}
+
+QString ContextAction::stringWithAppendedShortcut(const QString &strText) const
+{
+    Q_UNUSED(strText)
+    return {};
+}
+
+void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable)
+{
+    const QPointer<ProxyAction> pProxy = m_pProxy;
+    if (m_overrides.isEmpty() && pProxy)
+        pProxy->initialize(pAction);
+    if (!pProxy)
+        return;
+    if (!overrideOf(pContext))
+        m_overrides.append({pContext, pAction, bScriptable});
+    setCurrentContext(pContext);
+}
+
+// Actions that are gone go with it.
+void ContextAction::removeOverrideAction(QAction *pAction)
+{
+    m_overrides.removeIf([=](const Override &entry) { return !entry.pAction || entry.pAction == pAction; });
+    setCurrentContext(m_pCurrentContext);
+}
+
+void ContextAction::setActive(bool bActive)
+{
+    if (m_bActive == bActive)
+        return;
+    m_bActive = bActive;
+    emit activeStateChanged();
+}
+
+void ContextAction::updateActiveState()
+{
+    if (m_pProxy)
+        setActive(m_pProxy->isEnabled() && m_pProxy->isVisible() && !m_pProxy->isSeparator());
+}

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "commandtest.h"
+
+#include <actionmanager/actioncontainer.h>
+
+#include <QMenu>
+#include <QMenuBar>
+
+class tst_ActionContainer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        for (const char *pId : {"MenuBar.Test", "Test.Sub", "Test.Bar"}) {
+            if (ActionContainer *pContainer = ActionManager::getActionContainer(pId)) {
+                delete pContainer->getMenu();
+                delete pContainer->getMenuBar();
+                delete pContainer;
+            }
+            QCOMPARE(ActionManager::getActionContainer(pId), nullptr);
+        }
+    }
+
+    void itemsComeBeforeOthersOrAtTheEnd()
+    {
+        ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "&Test");
+        ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
+        Registered a("Test.A", m_program.window()), b("Test.B", m_program.window());
+        Registered c("Test.C", m_program.window());
+        pMenu->insertAction(a.pCommand);
+        pMenu->insertAction(b.pCommand, a.pCommand);
+        pMenu->insertMenu(pSub, a.pCommand);
+        pMenu->insertAction(c.pCommand);
+        pMenu->insertAction(nullptr);
+        pMenu->insertMenu(nullptr);
+        QCOMPARE(entries(pMenu->getMenu()), (QStringList {"Test.B", "Sub", "Test.A", "Test.C"}));
+
+        ActionContainer *pBar = ActionManager::createMenuBarContainer("Test.Bar");
+        pBar->insertMenu(pSub);
+        pBar->insertMenu(pMenu, pSub);
+        QCOMPARE(entries(pBar->getMenuBar()), (QStringList {"&Test", "Sub"}));
+        QCOMPARE(pBar->getMenu(), nullptr);
+        QCOMPARE(pMenu->getMenuBar(), nullptr);
+        QCOMPARE(pMenu->getMenu()->objectName(), "MenuBar.Test");
+    }
+
+    void separatorsAreNumberedAcrossContainers()
+    {
+        ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
+        ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
+        pMenu->insertMenu(pSub);
+        QAction *pAction = nullptr;
+        const ContextAction *pFirst = pMenu->insertSeparator();
+        const ContextAction *pSecond = pSub->insertSeparator();
+        const ContextAction *pThird = pMenu->insertSeparator(pSub, &pAction);
+        const int nFirst = pFirst->getId().section('.', 1).toInt();
+        QCOMPARE(pFirst->getId(), QString("Separator.%1").arg(nFirst));
+        QCOMPARE(pSecond->getId(), QString("Separator.%1").arg(nFirst + 1));
+        QCOMPARE(pThird->getId(), QString("Separator.%1").arg(nFirst + 2));
+        QVERIFY(pThird->isSeparator() && pThird->getAction()->isSeparator());
+        QVERIFY(pAction && pAction != pThird->getAction() && pAction->parent() == pMenu);
+        QCOMPARE(pMenu->getMenu()->actions().first(), pThird->getAction());
+        const QString strId = pThird->getId();
+        ActionManager::unregisterAction(pAction, strId);
+        QCOMPARE(ActionManager::getAction(strId), nullptr);
+        QCOMPARE(pMenu->getMenu()->actions().size(), 2);
+    }
+
+    void clearLeavesSeparatorsAndToleratesDeadItems()
+    {
+        ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
+        ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
+        auto dead = std::make_unique<Registered>("Test.Dead", m_program.window());
+        Registered a("Test.A", m_program.window()), b("Test.B", m_program.window());
+        pMenu->insertAction(dead->pCommand);
+        pMenu->insertAction(a.pCommand);
+        pMenu->insertSeparator();
+        pMenu->insertMenu(pSub);
+        pSub->insertAction(b.pCommand);
+        dead.reset();
+        pMenu->clear();
+        QCOMPARE(pMenu->getMenu()->actions().size(), 1);
+        QVERIFY(pMenu->getMenu()->actions().first()->isSeparator());
+        QVERIFY(pSub->getMenu()->isEmpty());
+        QVERIFY(ActionManager::getAction("Test.A"));
+        pMenu->clear();
+        QCOMPARE(pMenu->getMenu()->actions().size(), 1);
+    }
+
+    void aMenuWithNothingToOfferHides()
+    {
+        ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
+        Registered a("Test.A", m_program.window());
+        pMenu->insertAction(a.pCommand);
+        pMenu->insertSeparator();
+        QVERIFY(pMenu->updateInternal());
+        a.action.setEnabled(false);
+        QVERIFY(pMenu->getMenu()->menuAction()->isVisible());
+        QVERIFY(!pMenu->updateInternal());
+        QVERIFY(!pMenu->getMenu()->menuAction()->isVisible());
+        a.action.setEnabled(true);
+        QVERIFY(pMenu->updateInternal());
+        QVERIFY(pMenu->getMenu()->menuAction()->isVisible());
+    }
+
+private:
+    static QStringList entries(const QWidget *pWidget)
+    {
+        QStringList texts;
+        for (const QAction *pAction : pWidget->actions())
+            texts.append(pAction->text());
+        return texts;
+    }
+
+    Program m_program;
+};
+
+QTEST_MAIN(tst_ActionContainer)
+#include "tst_actioncontainer.moc"

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include <actionmanager/proxyaction.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+class tst_ProxyAction : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void mirrorsStateAlwaysAndLooksOnDemand()
+    {
+        ProxyAction proxy(nullptr);
+        QVERIFY(!proxy.isEnabled());
+        QAction action("Copy");
+        action.setCheckable(true);
+        action.setChecked(true);
+        proxy.initialize(&action);
+        QVERIFY(proxy.isCheckable());
+        QVERIFY(!proxy.isEnabled());
+        QVERIFY(!proxy.isChecked());
+        proxy.setAction(&action);
+        QVERIFY(proxy.isEnabled() && proxy.isChecked());
+
+        action.setText("Copy All");
+        action.setIconText("All");
+        action.setVisible(false);
+        QCOMPARE(proxy.text(), "Copy");
+        QVERIFY(!proxy.isVisible());
+        proxy.setAttribute(ProxyAction::MirrorText);
+        QCOMPARE(proxy.text(), "Copy All");
+        QCOMPARE(proxy.iconText(), "Copy");
+        proxy.setAttribute(ProxyAction::MirrorIcon);
+        QCOMPARE(proxy.iconText(), "All");
+        proxy.removeAttribute(ProxyAction::MirrorText);
+        action.setText("Nothing");
+        QCOMPARE(proxy.text(), "Copy All");
+    }
+
+    void passesTriggeringAndTogglingOn()
+    {
+        ProxyAction proxy(nullptr);
+        QAction first, second;
+        second.setCheckable(true);
+        proxy.setAction(&first);
+        proxy.setAction(&first);
+        QSignalSpy firstFired(&first, &QAction::triggered);
+        QSignalSpy secondFired(&second, &QAction::triggered);
+        proxy.trigger();
+        QCOMPARE(firstFired.size(), 1);
+        proxy.setAction(&second);
+        proxy.trigger();
+        QCOMPARE(firstFired.size(), 1);
+        QCOMPARE(secondFired.size(), 1);
+        QVERIFY(secondFired.first().first().toBool());
+        QVERIFY(second.isChecked());
+        second.setChecked(false);
+        QVERIFY(!proxy.isChecked());
+    }
+
+    // The same-pointer rule speaks of actions that live.
+    void aDeadActionEndsDisabled_data()
+    {
+        QTest::addColumn<bool>("hides");
+        QTest::newRow("visible without an action") << false;
+        QTest::newRow("hidden without an action") << true;
+    }
+    void aDeadActionEndsDisabled()
+    {
+        QFETCH(bool, hides);
+        ProxyAction proxy(nullptr);
+        if (hides)
+            proxy.setAttribute(ProxyAction::HideWhenNoAction);
+        auto pAction = std::make_unique<QAction>("Copy");
+        proxy.initialize(pAction.get());
+        proxy.setAction(pAction.get());
+        QVERIFY(proxy.isEnabled() && proxy.isVisible());
+        pAction.reset();
+        QVERIFY(proxy.isEnabled());
+        proxy.trigger();
+        proxy.setAction(nullptr);
+        QVERIFY(!proxy.isEnabled());
+        QCOMPARE(proxy.isVisible(), !hides);
+        QCOMPARE(proxy.text(), "Copy");
+    }
+
+    void theToolTipShowsTheShortcut()
+    {
+        ProxyAction proxy(nullptr);
+        QAction action("Copy");
+        action.setToolTip("Copies");
+        proxy.initialize(&action);
+        proxy.setShortcutVisibleInToolTip(true);
+        QCOMPARE(proxy.toolTip(), "Copies");
+        proxy.setShortcut(QKeySequence("Ctrl+C"));
+        QCOMPARE(proxy.toolTip(), "Copies\tCtrl+C");
+        proxy.setToolTip("by hand");
+        QCOMPARE(proxy.toolTip(), "Copies\tCtrl+C");
+        proxy.setShortcutVisibleInToolTip(false);
+        QCOMPARE(proxy.toolTip(), "Copies");
+    }
+
+    void survivesItsOwnEndAndThatOfTheSource()
+    {
+        auto *pProxy = new ProxyAction(nullptr);
+        const QPointer<ProxyAction> pWatched(pProxy);
+        auto pAction = std::make_unique<QAction>();
+        pAction->setCheckable(true);
+        pProxy->setAction(pAction.get());
+        connect(pProxy, &QAction::changed, this, [&] { pAction.reset(); });
+        pAction->setChecked(true);
+        QVERIFY(!pAction);
+        pProxy->setAction(nullptr);
+        QVERIFY(!pProxy->isEnabled());
+
+        QAction next;
+        connect(pProxy, &QAction::changed, this, [&] { delete pWatched; });
+        pProxy->setAction(&next);
+        QVERIFY(!pWatched);
+    }
+};
+
+QTEST_MAIN(tst_ProxyAction)
+#include "tst_proxyaction.moc"

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "commandtest.h"
+
+#include <ui/imainmdiarea.h>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QProcess>
+
+// Keys that reach commands through the focus. On an X server they come from its keyboard.
+class tst_ShortcutKeys : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        auto *pContent = new QWidget;
+        auto *pLayout = new QHBoxLayout(pContent);
+        for (QWidget *pWidget : {m_pLeft, m_pRight, static_cast<QWidget *>(m_pField)}) {
+            pWidget->setFocusPolicy(Qt::StrongFocus);
+            pWidget->setMinimumSize(100, 30);
+            pLayout->addWidget(pWidget);
+        }
+        m_program.window()->getMdiArea()->addSubWindow(pContent)->show();
+        m_program.window()->show();
+        m_program.window()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_program.window()));
+        ContextManager::registerContext(m_pLeft, "Left", "Left");
+        ContextManager::registerContext(m_pRight, "Right", "Right");
+    }
+
+    void oneShortcutFiresInTheFocusedContextOnly()
+    {
+        Registered global("Edit.Go", m_program.window());
+        Registered left("Edit.Go", m_pLeft), right("Edit.Go", m_pRight);
+        global.pCommand->setDefaultKeySequence(keys("Ctrl+G"));
+        const auto fired = [&] { return QList<int> {left.nFired, right.nFired, global.nFired}; };
+        focus(m_pLeft);
+        press("Ctrl+G");
+        QTRY_COMPARE(fired(), (QList<int> {1, 0, 0}));
+        focus(m_pRight);
+        press("Ctrl+G");
+        QTRY_COMPARE(fired(), (QList<int> {1, 1, 0}));
+        focus(m_pField);
+        press("Ctrl+G");
+        QTRY_COMPARE(fired(), (QList<int> {1, 1, 1}));
+    }
+
+    void aDisabledCommandDoesNotFire()
+    {
+        Registered left("Edit.Off", m_pLeft), probe("Edit.Probe", m_program.window());
+        left.pCommand->setDefaultKeySequence(keys("Ctrl+O"));
+        probe.pCommand->setDefaultKeySequence(keys("Ctrl+P"));
+        focus(m_pLeft);
+        left.action.setEnabled(false);
+        press("Ctrl+O");
+        press("Ctrl+P");
+        QTRY_COMPARE(probe.nFired, 1);
+        QCOMPARE(left.nFired, 0);
+        left.action.setEnabled(true);
+        focus(m_pRight);
+        press("Ctrl+O");
+        press("Ctrl+P");
+        QTRY_COMPARE(probe.nFired, 2);
+        QCOMPARE(left.nFired, 0);
+        focus(m_pLeft);
+        press("Ctrl+O");
+        QTRY_COMPARE(left.nFired, 1);
+    }
+
+    void aTextFieldKeepsItsEditingKeys()
+    {
+        Registered all("Edit.All", m_program.window()), remove("Edit.Delete", m_program.window());
+        Registered letter("Tools.Brush", m_program.window());
+        all.pCommand->setDefaultKeySequence(keys("Ctrl+A"));
+        remove.pCommand->setDefaultKeySequence(keys("Backspace"));
+        letter.pCommand->setDefaultKeySequence(keys("B"));
+        focus(m_pField);
+        press("B");
+        QTRY_COMPARE(m_pField->text(), "b");
+        press("Ctrl+A");
+        QTRY_VERIFY(m_pField->hasSelectedText());
+        press("Backspace");
+        QTRY_COMPARE(m_pField->text(), QString());
+        QCOMPARE(all.nFired + remove.nFired + letter.nFired, 0);
+        focus(m_pLeft);
+        press("Ctrl+A");
+        press("Backspace");
+        press("B");
+        QTRY_COMPARE(letter.nFired, 1);
+        QCOMPARE(all.nFired, 1);
+        QCOMPARE(remove.nFired, 1);
+    }
+
+    void aShortcutMayUnregisterItsCommand()
+    {
+        QAction action;
+        int nFired = 0;
+        ActionManager::registerAction(&action, "Edit.Once", m_program.window(), false)
+            ->setDefaultKeySequence(keys("Ctrl+U"));
+        connect(&action, &QAction::triggered, [&] {
+            ++nFired;
+            ActionManager::unregisterAction(&action, "Edit.Once");
+        });
+        focus(m_pLeft);
+        press("Ctrl+U");
+        QTRY_COMPARE(nFired, 1);
+        press("Ctrl+U");
+        QCOMPARE(ActionManager::getAction("Edit.Once"), nullptr);
+    }
+
+private:
+    // Commands follow changes of the focus only.
+    static void focus(QWidget *pWidget)
+    {
+        if (pWidget->hasFocus())
+            pWidget->clearFocus();
+        pWidget->setFocus();
+        QTRY_COMPARE(QApplication::focusWidget(), pWidget);
+    }
+
+    // The server's keyboard knows lower-case letters and its own names for keys.
+    static void press(const char *pKeys)
+    {
+        if (QGuiApplication::platformName() != "xcb") {
+            const QKeySequence sequence = keys(pKeys);
+            QTest::keyClick(QApplication::focusWidget(), sequence[0].key(), sequence[0].keyboardModifiers());
+            return;
+        }
+        QString strKeys =
+            QString::fromLatin1(pKeys).replace("Ctrl", "ctrl").replace("Backspace", "BackSpace");
+        if (strKeys.size() == 1 || strKeys.startsWith("ctrl+"))
+            strKeys = strKeys.toLower();
+        QCOMPARE(QProcess::execute("xdotool", {"key", strKeys}), 0);
+    }
+
+    Program m_program;
+    QWidget *m_pLeft = new QWidget;
+    QWidget *m_pRight = new QWidget;
+    QLineEdit *m_pField = new QLineEdit;
+};
+
+QTEST_MAIN(tst_ShortcutKeys)
+#include "tst_shortcutkeys.moc"

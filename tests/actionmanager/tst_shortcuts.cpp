@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "commandtest.h"
+
+#include <actionmanager/actioncontainer.h>
+#include <actionmanager/shortcuts.h>
+
+#include <QMenu>
+
+class tst_Shortcuts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_program.settings().clear();
+        m_program.settings().setValue("Shortcuts/Edit.Copy", "Ctrl+Y");
+        m_copy = add("Edit.Copy", "&Copy", "Ctrl+C");
+        m_find = add("Edit.Find", "&Find...", "Ctrl+F");
+        m_none = add("View.Zoom", "Zoom", nullptr);
+    }
+    void cleanup()
+    {
+        m_copy.reset();
+        m_find.reset();
+        m_none.reset();
+    }
+
+    void defaultsAndTheUsersAreToldApart()
+    {
+        ShortcutInfo copy = infoOf("Edit.Copy");
+        QVERIFY(copy.isUsers() && copy.bStored && !copy.returnsAtNextStart());
+        QCOMPARE(copy.fullText, "Edit > Copy");
+        QVERIFY(!infoOf("Edit.Find").isUsers() && !infoOf("Edit.Find").bStored);
+        m_copy->pCommand->setKeySequence({});
+        QVERIFY(infoOf("Edit.Copy").isUsers() && infoOf("Edit.Copy").returnsAtNextStart());
+        ActionManager::saveSettings();
+        m_copy.reset();
+        m_copy = add("Edit.Copy", "&Copy", "Ctrl+C");
+        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
+        QVERIFY(!infoOf("View.Zoom").returnsAtNextStart());
+    }
+
+    void separatorsAreNotListed()
+    {
+        ActionContainer *pMenu = ActionManager::createMenuContainer("Test.Menu", "Menu");
+        QAction *pSeparator = nullptr;
+        const QString strId =
+            pMenu->insertSeparator(static_cast<ContextAction *>(nullptr), &pSeparator)->getId();
+        QCOMPARE(ids(Shortcuts::list()), (QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"}));
+        ActionManager::unregisterAction(pSeparator, strId);
+        delete pMenu->getMenu();
+        delete pMenu;
+    }
+
+    void searchingFindsAllWords_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("nothing finds all") << "" << QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"};
+        QTest::newRow("a word of the id") << "zoom" << QStringList {"View.Zoom"};
+        QTest::newRow("a word of the menu and one of the text") << " EDIT  fin " << QStringList {"Edit.Find"};
+        QTest::newRow("the shortcut in force") << "ctrl+y" << QStringList {"Edit.Copy"};
+        QTest::newRow("the description") << "described" << QStringList {"Edit.Copy"};
+        QTest::newRow("a mnemonic is not in the text") << "&" << QStringList {};
+    }
+    void searchingFindsAllWords()
+    {
+        QFETCH(QString, text);
+        m_copy->pCommand->setDescription("As described");
+        QTEST(ids(Shortcuts::search(text)), "found");
+    }
+
+    void conflictsIncludeBeginnings()
+    {
+        QVERIFY(Shortcuts::conflicts().isEmpty());
+        QCOMPARE(ids(Shortcuts::conflictsOf("View.Zoom", keys("Ctrl+F"))), QStringList {"Edit.Find"});
+        QCOMPARE(ids(Shortcuts::conflictsOf("View.Zoom", keys("Ctrl+F, Ctrl+Z"))), QStringList {"Edit.Find"});
+        QVERIFY(Shortcuts::conflictsOf("Edit.Find", keys("Ctrl+F")).isEmpty());
+        QVERIFY(Shortcuts::conflictsOf("Edit.Find", {}).isEmpty());
+        m_find->pCommand->setKeySequence(keys("Ctrl+Y, F"));
+        QCOMPARE(ids(Shortcuts::conflicts()), (QStringList {"Edit.Copy", "Edit.Find"}));
+    }
+
+    void resettingTakesOneOrAll()
+    {
+        m_find->pCommand->setKeySequence(keys("F3"));
+        QVERIFY(Shortcuts::reset("Edit.Copy"));
+        QVERIFY(!Shortcuts::reset("Edit.Unknown"));
+        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
+        QCOMPARE(infoOf("Edit.Find").current, keys("F3"));
+        Shortcuts::resetAll();
+        QCOMPARE(infoOf("Edit.Find").current, keys("Ctrl+F"));
+    }
+
+    void exportAndImportGiveBackEverything()
+    {
+        m_program.settings().setValue("Shortcuts/Absent.Command", "Ctrl+J");
+        m_program.settings().setValue("Shortcuts/Absent.Garbage", "Nonsense");
+        const QString strFile = m_program.filePath("keys.json");
+        QString strError;
+        m_find->pCommand->setKeySequence({});
+        QVERIFY2(Shortcuts::exportTo(strFile, strError), qPrintable(strError));
+        m_program.settings().clear();
+        Shortcuts::resetAll();
+        QVERIFY2(Shortcuts::importFrom(strFile, strError), qPrintable(strError));
+        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+Y"));
+        QVERIFY(infoOf("Edit.Copy").bStored);
+        QCOMPARE(infoOf("Edit.Find").current, QKeySequence());
+        QCOMPARE(m_program.settings().value("Shortcuts/Absent.Command").toString(), "Ctrl+J");
+        QVERIFY(!m_program.settings().contains("Shortcuts/Absent.Garbage"));
+    }
+
+    void aBadFileChangesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const QByteArray head = R"({"format": "kelpa-shortcuts", "Shortcuts": )";
+        QTest::newRow("an empty file") << QByteArray();
+        QTest::newRow("no JSON") << QByteArray("shortcuts!");
+        QTest::newRow("JSON of another kind") << QByteArray(R"({"Shortcuts": {"Edit.Copy": "F2"}})");
+        QTest::newRow("a list in place of the shortcuts") << head + R"([]})";
+        QTest::newRow("a number for a shortcut") << head + R"({"Edit.Copy": "F2", "Z": 3}})";
+        QTest::newRow("no key sequence") << head + R"({"Edit.Copy": "F2", "Z": "Nonsense"}})";
+        QTest::newRow("a command without a name") << head + R"({"": "F2", "Edit.Copy": "F2"}})";
+        QTest::newRow("cut in the middle") << head + R"({"Edit.Copy": "F2",)";
+    }
+    void aBadFileChangesNothing()
+    {
+        QFETCH(QByteArray, content);
+        const QString strFile = m_program.filePath("bad.json");
+        QFile file(strFile);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        QString strError;
+        QVERIFY(!Shortcuts::importFrom(strFile, strError));
+        QVERIFY2(strError.startsWith(strFile + ": "), qPrintable(strError));
+        QVERIFY(strError.size() > strFile.size() + 2);
+        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+Y"));
+    }
+
+    void filesThatCannotBeUsedAreNamed()
+    {
+        QString strError;
+        QVERIFY(!Shortcuts::exportTo("/nowhere/keys.json", strError));
+        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
+        QVERIFY(!Shortcuts::importFrom("/nowhere/keys.json", strError));
+        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
+    }
+
+private:
+    std::unique_ptr<Registered> add(const QString &strId, const QString &strText, const char *pDefault)
+    {
+        auto added = std::make_unique<Registered>(strId, m_program.window(), strText);
+        if (pDefault)
+            added->pCommand->setDefaultKeySequence(keys(pDefault));
+        return added;
+    }
+    static QStringList ids(const QList<ShortcutInfo> &infos)
+    {
+        QStringList found;
+        for (const ShortcutInfo &info : infos)
+            found.append(info.id);
+        return found;
+    }
+    static ShortcutInfo infoOf(const QString &strId)
+    {
+        for (const ShortcutInfo &info : Shortcuts::list()) {
+            if (info.id == strId)
+                return info;
+        }
+        return {};
+    }
+
+    Program m_program;
+    std::unique_ptr<Registered> m_copy, m_find, m_none;
+};
+
+QTEST_MAIN(tst_Shortcuts)
+#include "tst_shortcuts.moc"
