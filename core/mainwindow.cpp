@@ -68,6 +68,7 @@ MainWindow::MainWindow(QWidget *pParent)
 
     createManagers();
     createMdiArea();
+    createTitleBar();
     m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
 }
 
