@@ -248,8 +248,6 @@ void IMainMenuWidget::onDPIChanged()
     dressButton("minizeButton", tr("Minimize"), QStringLiteral("minimize"));
     updateMaximized(window()->isMaximized());
     dressButton("closeButton", tr("Close"), QStringLiteral("close"));
-    const int nSide =
-        qMax(stripHeight(), DisplayScale::proportional(DisplayScale::logicalDpi(), s_nButtonSide));
     m_pIconLabel->setPixmap(IUi::getPixmap(QStringLiteral("icon"), 2, false));
     m_pIconLabel->setFixedSize(menuTitleHeight(), menuTitleHeight());
     m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
