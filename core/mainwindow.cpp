@@ -157,8 +157,7 @@ void MainWindow::aboutToShutdown() { }
 bool MainWindow::IsFirstRun()
 {
     const QSettings *pSettings = PluginManager::settings();
-    return !pSettings
-        || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
+    return !pSettings || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
 }
 
 QString MainWindow::getDefaultTempPath() const

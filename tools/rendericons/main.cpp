@@ -7,10 +7,10 @@
 // "_d_2x", further app_icon.ico, and DIR/icons.qrc. No display is needed.
 #include <QBuffer>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDataStream>
 #include <QDir>
 #include <QFile>
-#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
