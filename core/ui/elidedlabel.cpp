@@ -57,8 +57,11 @@ bool ElidedLabel::event(QEvent *pEvent)
 void ElidedLabel::paintEvent(QPaintEvent *pEvent)
 {
     Q_UNUSED(pEvent)
-    QPainter painter(this);
+    const QString strText = shownText();
     const int nAlign = int(QStyle::visualAlignment(layoutDirection(), alignment()) | Qt::AlignAbsolute);
+    // A message that is not translated still reads in its own direction.
+    const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    QPainter painter(this);
     style()->drawItemText(
-        &painter, contentsRect(), nAlign, palette(), isEnabled(), shownText(), foregroundRole());
+        &painter, contentsRect(), nAlign | nDirection, palette(), isEnabled(), strText, foregroundRole());
 }

@@ -71,10 +71,11 @@ protected:
         // In the middle, so that neither the name of the program nor the mark of a change is lost.
         const QString strText =
             fontMetrics().elidedText(shownTitle(m_pTitleBar), Qt::ElideMiddle, rect.width());
+        // A path reads in its own direction, whatever that of the window is.
+        const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
         QPainter painter(this);
-        style()->drawItemText(
-            &painter, rect, Qt::AlignCenter | Qt::TextSingleLine, palette(), isEnabled(), strText,
-            QPalette::Text);
+        style()->drawItemText(&painter, rect, int(Qt::AlignCenter) | Qt::TextSingleLine | nDirection,
+            palette(), isEnabled(), strText, QPalette::Text);
     }
 
 private:
@@ -177,9 +178,8 @@ void IMainMenuWidget::createShortcuts()
 void IMainMenuWidget::openFirstMenu()
 {
     const auto actions = m_pMenuBar->actions();
-    const auto it = std::find_if(actions.begin(), actions.end(), [](const QAction *pAction) {
-        return pAction->isVisible() && pAction->isEnabled();
-    });
+    const auto it = std::find_if(actions.begin(), actions.end(),
+        [](const QAction *pAction) { return pAction->isVisible() && pAction->isEnabled(); });
     if (it != actions.end())
         m_pMenuBar->setActiveAction(*it);
 }
@@ -332,9 +332,8 @@ void IMainMenuWidget::paintEvent(QPaintEvent *pEvent)
         painter.setClipRegion(QRegion(rect()).subtracted(m_pMenuBar->geometry()));
     painter.drawComplexControl(QStyle::CC_TitleBar, option);
     painter.drawItemPixmap(place(3, 3, nSide, nSide), nAlign, pixmap);
-    painter.drawItemText(
-        place(nTextX, 0, width() - 10 - nHeight, nHeight), nAlign, palette(), isEnabled(), option.text,
-        QPalette::Text);
+    painter.drawItemText(place(nTextX, 0, width() - 10 - nHeight, nHeight), nAlign, palette(), isEnabled(),
+        option.text, QPalette::Text);
 
     QStyleOption rest;
     rest.initFrom(this);
@@ -416,8 +415,7 @@ void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
     }
     if (m_bRestoredByDrag) {
         const QScreen *pScreen = window()->screen();
-        m_windowPosition = TitleBarGeometry::restoredPosition(
-            cursor, window()->normalGeometry().width(),
+        m_windowPosition = TitleBarGeometry::restoredPosition(cursor, window()->normalGeometry().width(),
             pScreen ? pScreen->virtualGeometry() : window()->geometry());
         m_bRestoredByDrag = false;
     }
