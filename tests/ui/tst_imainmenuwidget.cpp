@@ -106,7 +106,7 @@ private slots:
         QTest::addColumn<QRect>("place");
         QTest::newRow("in the middle of the row") << 200 << false << 100 << QRect(450, 0, 100, 20);
         QTest::newRow("pushed aside by many menus") << 500 << false << 100 << QRect(500, 0, 100, 20);
-        QTest::newRow("pushed aside by the buttons") << 100 << false << 750 << QRect(150, 0, 750, 20);
+        QTest::newRow("pushed aside by the buttons") << 50 << false << 840 << QRect(60, 0, 840, 20);
         QTest::newRow("too long: all that is free") << 300 << false << 999 << QRect(300, 0, 600, 20);
         QTest::newRow("no room at all") << 900 << false << 100 << QRect();
         QTest::newRow("right to left, in the middle") << 200 << true << 100 << QRect(450, 0, 100, 20);
@@ -185,7 +185,7 @@ private slots:
     {
         drag(stretchPoint(), {5, 5});
         QMouseEvent move(QEvent::MouseMove, QPointF(m_pMenuBar->actionGeometry(file()).center()),
-            QPointF(m_pPressed + QPoint(9, 9)), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+            QPointF(m_pressed + QPoint(9, 9)), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(m_pMenuBar, &move);
         QVERIFY(!QApplication::activePopupWidget());
         QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
@@ -222,7 +222,7 @@ private slots:
         const QPoint before = m_pWindow->pos();
         QCOMPARE(before, QPoint(100, 100));
         moveCursor({12, 0});
-        const int nCentred = m_pPressed.x() + 12 - 400;
+        const int nCentred = m_pressed.x() + 12 - 400;
         QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 12, 0));
         moveCursor({32, 7});
         QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 32, 7));
@@ -478,20 +478,20 @@ private:
 
     void drag(const QPoint &from, const QPoint &delta, Qt::MouseButton button = Qt::LeftButton)
     {
-        m_pPressed = m_pMenuBar->mapToGlobal(from);
+        m_pressed = m_pMenuBar->mapToGlobal(from);
         QTest::mousePress(m_pWindow->windowHandle(), button, {}, inWindow(from));
         moveCursor(delta);
     }
 
     void moveCursor(const QPoint &delta)
     {
-        QWindow *pWindow = m_pWindow->windowHandle();
-        QTest::mouseMove(pWindow, pWindow->mapFromGlobal(m_pPressed + delta));
+        m_cursor = m_pressed + delta;
+        QTest::mouseMove(m_pWindow->windowHandle(), m_pWindow->mapFromGlobal(m_cursor));
     }
 
     void release(Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mouseRelease(m_pWindow->windowHandle(), button, {}, QPoint(400, 5));
+        QTest::mouseRelease(m_pWindow->windowHandle(), button, {}, m_pWindow->mapFromGlobal(m_cursor));
     }
 
     static void choose(const char *pText)
@@ -509,7 +509,8 @@ private:
     std::unique_ptr<Window> m_pWindow;
     IMainMenuWidget *m_pTitleBar = nullptr;
     QMenuBar *m_pMenuBar = nullptr;
-    QPoint m_pPressed;
+    QPoint m_pressed;
+    QPoint m_cursor;
 };
 
 QTEST_MAIN(tst_IMainMenuWidget)
