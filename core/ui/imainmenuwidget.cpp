@@ -42,6 +42,26 @@ protected:
     }
 };
 
+// As large as it was made: the menu bar would else grow beyond its titles with the image.
+class IconLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
+
+    // Shrinks the image to `nSide` if it is larger, and puts it in the middle if not.
+    void fit(const QPixmap &pixmap, int nSide)
+    {
+        const int nFrame = qMax(0, (nSide - pixmap.height()) / 2);
+        const int nFixed = qMin(nSide, pixmap.height() + 2 * nFrame);
+        setPixmap(pixmap);
+        setScaledContents(true);
+        setMargin(nFrame);
+        setFixedSize(nFixed, nFixed);
+    }
+};
+
 QString shownTitle(const QWidget *pTitleBar)
 {
     return pTitleBar->windowTitle() + QLatin1String(pTitleBar->isWindowModified() ? "*" : "");
@@ -131,8 +151,7 @@ void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
     // A desktop that shows menus in a place of its own would take the title bar away.
     m_pMenuBar->setNativeMenuBar(false);
     m_pLayout->insertWidget(0, m_pMenuBar);
-    m_pIconLabel = new QLabel(m_pMenuBar);
-    m_pIconLabel->setAlignment(Qt::AlignCenter);
+    m_pIconLabel = new IconLabel(m_pMenuBar);
     m_pMenuBar->setCornerWidget(m_pIconLabel, Qt::TopLeftCorner);
     createButtons();
     m_pTitleText = new TitleText(this);
@@ -248,8 +267,8 @@ void IMainMenuWidget::onDPIChanged()
     dressButton("minizeButton", tr("Minimize"), QStringLiteral("minimize"));
     updateMaximized(window()->isMaximized());
     dressButton("closeButton", tr("Close"), QStringLiteral("close"));
-    m_pIconLabel->setPixmap(IUi::getPixmap(QStringLiteral("icon"), 2, false));
-    m_pIconLabel->setFixedSize(menuTitleHeight(), menuTitleHeight());
+    static_cast<IconLabel *>(m_pIconLabel)
+        ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
     m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
 }
 

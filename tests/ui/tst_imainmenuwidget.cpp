@@ -233,6 +233,18 @@ private slots:
         release();
     }
 
+    void dragAfterARestoringOneStartsAfresh()
+    {
+        m_pWindow->showMaximized();
+        QTRY_VERIFY(m_pMenuBar->width() > 1200);
+        drag(QPoint(600, 5), {10, 0});
+        release();
+        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
+        drag(stretchPoint(), {7, 7});
+        QCOMPARE(m_pWindow->pos(), QPoint(107, 107));
+        release();
+    }
+
     void doubleClickMaximisesAndLeavesItSo()
     {
         for (int i = 0; i < 2; ++i) {
@@ -372,6 +384,7 @@ private slots:
         const auto *pIcon = qobject_cast<QLabel *>(m_pMenuBar->cornerWidget(Qt::TopLeftCorner));
         QCOMPARE(pIcon->pixmap(Qt::ReturnByValue).size(), QSize(icon, icon));
         QTest::qWait(0);
+        QCOMPARE(m_pMenuBar->height(), m_pMenuBar->actionGeometry(file()).height());
         for (const char *pName : {"minizeButton", "maximizeButton", "closeButton"}) {
             const QAbstractButton *pButton = button(pName);
             QCOMPARE(pButton->icon().availableSizes(), QList<QSize>({QSize(icon, icon)}));
@@ -409,6 +422,10 @@ private slots:
 
     void keysReachTheWindowMenuAndTheMenus()
     {
+        QTest::keyPress(m_pWindow->windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(m_pWindow->windowHandle(), Qt::Key_Alt);
+        QCOMPARE(m_pMenuBar->activeAction(), file());
+        QTest::keyClick(m_pMenuBar, Qt::Key_Escape);
         QTest::keyClick(m_pWindow.get(), Qt::Key_Space, Qt::AltModifier);
         QTRY_VERIFY(QApplication::activePopupWidget());
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
