@@ -12,7 +12,7 @@
 
 namespace ExtensionSystem {
 
-Q_LOGGING_CATEGORY(lcExtensionSystem, "kelpa.extensionsystem")
+Q_LOGGING_CATEGORY(lcExtensionSystem, "kelpa.extensionsystem", QtInfoMsg)
 
 namespace {
 PluginManager *s_pInstance = nullptr;

@@ -11,6 +11,15 @@ namespace ExtensionSystem {
 
 namespace {
 
+// Versions are kept without trailing zeros, but people write them.
+QString text(const QVersionNumber &version)
+{
+    QList<int> segments = version.segments();
+    while (segments.size() < 3)
+        segments.append(0);
+    return QVersionNumber(segments).toString();
+}
+
 // Does `spec` say by itself why it cannot be used?
 QString ownReason(const PluginSpec &spec)
 {
@@ -43,6 +52,7 @@ public:
 private:
     void nameRecords();
     void select();
+    void selectWanted();
     void selectWithRequired(int nFirst);
     void checkDependencies();
     [[nodiscard]] QString check(const PluginDependency &dependency) const;
@@ -85,24 +95,32 @@ void Resolver::nameRecords()
     }
 }
 
+// By name: what holds for the record that has the name holds for all that claim it.
 void Resolver::select()
 {
-    for (const QString &strName : m_selection.load + m_selection.leaveOut) {
+    const QStringList named = m_selection.load + m_selection.leaveOut;
+    for (const QString &strName : named) {
         if (!m_byName.contains(strName))
             m_result.unknown.append(strName);
     }
-    if (!m_selection.load.isEmpty()) {
-        for (PluginVerdict &verdict : m_result.verdicts)
-            verdict.bSelected = false;
-        for (int i = 0; i < m_specs.size(); ++i) {
-            if (m_specs.at(i).bRequired || m_selection.load.contains(m_specs.at(i).name))
-                selectWithRequired(i);
-        }
-    }
+    if (!m_selection.load.isEmpty())
+        selectWanted();
     for (int i = 0; i < m_specs.size(); ++i) {
         if (m_selection.leaveOut.contains(m_specs.at(i).name))
             verdict(i).bSelected = false;
     }
+}
+
+void Resolver::selectWanted()
+{
+    for (PluginVerdict &verdict : m_result.verdicts)
+        verdict.bSelected = false;
+    for (const PluginSpec &spec : m_specs) {
+        if (spec.bRequired || m_selection.load.contains(spec.name))
+            selectWithRequired(m_byName.value(spec.name));
+    }
+    for (int i = 0; i < m_specs.size(); ++i)
+        verdict(i).bSelected = verdict(m_byName.value(m_specs.at(i).name)).bSelected;
 }
 
 void Resolver::selectWithRequired(int nFirst)
@@ -144,7 +162,7 @@ void Resolver::checkDependencies()
 // Why a required dependency cannot be had as far as one look tells.
 QString Resolver::check(const PluginDependency &dependency) const
 {
-    const QString strWanted = dependency.version.toString();
+    const QString strWanted = text(dependency.version);
     const auto it = m_byName.constFind(dependency.name);
     if (it == m_byName.constEnd())
         return QStringLiteral("needs %1 %2, which is missing").arg(dependency.name, strWanted);
@@ -155,12 +173,10 @@ QString Resolver::check(const PluginDependency &dependency) const
         return dependencyReason(needed, ownReason(needed));
     if (needed.version < dependency.version)
         return QStringLiteral("needs %1 %2, but version %3 is too old (%4)")
-            .arg(dependency.name, strWanted, needed.version.toString(), needed.file);
+            .arg(dependency.name, strWanted, text(needed.version), needed.file);
     if (!needed.provides(dependency.version))
         return QStringLiteral("needs %1 %2, but version %3 is compatible only down to %4 (%5)")
-            .arg(
-                dependency.name, strWanted, needed.version.toString(), needed.compatVersion.toString(),
-                needed.file);
+            .arg(dependency.name, strWanted, text(needed.version), text(needed.compatVersion), needed.file);
     return QString();
 }
 
@@ -305,8 +321,7 @@ PluginResolution resolvePlugins(const QList<PluginSpec> &specs, const PluginSele
 
 QString dependencyReason(const PluginSpec &needed, const QString &strReason)
 {
-    return QStringLiteral("needs %1 %2, which failed: ").arg(needed.name, needed.version.toString())
-        + strReason;
+    return QStringLiteral("needs %1 %2, which failed: ").arg(needed.name, text(needed.version)) + strReason;
 }
 
 } // namespace ExtensionSystem

@@ -256,7 +256,8 @@ bool PluginRunner::Private::initializeAll()
         if (requiredFailure)
             break;
     }
-    destroy(inState(PluginState::Failed));
+    if (!requiredFailure) // else all go together, in good order
+        destroy(inState(PluginState::Failed));
     return !requiredFailure;
 }
 
@@ -304,7 +305,6 @@ void PluginRunner::Private::delayedTurn()
             break;
     }
     delayed += again;
-    stopFailed(PluginPhase::DelayedInitialize);
     nextTurn();
 }
 
@@ -329,13 +329,16 @@ bool PluginRunner::Private::delayedInitialize(int n)
     if (strThrown.isEmpty())
         return bFinished;
     fail(n, PluginPhase::DelayedInitialize, strThrown);
+    stopFailed(PluginPhase::DelayedInitialize);
     return true;
 }
 
 // A failure while plug-ins run: those that require the failed one are shut down in good order, then all of
-// them go.
+// them go. After that of a required one everything is shut down anyway.
 void PluginRunner::Private::stopFailed(PluginPhase phase)
 {
+    if (requiredFailure)
+        return;
     QList<int> dependents;
     const QList<int> candidates = inState(PluginState::Running);
     for (const int n : candidates) {

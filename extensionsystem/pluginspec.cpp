@@ -136,7 +136,7 @@ PluginSpec PluginSpec::fromJson(const QJsonObject &object, const QString &strFil
     spec.compatVersion = reader.version("CompatVersion", false);
     if (!object.contains(QLatin1String("CompatVersion")))
         spec.compatVersion = spec.version;
-    if (spec.compatVersion > spec.version)
+    if (!spec.version.isNull() && spec.compatVersion > spec.version)
         reader.problem("CompatVersion", QStringLiteral("is newer than \"Version\""));
     spec.bRequired = reader.boolean("Required");
     reader.objects("Dependencies", [&](Reader &entry) { spec.dependencies.append(readDependency(entry)); });
