@@ -70,6 +70,7 @@ MainWindow::MainWindow(QWidget *pParent)
 
     createManagers();
     createMdiArea();
+    createTitleBar();
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <core_global.h>
+#include <ui/kpnotificationbar.h>
 #include <ui/kpstyledframe.h>
 
 #include <QMainWindow>
@@ -16,6 +17,7 @@ class ICreateDocumentDlg;
 class IDocument;
 class IDocumentFactory;
 class IMainMdiArea;
+class IMainMenuWidget;
 class IOptionsDlg;
 class QMdiSubWindow;
 class QWebChannel;
@@ -56,6 +58,12 @@ public:
     [[nodiscard]] QWebSocketServer *getServer() const { return m_pServer; }
     [[nodiscard]] QWebChannel *getChannel() const { return m_pChannel; }
     [[nodiscard]] IMainMdiArea *getMdiArea() const { return m_pMdiArea; }
+    [[nodiscard]] KPNotificationBar *getNotificationBar();
+
+    /// As KPNotificationBar::show(), and its end.
+    void showNotification(
+        const QString &strText, KPNotificationBar::Type type, const QString &strButtonText, bool bClosable);
+    void hideNotification();
 
     /// The preferences dialog, made by the first factory on first use; null without a factory.
     [[nodiscard]] IOptionsDlg *getOptionsDialog();
@@ -110,11 +118,14 @@ public slots:
 protected:
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
     void closeEvent(QCloseEvent *pEvent) override;
+    void changeEvent(QEvent *pEvent) override;
+    [[nodiscard]] bool isStyledFrameTitleBar(int x, int y) const override;
 
 private:
     void startServer();
     void createManagers();
     void createMdiArea();
+    void createTitleBar();
     bool closeDocuments(const QList<QPointer<IDocument>> &documents);
     [[nodiscard]] static IDocumentFactory *selectDocumentFactory();
     bool createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICreateDocumentDlg *pDialog);
@@ -125,6 +136,7 @@ private:
     QWebSocketServer *m_pServer = nullptr;
     QWebChannel *m_pChannel = nullptr;
     IMainMdiArea *m_pMdiArea = nullptr;
+    IMainMenuWidget *m_pTitleBar = nullptr;
     DocumentManager *m_pDocumentManager = nullptr;
     EditorManager *m_pEditorManager = nullptr;
     ActionManager *m_pActionManager = nullptr;

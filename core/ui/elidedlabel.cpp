@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "ui/elidedlabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+#include <QtMath>
+
+namespace {
+
+QString oneLine(QString strText)
+{
+    return strText.replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+} // namespace
+
+ElidedLabel::ElidedLabel(QWidget *pParent)
+    : QLabel(pParent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::sizeFor(const QString &strLine) const
+{
+    const QMargins margins = contentsMargins();
+    return QSize(qCeil(QFontMetricsF(font()).horizontalAdvance(strLine)), fontMetrics().height())
+        + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return sizeFor(oneLine(text()));
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return sizeFor(QStringLiteral("\u2026"));
+}
+
+QString ElidedLabel::shownText() const
+{
+    return fontMetrics().elidedText(oneLine(text()), Qt::ElideRight, contentsRect().width());
+}
+
+bool ElidedLabel::event(QEvent *pEvent)
+{
+    if (pEvent->type() != QEvent::ToolTip || shownText() == oneLine(text()))
+        return QLabel::event(pEvent);
+    // Plain text that looks like markup would be taken for it.
+    const QString strTip = QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped());
+    QToolTip::showText(static_cast<QHelpEvent *>(pEvent)->globalPos(), strTip, this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *pEvent)
+{
+    Q_UNUSED(pEvent)
+    const QString strText = shownText();
+    const int nAlign = int(QStyle::visualAlignment(layoutDirection(), alignment()) | Qt::AlignAbsolute);
+    // A message that is not translated still reads in its own direction.
+    const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    QPainter painter(this);
+    style()->drawItemText(
+        &painter, contentsRect(), nAlign | nDirection, palette(), isEnabled(), strText, foregroundRole());
+}

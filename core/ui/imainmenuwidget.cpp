@@ -1,0 +1,473 @@
+// SPDX-License-Identifier: MIT
+#include "ui/imainmenuwidget.h"
+
+#include "displayscale.h"
+#include "iui.h"
+#include "mainwindow.h"
+#include "ui/kpnotificationbar.h"
+#include "ui/titlebargeometry.h"
+
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStyleOptionTitleBar>
+#include <QStylePainter>
+#include <QToolTip>
+#include <QtMath>
+
+namespace {
+
+// Pixels at 100 percent.
+constexpr int s_nIconSide = 16;
+constexpr int s_nTitleMargin = 12;
+
+// A flat button that rises under the mouse in every style.
+class TitleButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void initStyleOption(QStyleOptionButton *pOption) const override
+    {
+        QPushButton::initStyleOption(pOption);
+        if (pOption->state & QStyle::State_MouseOver)
+            pOption->features &= ~QStyleOptionButton::Flat;
+    }
+};
+
+// As large as it was made: the menu bar would else grow beyond its titles with the image.
+class IconLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
+
+    // Shrinks the image to `nSide` if it is larger, and puts it in the middle if not.
+    void fit(const QPixmap &pixmap, int nSide)
+    {
+        const int nFrame = qMax(0, (nSide - pixmap.height()) / 2);
+        const int nFixed = qMin(nSide, pixmap.height() + 2 * nFrame);
+        setPixmap(pixmap);
+        setScaledContents(true);
+        setMargin(nFrame);
+        setFixedSize(nFixed, nFixed);
+    }
+};
+
+QString shownTitle(const QWidget *pTitleBar)
+{
+    return pTitleBar->windowTitle() + QLatin1String(pTitleBar->isWindowModified() ? "*" : "");
+}
+
+} // namespace
+
+/// Lies over the whole menu bar and paints only where that is empty: it sees every change of the menus
+/// because it is painted with them. It lets the mouse through.
+class IMainMenuWidget::TitleText : public QWidget
+{
+public:
+    explicit TitleText(IMainMenuWidget *pTitleBar)
+        : QWidget(pTitleBar->m_pMenuBar)
+        , m_pTitleBar(pTitleBar)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+    [[nodiscard]] bool isElided() const { return textRect().width() < textWidth(); }
+
+protected:
+    void paintEvent(QPaintEvent *pEvent) override
+    {
+        Q_UNUSED(pEvent)
+        const QRect rect = textRect();
+        // In the middle, so that neither the name of the program nor the mark of a change is lost.
+        const QString strText =
+            fontMetrics().elidedText(shownTitle(m_pTitleBar), Qt::ElideMiddle, rect.width());
+        // A path reads in its own direction, whatever that of the window is.
+        const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+        QPainter painter(this);
+        style()->drawItemText(&painter, rect, int(Qt::AlignCenter) | Qt::TextSingleLine | nDirection,
+            palette(), isEnabled(), strText, QPalette::Text);
+    }
+
+private:
+    [[nodiscard]] int textWidth() const
+    {
+        return qCeil(QFontMetricsF(font()).horizontalAdvance(shownTitle(m_pTitleBar)));
+    }
+
+    [[nodiscard]] QRect textRect() const
+    {
+        const QMenuBar *pMenuBar = m_pTitleBar->m_pMenuBar;
+        const QWidget *pTrailing = pMenuBar->cornerWidget(Qt::TopRightCorner);
+        QList<QRect> leading;
+        const auto actions = pMenuBar->actions();
+        for (QAction *pAction : actions)
+            leading.append(pMenuBar->actionGeometry(pAction));
+        const auto widgets = pMenuBar->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *pWidget : widgets) {
+            if (pWidget != this && pWidget != pTrailing && !pWidget->isWindow() && pWidget->isVisible())
+                leading.append(pWidget->geometry());
+        }
+        const int nMargin = DisplayScale::proportional(DisplayScale::logicalDpi(this), s_nTitleMargin);
+        const QRect stretch = TitleBarGeometry::emptyStretch(
+            rect(), leading, pTrailing ? pTrailing->geometry() : QRect(), layoutDirection());
+        return TitleBarGeometry::titleRect(rect(), stretch.adjusted(nMargin, 0, -nMargin, 0), textWidth());
+    }
+
+    IMainMenuWidget *const m_pTitleBar;
+};
+
+IMainMenuWidget::IMainMenuWidget(MainWindow *pParent, const QString &strTitle, const QIcon &icon)
+    : QWidget(pParent)
+    , m_pLayout(new QVBoxLayout(this))
+    , m_pNotificationBar(new KPNotificationBar(this))
+{
+    m_pLayout->setContentsMargins(0, 0, 0, 0);
+    m_pLayout->setSpacing(0);
+    m_pLayout->addWidget(m_pNotificationBar);
+    m_pNotificationBar->hide();
+    updateWindowFilePath(QString());
+    setWindowIcon(icon);
+    setWindowTitle(strTitle);
+    connect(pParent, &MainWindow::updateWindowFilePath, this, &IMainMenuWidget::updateWindowFilePath);
+    connect(pParent, &MainWindow::updateModified, this, &IMainMenuWidget::updateModified);
+    connect(pParent, &MainWindow::dpiChanged, this, &IMainMenuWidget::onDPIChanged);
+}
+
+IMainMenuWidget::~IMainMenuWidget() = default;
+
+void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
+{
+    m_pMenuBar = pMenuBar;
+    // A desktop that shows menus in a place of its own would take the title bar away.
+    m_pMenuBar->setNativeMenuBar(false);
+    m_pLayout->insertWidget(0, m_pMenuBar);
+    m_pIconLabel = new IconLabel(m_pMenuBar);
+    m_pMenuBar->setCornerWidget(m_pIconLabel, Qt::TopLeftCorner);
+    createButtons();
+    m_pTitleText = new TitleText(this);
+    m_pTitleText->setGeometry(m_pMenuBar->rect());
+    m_pTitleText->show();
+    m_pMenuBar->installEventFilter(this);
+    createShortcuts();
+    onDPIChanged();
+}
+
+void IMainMenuWidget::createButtons()
+{
+    auto *pCorner = new QWidget(m_pMenuBar);
+    auto *pLayout = new QHBoxLayout(pCorner);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setSpacing(0);
+    const auto add = [&](const char *pName, auto onClicked) {
+        auto *pButton = new TitleButton(pCorner);
+        pButton->setObjectName(QLatin1String(pName));
+        pButton->setFlat(true);
+        pButton->setFocusPolicy(Qt::NoFocus);
+        connect(pButton, &QPushButton::clicked, this, onClicked);
+        pLayout->addWidget(pButton);
+    };
+    // The odd name of the first is what style sheets and plug-ins know.
+    add("minizeButton", [this] { showMinimized(); });
+    add("maximizeButton", [this] { toggleMaximized(); });
+    add("closeButton", [this] { close(); });
+    m_pMenuBar->setCornerWidget(pCorner, Qt::TopRightCorner);
+}
+
+// What a window with the system's frame has by itself: a key for its menu bar and one for its own menu.
+void IMainMenuWidget::createShortcuts()
+{
+    auto *pMenus = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(pMenus, &QShortcut::activated, this, &IMainMenuWidget::openFirstMenu);
+    auto *pWindowMenu = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Space), this);
+    connect(pWindowMenu, &QShortcut::activated, this, [this] {
+        openWindowMenu(m_pMenuBar->mapToGlobal(QPoint(m_pIconLabel->x(), m_pMenuBar->height())), true);
+    });
+}
+
+void IMainMenuWidget::openFirstMenu()
+{
+    const auto actions = m_pMenuBar->actions();
+    const auto it = std::find_if(actions.begin(), actions.end(),
+        [](const QAction *pAction) { return pAction->isVisible() && pAction->isEnabled(); });
+    if (it != actions.end())
+        m_pMenuBar->setActiveAction(*it);
+}
+
+bool IMainMenuWidget::isTitleBarArea(int x, int y) const
+{
+    const QPoint point(x, y);
+    if (!rect().contains(point))
+        return false;
+    // Widgets in the menu bar, such as its corners, are the child at the point themselves.
+    const auto *pMenuBar = qobject_cast<QMenuBar *>(childAt(point));
+    return pMenuBar && !pMenuBar->actionAt(pMenuBar->mapFrom(this, point));
+}
+
+void IMainMenuWidget::updateWindowFilePath(const QString &fileName)
+{
+    const QString strProgram = QStringLiteral("Kelpa Studio");
+    setWindowTitle(fileName.isEmpty() ? strProgram : QStringLiteral("%1 - %2").arg(fileName, strProgram));
+    update();
+}
+
+void IMainMenuWidget::updateModified(bool bIsModified)
+{
+    setWindowModified(bIsModified);
+    update();
+}
+
+// The system shows the title of the top-level window, in the task bar for one. There "[*]" stands for the
+// mark of a change, and twice that for itself.
+void IMainMenuWidget::changeEvent(QEvent *pEvent)
+{
+    if (pEvent->type() == QEvent::WindowTitleChange || pEvent->type() == QEvent::ModifiedChange) {
+        const QString strMark = QStringLiteral("[*]");
+        window()->setWindowTitle(shownTitle(this).replace(strMark, strMark + strMark));
+        if (m_pTitleText)
+            m_pTitleText->update();
+    }
+    QWidget::changeEvent(pEvent);
+}
+
+void IMainMenuWidget::updateMaximized(bool bIsMaximized)
+{
+    if (bIsMaximized)
+        dressButton("maximizeButton", tr("Restore Down"), QStringLiteral("restore"));
+    else
+        dressButton("maximizeButton", tr("Maximize"), QStringLiteral("maximize"));
+}
+
+void IMainMenuWidget::dressButton(const char *pName, const QString &strToolTip, const QString &strIcon)
+{
+    auto *pButton = findChild<QPushButton *>(QLatin1String(pName));
+    if (!pButton)
+        return;
+    const int nIcon = DisplayScale::wholeFactor(DisplayScale::logicalDpi(), s_nIconSide);
+    pButton->setToolTip(strToolTip);
+    pButton->setAccessibleName(strToolTip);
+    pButton->setIcon(IUi::getIcon(strIcon, 2));
+    pButton->setIconSize({nIcon, nIcon});
+    pButton->setFixedSize(menuTitleHeight(), menuTitleHeight());
+}
+
+void IMainMenuWidget::onDPIChanged()
+{
+    if (!m_pMenuBar)
+        return;
+    dressButton("minizeButton", tr("Minimize"), QStringLiteral("minimize"));
+    updateMaximized(window()->isMaximized());
+    dressButton("closeButton", tr("Close"), QStringLiteral("close"));
+    static_cast<IconLabel *>(m_pIconLabel)
+        ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
+    m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
+}
+
+void IMainMenuWidget::showMinimized()
+{
+    window()->showMinimized();
+}
+
+void IMainMenuWidget::showMaximized()
+{
+    window()->showMaximized();
+}
+
+void IMainMenuWidget::showNormal()
+{
+    window()->showNormal();
+}
+
+bool IMainMenuWidget::close()
+{
+    return window()->close();
+}
+
+void IMainMenuWidget::toggleMaximized()
+{
+    if (window()->isMaximized())
+        showNormal();
+    else
+        showMaximized();
+}
+
+// What lies beside the menu titles is as high as they are: styles paint a line under each title and under the
+// rest of the row, which is one line only if the titles fill the row.
+int IMainMenuWidget::menuTitleHeight() const
+{
+    QStyleOptionMenuItem option;
+    option.initFrom(m_pMenuBar);
+    option.text = QStringLiteral("X");
+    const QSize text = m_pMenuBar->fontMetrics().size(Qt::TextShowMnemonic, option.text);
+    return m_pMenuBar->style()->sizeFromContents(QStyle::CT_MenuBarItem, &option, text, m_pMenuBar).height();
+}
+
+int IMainMenuWidget::stripHeight() const
+{
+    QStyleOptionTitleBar option;
+    option.initFrom(this);
+    return style()->pixelMetric(QStyle::PM_TitleBarHeight, &option, this);
+}
+
+QStyleOptionTitleBar IMainMenuWidget::titleBarOption() const
+{
+    QStyleOptionTitleBar option;
+    option.initFrom(this);
+    option.rect = QRect(0, 0, width(), stripHeight());
+    option.titleBarState = static_cast<int>(window()->windowState());
+    if (isActiveWindow())
+        option.titleBarState |= QStyle::State_Active;
+    option.text = fontMetrics().elidedText(shownTitle(this), Qt::ElideRight, option.rect.width());
+    option.icon = windowIcon();
+    return option;
+}
+
+void IMainMenuWidget::paintEvent(QPaintEvent *pEvent)
+{
+    Q_UNUSED(pEvent)
+    const QStyleOptionTitleBar option = titleBarOption();
+    const int nHeight = option.rect.height();
+    const int nSide = nHeight - 3;
+    const QPixmap pixmap = option.icon.pixmap(QSize(nSide, nSide));
+    const int nTextX = qRound(pixmap.width() / pixmap.devicePixelRatio()) + 10;
+    const auto place = [&](int nX, int nY, int nWidth, int nRectHeight) {
+        return QStyle::visualRect(layoutDirection(), option.rect, QRect(nX, nY, nWidth, nRectHeight));
+    };
+    const int nAlign =
+        int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute);
+
+    QStylePainter painter(this);
+    // Under a menu bar that is not opaque the title would be seen twice.
+    if (m_pMenuBar && m_pMenuBar->isVisible())
+        painter.setClipRegion(QRegion(rect()).subtracted(m_pMenuBar->geometry()));
+    painter.drawComplexControl(QStyle::CC_TitleBar, option);
+    painter.drawItemPixmap(place(3, 3, nSide, nSide), nAlign, pixmap);
+    painter.drawItemText(place(nTextX, 0, width() - 10 - nHeight, nHeight), nAlign, palette(), isEnabled(),
+        option.text, QPalette::Text);
+
+    QStyleOption rest;
+    rest.initFrom(this);
+    rest.rect.setTop(nHeight);
+    painter.drawPrimitive(QStyle::PE_Widget, rest);
+}
+
+// The menu bar fills the row and would keep every mouse event to itself.
+bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
+{
+    if (pWatched != m_pMenuBar)
+        return QWidget::eventFilter(pWatched, pEvent);
+    switch (pEvent->type()) {
+    case QEvent::Resize:
+        m_pTitleText->setGeometry(m_pMenuBar->rect());
+        return false;
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        onDPIChanged();
+        return false;
+    case QEvent::ToolTip: {
+        const auto *pHelp = static_cast<QHelpEvent *>(pEvent);
+        const QPoint point = m_pMenuBar->mapTo(this, pHelp->pos());
+        if (!isTitleBarArea(point.x(), point.y()) || !m_pTitleText->isElided())
+            return false;
+        QToolTip::showText(pHelp->globalPos(), shownTitle(this), m_pMenuBar);
+        return true;
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        return passMouseEvent(static_cast<QMouseEvent *>(pEvent));
+    default:
+        return false;
+    }
+}
+
+// The menu bar sees buttons too, so that a click beside the menus leaves them; it must not open one under
+// the cursor of a drag.
+bool IMainMenuWidget::passMouseEvent(QMouseEvent *pEvent)
+{
+    const QPoint point = m_pMenuBar->mapTo(this, pEvent->position().toPoint());
+    const bool bEmpty = isTitleBarArea(point.x(), point.y());
+    const bool bDragged = m_bDragging;
+    if (bEmpty && pEvent->type() == QEvent::MouseButtonPress)
+        mousePressEvent(pEvent);
+    else if (bEmpty && pEvent->type() == QEvent::MouseButtonDblClick)
+        mouseDoubleClickEvent(pEvent);
+    else if (pEvent->type() == QEvent::MouseButtonRelease)
+        mouseReleaseEvent(pEvent);
+    else if (pEvent->type() == QEvent::MouseMove)
+        mouseMoveEvent(pEvent);
+    return bDragged && pEvent->type() == QEvent::MouseMove;
+}
+
+void IMainMenuWidget::mousePressEvent(QMouseEvent *pEvent)
+{
+    if (pEvent->button() != Qt::LeftButton)
+        return;
+    m_bDragging = true;
+    m_bRestoredByDrag = false;
+    m_pressPosition = pEvent->globalPosition().toPoint();
+    m_windowPosition = window()->pos();
+}
+
+void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
+{
+    if (!m_bDragging)
+        return;
+    const QPoint cursor = pEvent->globalPosition().toPoint();
+    const QPoint delta = cursor - m_pressPosition;
+    if (window()->isMaximized()) {
+        if (TitleBarGeometry::restoresMaximized(delta)) {
+            showNormal();
+            m_bRestoredByDrag = true;
+        }
+        return;
+    }
+    if (m_bRestoredByDrag) {
+        const QScreen *pScreen = window()->screen();
+        m_windowPosition = TitleBarGeometry::restoredPosition(cursor, window()->normalGeometry().width(),
+            pScreen ? pScreen->virtualGeometry() : window()->geometry());
+        m_bRestoredByDrag = false;
+    }
+    window()->move(m_windowPosition + delta);
+}
+
+void IMainMenuWidget::mouseReleaseEvent(QMouseEvent *pEvent)
+{
+    if (pEvent->button() == Qt::LeftButton)
+        m_bDragging = false;
+}
+
+void IMainMenuWidget::mouseDoubleClickEvent(QMouseEvent *pEvent)
+{
+    if (pEvent->button() == Qt::LeftButton)
+        showMaximized();
+}
+
+void IMainMenuWidget::contextMenuEvent(QContextMenuEvent *pEvent)
+{
+    openWindowMenu(pEvent->globalPos(), false);
+}
+
+void IMainMenuWidget::openWindowMenu(const QPoint &globalPosition, bool bByKeyboard)
+{
+    auto *pMenu = new QMenu(this);
+    pMenu->setAttribute(Qt::WA_DeleteOnClose);
+    const bool bMaximized = window()->isMaximized();
+    pMenu->addAction(tr("Restore"), this, &IMainMenuWidget::showNormal)->setEnabled(bMaximized);
+    pMenu->addAction(tr("Minimize"), this, &IMainMenuWidget::showMinimized);
+    pMenu->addAction(tr("Maximize"), this, &IMainMenuWidget::showMaximized)->setEnabled(!bMaximized);
+    pMenu->addAction(tr("Close"), this, &IMainMenuWidget::close);
+    pMenu->popup(globalPosition);
+    if (bByKeyboard)
+        pMenu->setActiveAction(pMenu->actions().at(bMaximized ? 0 : 1));
+}

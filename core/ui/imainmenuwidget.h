@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QPoint>
+#include <QWidget>
+
+class KPNotificationBar;
+class MainWindow;
+class QLabel;
+class QMenuBar;
+class QStyleOptionTitleBar;
+class QVBoxLayout;
+
+/// The top strip of the frameless main window: one row of icon, menus, title and window buttons, and the
+/// notification bar under it. Its empty stretch moves the window. The main window owns it; GUI thread only.
+///
+/// The title is the widget's own window title. The menu bar covers the strip on which it is painted, so it is
+/// shown again in the stretch that the menus leave free, and the top-level window's title follows it.
+class CORE_EXPORT IMainMenuWidget : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(IMainMenuWidget)
+
+public:
+    IMainMenuWidget(MainWindow *pParent, const QString &strTitle, const QIcon &icon);
+    ~IMainMenuWidget() override;
+
+    /// Takes the menu bar over and puts icon and window buttons into its corners. To be called once.
+    void setMenuBar(QMenuBar *pMenuBar);
+
+    [[nodiscard]] KPNotificationBar *getNotificationBar() const { return m_pNotificationBar; }
+
+    /// Whether the point, in coordinates of this widget, drags the window: the empty stretch of the menu bar.
+    [[nodiscard]] virtual bool isTitleBarArea(int x, int y) const;
+
+public slots:
+    void updateWindowFilePath(const QString &fileName);
+    void updateModified(bool bIsModified);
+
+    /// Dresses the button "maximizeButton" for what it would do.
+    void updateMaximized(bool bIsMaximized);
+
+    /// These act on the top-level window.
+    void showMinimized();
+    void showMaximized();
+    void showNormal();
+    bool close();
+
+    /// Loads the icons again, and fits the row to them.
+    void onDPIChanged();
+
+protected:
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
+    void changeEvent(QEvent *pEvent) override;
+    void paintEvent(QPaintEvent *pEvent) override;
+    void mousePressEvent(QMouseEvent *pEvent) override;
+    void mouseMoveEvent(QMouseEvent *pEvent) override;
+    void mouseReleaseEvent(QMouseEvent *pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent *pEvent) override;
+    void contextMenuEvent(QContextMenuEvent *pEvent) override;
+
+private:
+    class TitleText;
+
+    void createButtons();
+    void createShortcuts();
+    void dressButton(const char *pName, const QString &strToolTip, const QString &strIcon);
+    void toggleMaximized();
+    void openFirstMenu();
+    void openWindowMenu(const QPoint &globalPosition, bool bByKeyboard);
+    bool passMouseEvent(QMouseEvent *pEvent);
+    [[nodiscard]] int menuTitleHeight() const;
+    [[nodiscard]] int stripHeight() const;
+    [[nodiscard]] QStyleOptionTitleBar titleBarOption() const;
+
+    QVBoxLayout *m_pLayout;
+    QMenuBar *m_pMenuBar = nullptr;
+    KPNotificationBar *m_pNotificationBar;
+    QLabel *m_pIconLabel = nullptr;
+    TitleText *m_pTitleText = nullptr;
+    QPoint m_pressPosition;
+    QPoint m_windowPosition;
+    bool m_bRestoredByDrag = false;
+    bool m_bDragging = false;
+};

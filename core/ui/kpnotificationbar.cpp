@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "ui/kpnotificationbar.h"
+
+#include "displayscale.h"
+#include "iui.h"
+#include "ui_kpnotificationbar.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+
+namespace {
+
+// Screen readers read an alert out when it comes up.
+QAccessibleInterface *createAlert(const QString &strClass, QObject *pObject)
+{
+    if (strClass != QLatin1String(KPNotificationBar::staticMetaObject.className()))
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget *>(pObject), QAccessible::AlertMessage);
+}
+
+} // namespace
+
+KPNotificationBar::KPNotificationBar(QWidget *pParent)
+    : QFrame(pParent)
+    , m_pUi(new Ui::KPNotificationBar)
+{
+    m_pUi->setupUi(this);
+    // The window is moved by the title bar, which is the parent, and not by this.
+    setAttribute(Qt::WA_NoMousePropagation);
+    setAutoFillBackground(true);
+    connect(m_pUi->m_pCloseButton, &QToolButton::clicked, this, &KPNotificationBar::hide);
+    connect(m_pUi->m_pButton, &QPushButton::clicked, this, &KPNotificationBar::buttonClicked);
+    // Installing it again changes nothing.
+    QAccessible::installFactory(createAlert);
+}
+
+KPNotificationBar::~KPNotificationBar() = default;
+
+void KPNotificationBar::show(const QString &text, Type type, const QString &buttonText, bool closable)
+{
+    const bool bWarning = type == Warning;
+    const int nIcon = DisplayScale::wholeFactor(DisplayScale::logicalDpi(), 16);
+    m_pUi->m_pIconLabel->setPixmap(
+        IUi::getPixmap(bWarning ? QStringLiteral("warning") : QStringLiteral("info"), 2, false));
+    m_pUi->m_pMessageLabel->setText(text);
+    m_pUi->m_pMessageLabel->setVisible(!text.isEmpty());
+    m_pUi->m_pButton->setText(buttonText);
+    m_pUi->m_pButton->setVisible(!buttonText.isEmpty());
+    m_pUi->m_pCloseButton->setIconSize({nIcon, nIcon});
+    m_pUi->m_pCloseButton->setVisible(closable);
+    disconnect(this, &KPNotificationBar::buttonClicked, nullptr, nullptr);
+    QFrame::show();
+    announce(text, type);
+}
+
+// Once for each message, also when the bar was visible already; the focus stays where it is.
+void KPNotificationBar::announce(const QString &strText, Type type)
+{
+    const QString strKind = type == Warning ? tr("Warning") : tr("Information");
+    m_pUi->m_pIconLabel->setAccessibleName(strKind);
+    setAccessibleName(strText);
+    setAccessibleDescription(strKind);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(this, strText);
+#else
+    QAccessibleEvent event(this, QAccessible::Alert);
+#endif
+    QAccessible::updateAccessibility(&event);
+}
+
+void KPNotificationBar::keyPressEvent(QKeyEvent *pEvent)
+{
+    if (pEvent->matches(QKeySequence::Cancel) && !m_pUi->m_pCloseButton->isHidden())
+        hide();
+    else
+        QFrame::keyPressEvent(pEvent);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QFrame>
+
+#include <memory>
+
+namespace Ui {
+class KPNotificationBar;
+}
+
+/// One line under the menus that tells the user something without a dialog. The title bar owns it; GUI thread
+/// only. It stays until the user closes it or its owner hides it.
+class CORE_EXPORT KPNotificationBar : public QFrame
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(KPNotificationBar)
+
+public:
+    enum Type {
+        Info = 0,
+        Warning = 1,
+    };
+
+    explicit KPNotificationBar(QWidget *pParent);
+    ~KPNotificationBar() override;
+
+    /// Shows a plain text. An empty `buttonText` leaves the button away; without `closable` only hide() ends
+    /// it. Whoever was connected to buttonClicked() no longer is: connect after this call.
+    void show(const QString &text, Type type, const QString &buttonText, bool closable);
+
+signals:
+    void buttonClicked();
+
+protected:
+    void keyPressEvent(QKeyEvent *pEvent) override;
+
+private:
+    void announce(const QString &strText, Type type);
+
+    const std::unique_ptr<Ui::KPNotificationBar> m_pUi;
+};

@@ -1,0 +1,485 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <mainwindow.h>
+#include <ui/imainmenuwidget.h>
+
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProxyStyle>
+#include <QScreen>
+#include <QStyleOptionTitleBar>
+
+namespace {
+
+class Window : public MainWindow
+{
+public:
+    Window()
+        : MainWindow(nullptr)
+    {
+    }
+    using MainWindow::isStyledFrameTitleBar;
+};
+
+// Keeps what was drawn of the title bar.
+class RecordingStyle : public QProxyStyle
+{
+public:
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *pOption, QPainter *pPainter,
+        const QWidget *pWidget) const override
+    {
+        if (control == CC_TitleBar)
+            option = *qstyleoption_cast<const QStyleOptionTitleBar *>(pOption);
+        QProxyStyle::drawComplexControl(control, pOption, pPainter, pWidget);
+    }
+
+    mutable QStyleOptionTitleBar option;
+};
+
+// The columns of `rect` in which something is painted on the background, as the rectangle around them.
+QRect inkOf(const QImage &image, const QRect &rect)
+{
+    const QRgb background = image.pixel(rect.topLeft() + QPoint(1, 2));
+    QRect ink;
+    for (int x = rect.left(); x <= rect.right(); ++x) {
+        for (int y = rect.top() + 2; y < rect.bottom() - 2; ++y) {
+            if (image.pixel(x, y) != background)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+} // namespace
+
+class tst_IMainMenuWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_pWindow = std::make_unique<Window>();
+        m_pTitleBar = m_pWindow->findChild<IMainMenuWidget *>();
+        m_pMenuBar = new QMenuBar(m_pWindow.get());
+        for (const char *pTitle : {"&File", "&Edit", "&Help"})
+            m_pMenuBar->addMenu(QString::fromLatin1(pTitle))->addAction(QStringLiteral("Entry"));
+        m_pTitleBar->setMenuBar(m_pMenuBar);
+        m_pWindow->setGeometry(100, 100, 800, 600);
+        showAndWait();
+    }
+
+    void cleanup()
+    {
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        m_pWindow.reset();
+        m_pProgram.reset();
+    }
+
+    void onlyTheEmptyStretchIsTitleBar_data()
+    {
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("left to right") << false;
+        QTest::newRow("right to left") << true;
+    }
+
+    void onlyTheEmptyStretchIsTitleBar()
+    {
+        QFETCH(bool, rightToLeft);
+        if (rightToLeft) {
+            QApplication::setLayoutDirection(Qt::RightToLeft);
+            QVERIFY(m_pMenuBar->actionGeometry(m_pMenuBar->actions().first()).left() > 400);
+        }
+        m_pWindow->showNotification(QStringLiteral("text"), KPNotificationBar::Info, {}, true);
+        QTest::qWait(0);
+        QVERIFY(isTitleBar(m_pMenuBar, stretchPoint()));
+        QVERIFY(isTitleBar(m_pMenuBar, m_pMenuBar->rect().center()));
+        for (QAction *pAction : m_pMenuBar->actions())
+            QVERIFY(!isTitleBar(m_pMenuBar, m_pMenuBar->actionGeometry(pAction).center()));
+        QVERIFY(!isTitleBar(m_pMenuBar->cornerWidget(Qt::TopLeftCorner), {5, 5}));
+        QVERIFY(!isTitleBar(button("minizeButton"), {5, 5}));
+        QVERIFY(!isTitleBar(m_pWindow->getNotificationBar(), {400, 5}));
+        QVERIFY(!isTitleBar(m_pWindow.get(), {400, 300}));
+        QVERIFY(!m_pTitleBar->isTitleBarArea(400, -1));
+        QVERIFY(!Window().isStyledFrameTitleBar(400, 5));
+    }
+
+    void dragMovesTheWindowUntilTheRelease()
+    {
+        drag(stretchPoint(), {3, -2});
+        QCOMPARE(m_pWindow->pos(), QPoint(103, 98));
+        moveCursor({60, 40});
+        QCOMPARE(m_pWindow->pos(), QPoint(160, 140));
+        release();
+        moveCursor({90, 90});
+        QCOMPARE(m_pWindow->pos(), QPoint(160, 140));
+    }
+
+    void whatIsNotTitleBarDoesNotMoveTheWindow()
+    {
+        drag(stretchPoint(), {30, 30}, Qt::RightButton);
+        release(Qt::RightButton);
+        drag(m_pMenuBar->cornerWidget(Qt::TopLeftCorner)->geometry().center(), {30, 30});
+        release();
+        m_pWindow->showNotification(QStringLiteral("text"), KPNotificationBar::Info, {}, true);
+        QTest::qWait(0);
+        drag(m_pWindow->getNotificationBar()->geometry().center(), {30, 30});
+        release();
+        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void dragAcrossTheMenusOpensNone()
+    {
+        drag(stretchPoint(), {5, 5});
+        QMouseEvent move(QEvent::MouseMove, QPointF(m_pMenuBar->actionGeometry(file()).center()),
+            QPointF(m_pressed + QPoint(9, 9)), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_pMenuBar, &move);
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
+        release();
+    }
+
+    void dragOfAMaximisedWindow_data()
+    {
+        QTest::addColumn<QPoint>("delta");
+        QTest::addColumn<bool>("restored");
+        QTest::newRow("a little right and down") << QPoint(5, 5) << false;
+        QTest::newRow("far to the left") << QPoint(-50, 0) << false;
+        QTest::newRow("far up and a little right") << QPoint(3, -10) << false;
+        QTest::newRow("right by the threshold") << QPoint(6, -50) << true;
+        QTest::newRow("down by the threshold") << QPoint(-50, 6) << true;
+    }
+
+    void dragOfAMaximisedWindow()
+    {
+        QFETCH(QPoint, delta);
+        m_pWindow->showMaximized();
+        QTRY_VERIFY(m_pMenuBar->width() > 1200);
+        drag(QPoint(600, 5), delta);
+        QTEST(!m_pWindow->isMaximized(), "restored");
+        release();
+    }
+
+    void restoredWindowComesUnderTheCursor()
+    {
+        m_pWindow->showMaximized();
+        QTRY_VERIFY(m_pMenuBar->width() > 1200);
+        drag(QPoint(600, 5), {10, 0});
+        QVERIFY(!m_pWindow->isMaximized());
+        const QPoint before = m_pWindow->pos();
+        QCOMPARE(before, QPoint(100, 100));
+        moveCursor({12, 0});
+        const int nCentred = m_pressed.x() + 12 - 400;
+        QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 12, 0));
+        moveCursor({32, 7});
+        QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 32, 7));
+        release();
+
+        drag(stretchPoint(), {1, 1});
+        QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 33, 8));
+        release();
+    }
+
+    void dragAfterARestoringOneStartsAfresh()
+    {
+        m_pWindow->showMaximized();
+        QTRY_VERIFY(m_pMenuBar->width() > 1200);
+        drag(QPoint(600, 5), {10, 0});
+        release();
+        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
+        drag(stretchPoint(), {7, 7});
+        QCOMPARE(m_pWindow->pos(), QPoint(107, 107));
+        release();
+    }
+
+    void doubleClickMaximisesAndLeavesItSo()
+    {
+        for (int i = 0; i < 2; ++i) {
+            QTest::mouseDClick(m_pWindow->windowHandle(), Qt::LeftButton, {}, inWindow(stretchPoint()));
+            QVERIFY(m_pWindow->isMaximized());
+        }
+        m_pWindow->showNormal();
+        QTest::mouseDClick(m_pWindow->windowHandle(), Qt::RightButton, {}, inWindow(stretchPoint()));
+        QVERIFY(!m_pWindow->isMaximized());
+    }
+
+    void titleIsThatOfTheFile_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("modified");
+        QTest::addColumn<QString>("painted");
+        QTest::addColumn<QString>("ofWindow");
+        const auto row = [](const char *pName, const char *pFile, bool bModified, const char *pTitle) {
+            const QString strTitle = QString::fromLatin1(pTitle);
+            QTest::newRow(pName) << QString::fromLatin1(pFile) << bModified << strTitle
+                                 << QString(strTitle).replace("[*]", "[*][*]");
+        };
+        row("no file", "", false, "Kelpa Studio");
+        row("no file, modified", "", true, "Kelpa Studio*");
+        row("a file", "/a/b.kelpa", false, "/a/b.kelpa - Kelpa Studio");
+        row("a modified file", "/a/b.kelpa", true, "/a/b.kelpa - Kelpa Studio*");
+        row("a name with the sign for the mark", "/[*].kelpa", false, "/[*].kelpa - Kelpa Studio");
+        row("a name with place holders", "/%1%2.kelpa", true, "/%1%2.kelpa - Kelpa Studio*");
+    }
+
+    void titleIsThatOfTheFile()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, modified);
+        RecordingStyle style;
+        m_pTitleBar->setStyle(&style);
+        m_pWindow->setWindowFilePath(file);
+        m_pWindow->setWindowModified(modified);
+        m_pTitleBar->grab();
+        QTEST(style.option.text, "painted");
+        QTEST(m_pWindow->windowTitle(), "ofWindow");
+        QCOMPARE(style.option.rect.topLeft(), QPoint(0, 0));
+        QCOMPARE(style.option.rect.width(), m_pTitleBar->width());
+        QCOMPARE(style.option.rect.height(),
+            style.pixelMetric(QStyle::PM_TitleBarHeight, &style.option, m_pTitleBar));
+        QVERIFY(!style.option.icon.isNull());
+        m_pTitleBar->setStyle(nullptr);
+    }
+
+    void longTitleIsElidedInThePaintedStrip()
+    {
+        RecordingStyle style;
+        m_pTitleBar->setStyle(&style);
+        m_pWindow->setWindowFilePath(QString(500, 'm'));
+        m_pTitleBar->grab();
+        QVERIFY(style.option.text.endsWith(QChar(0x2026)));
+        QVERIFY(m_pTitleBar->fontMetrics().horizontalAdvance(style.option.text) <= m_pTitleBar->width());
+        m_pTitleBar->setStyle(nullptr);
+    }
+
+    void titleIsSeenBesideTheMenus_data()
+    {
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("left to right") << false;
+        QTest::newRow("right to left") << true;
+    }
+
+    void titleIsSeenBesideTheMenus()
+    {
+        QFETCH(bool, rightToLeft);
+        QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        const QRect shortTitle = titleInk();
+        QVERIFY(qAbs(shortTitle.center().x() - m_pMenuBar->width() / 2) <= 2);
+        m_pWindow->setWindowModified(true);
+        const QRect modified = titleInk();
+        QVERIFY2(modified.width() > shortTitle.width(), "the mark is to be seen");
+        m_pWindow->setWindowFilePath(QString(500, 'm'));
+        const QRect stretch = stretchRect();
+        const QRect longTitle = titleInk();
+        QVERIFY(longTitle.width() > stretch.width() * 9 / 10 - 24);
+        QVERIFY(longTitle.left() >= stretch.left() + 6 && longTitle.right() <= stretch.right() - 6);
+        m_pMenuBar->addMenu(QStringLiteral("A further menu"));
+        QTest::qWait(0);
+        QVERIFY(titleInk().width() < longTitle.width() - 20);
+    }
+
+    void buttonsDoWhatTheyAreCalled()
+    {
+        QAbstractButton *pMaximize = button("maximizeButton");
+        QCOMPARE(pMaximize->toolTip(), QStringLiteral("Maximize"));
+        pMaximize->click();
+        QVERIFY(m_pWindow->isMaximized());
+        QCOMPARE(pMaximize->toolTip(), QStringLiteral("Restore Down"));
+        QCOMPARE(pMaximize->accessibleName(), QStringLiteral("Restore Down"));
+        pMaximize->click();
+        QVERIFY(!m_pWindow->isMaximized());
+        QCOMPARE(pMaximize->toolTip(), QStringLiteral("Maximize"));
+        QCOMPARE(button("minizeButton")->accessibleName(), QStringLiteral("Minimize"));
+        button("minizeButton")->click();
+        QVERIFY(m_pWindow->isMinimized());
+        QCOMPARE(button("closeButton")->accessibleName(), QStringLiteral("Close"));
+        button("closeButton")->click();
+        QVERIFY(!m_pWindow->isVisible());
+    }
+
+    void maximiseIconShowsWhatItWouldDo()
+    {
+        const auto image = [this] { return button("maximizeButton")->icon().pixmap(16, 16).toImage(); };
+        const QImage maximize = image();
+        m_pTitleBar->updateMaximized(true);
+        QVERIFY(image() != maximize);
+        m_pTitleBar->onDPIChanged();
+        QCOMPARE(image(), maximize);
+        delete button("maximizeButton");
+        m_pWindow->showMaximized();
+        m_pTitleBar->updateMaximized(true);
+        m_pTitleBar->onDPIChanged();
+    }
+
+    void iconsAndRowFollowTheDisplay_data()
+    {
+        QTest::addColumn<int>("dpi");
+        QTest::addColumn<int>("icon");
+        QTest::newRow("100 percent") << 96 << 16;
+        QTest::newRow("148 percent") << 143 << 16;
+        QTest::newRow("150 percent") << 144 << 32;
+        QTest::newRow("200 percent") << 192 << 32;
+    }
+
+    void iconsAndRowFollowTheDisplay()
+    {
+        QFETCH(int, dpi);
+        QFETCH(int, icon);
+        m_pWindow->setGeometry({screen(dpi)->geometry().topLeft() + QPoint(50, 50), QSize(800, 600)});
+        m_pWindow->setScreen(screen(dpi));
+        emit m_pWindow->dpiChanged(dpi * 100 / 96);
+        const auto *pIcon = qobject_cast<QLabel *>(m_pMenuBar->cornerWidget(Qt::TopLeftCorner));
+        QCOMPARE(pIcon->pixmap(Qt::ReturnByValue).size(), QSize(icon, icon));
+        QTest::qWait(0);
+        QCOMPARE(m_pMenuBar->height(), m_pMenuBar->actionGeometry(file()).height());
+        for (const char *pName : {"minizeButton", "maximizeButton", "closeButton"}) {
+            const QAbstractButton *pButton = button(pName);
+            QCOMPARE(pButton->icon().availableSizes(), QList<QSize>({QSize(icon, icon)}));
+            QCOMPARE(pButton->iconSize(), QSize(icon, icon));
+            QCOMPARE(pButton->width(), pButton->height());
+            QCOMPARE(pButton->height(), m_pMenuBar->actionGeometry(file()).height());
+        }
+    }
+
+    void windowMenuOffersWhatIsPossible()
+    {
+        const auto states = [this] {
+            QContextMenuEvent event(
+                QContextMenuEvent::Mouse, stretchPoint(), m_pWindow->pos() + QPoint(300, 5));
+            QApplication::sendEvent(m_pMenuBar, &event);
+            const QMenu *pMenu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QStringList result;
+            for (const QAction *pAction : pMenu ? pMenu->actions() : QList<QAction *>())
+                result.append(pAction->text() + (pAction->isEnabled() ? "" : " -"));
+            return result;
+        };
+        QCOMPARE(states(), QStringList({"Restore -", "Minimize", "Maximize", "Close"}));
+        choose("Maximize");
+        QVERIFY(m_pWindow->isMaximized());
+        QCOMPARE(states(), QStringList({"Restore", "Minimize", "Maximize -", "Close"}));
+        choose("Restore");
+        QVERIFY(!m_pWindow->isMaximized());
+        states();
+        choose("Minimize");
+        QVERIFY(m_pWindow->isMinimized());
+        states();
+        choose("Close");
+        QVERIFY(!m_pWindow->isVisible());
+    }
+
+    void keysReachTheWindowMenuAndTheMenus()
+    {
+        QTest::keyPress(m_pWindow->windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(m_pWindow->windowHandle(), Qt::Key_Alt);
+        QCOMPARE(m_pMenuBar->activeAction(), file());
+        QTest::keyClick(m_pMenuBar, Qt::Key_Escape);
+        QTest::keyClick(m_pWindow.get(), Qt::Key_Space, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        QTRY_VERIFY(m_pWindow->isMaximized());
+        file()->setEnabled(false);
+        QTest::keyClick(m_pWindow.get(), Qt::Key_F10);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QCOMPARE(QApplication::activePopupWidget(), m_pMenuBar->actions().at(1)->menu());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+
+private:
+    static QScreen *screen(int nDPI)
+    {
+        for (QScreen *pScreen : QGuiApplication::screens()) {
+            if (qRound(pScreen->logicalDotsPerInchX()) == nDPI)
+                return pScreen;
+        }
+        return nullptr;
+    }
+
+    void showAndWait()
+    {
+        m_pWindow->show();
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    }
+
+    [[nodiscard]] QAction *file() const { return m_pMenuBar->actions().constFirst(); }
+
+    [[nodiscard]] QAbstractButton *button(const char *pName) const
+    {
+        return m_pTitleBar->findChild<QAbstractButton *>(QLatin1String(pName));
+    }
+
+    [[nodiscard]] bool isTitleBar(const QWidget *pWidget, const QPoint &point) const
+    {
+        const QPoint inClient = pWidget->mapTo(m_pWindow.get(), point);
+        return m_pWindow->isStyledFrameTitleBar(inClient.x(), inClient.y());
+    }
+
+    // Between the last menu and the title, in either direction of writing.
+    [[nodiscard]] QPoint stretchPoint() const
+    {
+        const QRect last = m_pMenuBar->actionGeometry(m_pMenuBar->actions().constLast());
+        return {m_pMenuBar->isRightToLeft() ? last.left() - 8 : last.right() + 8, 5};
+    }
+
+    [[nodiscard]] QRect stretchRect() const
+    {
+        const QRect last = m_pMenuBar->actionGeometry(m_pMenuBar->actions().constLast());
+        const QRect corner = m_pMenuBar->cornerWidget()->geometry();
+        QRect rect = m_pMenuBar->rect();
+        rect.setLeft(qMin(last.right(), corner.right()) + 1);
+        rect.setRight(qMax(last.left(), corner.left()) - 1);
+        return rect;
+    }
+
+    [[nodiscard]] QRect titleInk() const { return inkOf(m_pMenuBar->grab().toImage(), stretchRect()); }
+
+    [[nodiscard]] QPoint inWindow(const QPoint &inMenuBar) const
+    {
+        return m_pMenuBar->mapTo(m_pWindow.get(), inMenuBar);
+    }
+
+    void drag(const QPoint &from, const QPoint &delta, Qt::MouseButton button = Qt::LeftButton)
+    {
+        m_pressed = m_pMenuBar->mapToGlobal(from);
+        QTest::mousePress(m_pWindow->windowHandle(), button, {}, inWindow(from));
+        moveCursor(delta);
+    }
+
+    void moveCursor(const QPoint &delta)
+    {
+        m_cursor = m_pressed + delta;
+        QTest::mouseMove(m_pWindow->windowHandle(), m_pWindow->mapFromGlobal(m_cursor));
+    }
+
+    void release(Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseRelease(m_pWindow->windowHandle(), button, {}, m_pWindow->mapFromGlobal(m_cursor));
+    }
+
+    static void choose(const char *pText)
+    {
+        auto *pMenu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(pMenu);
+        for (QAction *pAction : pMenu->actions()) {
+            if (pAction->text() == QLatin1String(pText))
+                pAction->trigger();
+        }
+        pMenu->close();
+    }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<Window> m_pWindow;
+    IMainMenuWidget *m_pTitleBar = nullptr;
+    QMenuBar *m_pMenuBar = nullptr;
+    QPoint m_pressed;
+    QPoint m_cursor;
+};
+
+QTEST_MAIN(tst_IMainMenuWidget)
+#include "tst_imainmenuwidget.moc"

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <iui.h>
+#include <mainwindow.h>
+#include <ui/kpnotificationbar.h>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QScreen>
+#include <QToolButton>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <algorithm>
+
+namespace {
+
+QList<std::pair<QObject *, QAccessible::Event>> s_events;
+
+// As the window system does when a screen reader is running.
+void setScreenReader(bool bRuns)
+{
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(bRuns);
+}
+
+void record(QAccessibleEvent *pEvent)
+{
+    s_events.append({pEvent->object(), pEvent->type()});
+}
+
+} // namespace
+
+class tst_KPNotificationBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pWindow->resize(800, 600);
+        m_pWindow->show();
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+        m_pBar = m_pWindow->getNotificationBar();
+    }
+
+    void cleanup()
+    {
+        m_pWindow.reset();
+        m_pProgram.reset();
+    }
+
+    void barShowsWhatItIsGiven_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("closable");
+        QTest::newRow("everything") << "Saved & <b>done</b>"
+                                    << "Undo" << true;
+        QTest::newRow("no text") << ""
+                                 << "Undo" << true;
+        QTest::newRow("no button") << "Saved"
+                                   << "" << true;
+        QTest::newRow("not to be closed") << "Saved"
+                                          << "Undo" << false;
+        QTest::newRow("nothing but the icon") << ""
+                                              << "" << false;
+    }
+
+    void barShowsWhatItIsGiven()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, button);
+        QFETCH(bool, closable);
+        QVERIFY(!m_pBar->isVisible());
+        m_pWindow->showNotification("before", KPNotificationBar::Warning, "before", !closable);
+        m_pWindow->showNotification(text, KPNotificationBar::Info, button, closable);
+        QVERIFY(m_pBar->isVisible());
+        QCOMPARE(part<QLabel>("m_pMessageLabel")->text(), text);
+        QCOMPARE(part<QLabel>("m_pMessageLabel")->isVisible(), !text.isEmpty());
+        QCOMPARE(part<QPushButton>("m_pButton")->text(), button);
+        QCOMPARE(part<QPushButton>("m_pButton")->isVisible(), !button.isEmpty());
+        QCOMPARE(part<QToolButton>("m_pCloseButton")->isVisible(), closable);
+        m_pWindow->hideNotification();
+        QVERIFY(!m_pBar->isVisible());
+    }
+
+    void iconFollowsTypeAndDisplay_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("dpi");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("information at 100 percent") << 0 << 96 << "info_16.png";
+        QTest::newRow("warning at 100 percent") << 1 << 96 << "warning_16.png";
+        QTest::newRow("any other type is information") << 2 << 96 << "info_16.png";
+        QTest::newRow("warning at 148 percent") << 1 << 143 << "warning_16.png";
+        QTest::newRow("warning at 150 percent") << 1 << 144 << "warning_16_2x.png";
+        QTest::newRow("information at 200 percent") << 0 << 192 << "info_16_2x.png";
+    }
+
+    void iconFollowsTypeAndDisplay()
+    {
+        QFETCH(int, type);
+        QFETCH(int, dpi);
+        QFETCH(QString, file);
+        const auto screens = QGuiApplication::screens();
+        const auto it = std::find_if(screens.begin(), screens.end(),
+            [&](const QScreen *pScreen) { return qRound(pScreen->logicalDotsPerInchX()) == dpi; });
+        m_pWindow->setScreen(*it);
+        m_pBar->show("text", static_cast<KPNotificationBar::Type>(type), {}, true);
+        const QImage expected(":/core/images/" + file);
+        QVERIFY(!expected.isNull());
+        QCOMPARE(part<QLabel>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
+            QPixmap::fromImage(expected).toImage());
+    }
+
+    void laterShowForgetsTheReceivers()
+    {
+        int nFirst = 0;
+        m_pBar->show("one", KPNotificationBar::Info, "Go", true);
+        connect(m_pBar, &KPNotificationBar::buttonClicked, this, [&] { ++nFirst; });
+        part<QPushButton>("m_pButton")->click();
+        QCOMPARE(nFirst, 1);
+        m_pBar->show("two", KPNotificationBar::Info, "Go", true);
+        QSignalSpy second(m_pBar, &KPNotificationBar::buttonClicked);
+        part<QPushButton>("m_pButton")->click();
+        QCOMPARE(nFirst, 1);
+        QCOMPARE(second.size(), 1);
+        QVERIFY(m_pBar->isVisible());
+    }
+
+    void keyboardReachesButtonAndCloseBox()
+    {
+        m_pBar->show("text", KPNotificationBar::Info, "Go", true);
+        part<QPushButton>("m_pButton")->setFocus();
+        QTest::keyClick(m_pBar->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), part<QToolButton>("m_pCloseButton"));
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), QStringLiteral("Close"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QVERIFY(!m_pBar->isVisible());
+    }
+
+    void escapeClosesOnlyWhatMayBeClosed_data()
+    {
+        QTest::addColumn<bool>("closable");
+        QTest::newRow("closable") << true;
+        QTest::newRow("not closable") << false;
+    }
+
+    void escapeClosesOnlyWhatMayBeClosed()
+    {
+        QFETCH(bool, closable);
+        m_pBar->show("text", KPNotificationBar::Info, "Go", closable);
+        part<QPushButton>("m_pButton")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(m_pBar->isVisible(), !closable);
+    }
+
+    void longMessageLeavesTheWindowAlone()
+    {
+        m_pBar->show("short", KPNotificationBar::Info, "Go", true);
+        const int nMinimum = m_pWindow->minimumSizeHint().width();
+        const QString strText = QString("word ").repeated(2000) + "\n<b>second</b> line";
+        m_pBar->show(strText, KPNotificationBar::Info, "Go", true);
+        QTest::qWait(0);
+        QCOMPARE(m_pWindow->width(), 800);
+        QVERIFY(m_pWindow->minimumSizeHint().width() <= nMinimum);
+        QVERIFY(m_pBar->height() < 2 * part<QPushButton>("m_pButton")->height());
+        QCOMPARE(part<QLabel>("m_pMessageLabel")->text(), strText);
+        const QRect close = part<QToolButton>("m_pCloseButton")->geometry();
+        QVERIFY(m_pBar->rect().contains(close));
+        QVERIFY(!close.intersects(part<QLabel>("m_pMessageLabel")->geometry()));
+    }
+
+    void eachMessageIsAnnouncedOnceAndTheFocusStays()
+    {
+        const QWidget *pFocus = QApplication::focusWidget();
+        QVERIFY(pFocus);
+        s_events.clear();
+        setScreenReader(true);
+        const auto previous = QAccessible::installUpdateHandler(record);
+        m_pBar->show("first", KPNotificationBar::Info, "Go", true);
+        m_pBar->show("second", KPNotificationBar::Warning, "Go", true);
+        QAccessible::installUpdateHandler(previous);
+        setScreenReader(false);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+        const auto announcement = QAccessible::Announcement;
+#else
+        const auto announcement = QAccessible::Alert;
+#endif
+        QCOMPARE(s_events.count({m_pBar, announcement}), 2);
+        QCOMPARE(QApplication::focusWidget(), pFocus);
+        const QAccessibleInterface *pInterface = QAccessible::queryAccessibleInterface(m_pBar);
+        QCOMPARE(pInterface->role(), QAccessible::AlertMessage);
+        QCOMPARE(pInterface->text(QAccessible::Name), QStringLiteral("second"));
+        QCOMPARE(pInterface->text(QAccessible::Description), QStringLiteral("Warning"));
+    }
+
+private:
+    template <typename Part>
+    [[nodiscard]] Part *part(const char *pName) const
+    {
+        return m_pBar->findChild<Part *>(QLatin1String(pName));
+    }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<MainWindow> m_pWindow;
+    KPNotificationBar *m_pBar = nullptr;
+};
+
+QTEST_MAIN(tst_KPNotificationBar)
+#include "tst_kpnotificationbar.moc"

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include <ui/titlebargeometry.h>
+
+#include <QStyle>
+#include <QTest>
+
+class tst_TitleBarGeometry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void restoredPosition_data()
+    {
+        QTest::addColumn<QPoint>("cursor");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QPoint>("position");
+        QTest::newRow("centred under the cursor at the top") << QPoint(0, 300) << 401 << QPoint(-200, -50);
+        QTest::newRow("not left of the desktop") << QPoint(-950, 0) << 400 << QPoint(-1000, -50);
+        QTest::newRow("not right of the desktop") << QPoint(950, 0) << 400 << QPoint(600, -50);
+        QTest::newRow("too wide: the right edge stays inside") << QPoint(0, 0) << 2100 << QPoint(-1100, -50);
+    }
+
+    void restoredPosition()
+    {
+        QFETCH(QPoint, cursor);
+        QFETCH(int, width);
+        QTEST(TitleBarGeometry::restoredPosition(cursor, width, QRect(-1000, -50, 2000, 1000)), "position");
+    }
+
+    void placeOfTheTitle_data()
+    {
+        QTest::addColumn<int>("menuEnd");
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::addColumn<int>("textWidth");
+        QTest::addColumn<QRect>("place");
+        QTest::newRow("in the middle of the row") << 200 << false << 100 << QRect(450, 0, 100, 20);
+        QTest::newRow("pushed aside by many menus") << 500 << false << 100 << QRect(500, 0, 100, 20);
+        QTest::newRow("pushed aside by the buttons") << 50 << false << 840 << QRect(60, 0, 840, 20);
+        QTest::newRow("too long: all that is free") << 300 << false << 999 << QRect(300, 0, 600, 20);
+        QTest::newRow("no room at all") << 900 << false << 100 << QRect();
+        QTest::newRow("right to left, in the middle") << 200 << true << 100 << QRect(450, 0, 100, 20);
+        QTest::newRow("right to left, too long") << 300 << true << 999 << QRect(100, 0, 600, 20);
+    }
+
+    void placeOfTheTitle()
+    {
+        QFETCH(int, menuEnd);
+        QFETCH(bool, rightToLeft);
+        QFETCH(int, textWidth);
+        const QRect row(0, 0, 1000, 20);
+        const auto direction = rightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
+        const auto place = [&](int nX, int nWidth) {
+            return QStyle::visualRect(direction, row, QRect(nX, 0, nWidth, 20));
+        };
+        const QRect stretch = TitleBarGeometry::emptyStretch(
+            row, {place(0, 50), place(50, menuEnd - 50), QRect()}, place(900, 100), direction);
+        QTEST(TitleBarGeometry::titleRect(row, stretch, textWidth), "place");
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_TitleBarGeometry)
+#include "tst_titlebargeometry.moc"
