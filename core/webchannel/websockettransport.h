@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QElapsedTimer>
+#include <QWebChannelAbstractTransport>
+
+class QWebSocket;
+
+/// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
+/// socket with it when it is deleted; both go when the client disconnects. GUI thread only.
+class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(WebSocketTransport)
+
+public:
+    explicit WebSocketTransport(QWebSocket *socket);
+    ~WebSocketTransport() override;
+
+    /// Sends one line of compact JSON. A client that has left too much unread is dropped.
+    void sendMessage(const QJsonObject &message) override;
+
+private slots:
+    /// Anything but a JSON object is logged and dropped, the socket stays. A client that goes on so is not
+    /// logged more often than a few times a second.
+    void textMessageReceived(const QString &message);
+
+private:
+    [[nodiscard]] bool mayWarn();
+    void reportUnlogged();
+
+    QWebSocket *m_socket;
+    QElapsedTimer m_warningPeriod;
+    int m_nWarnings = 0;
+};
