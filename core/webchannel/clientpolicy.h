@@ -19,6 +19,7 @@ namespace ClientPolicy {
 constexpr int MessageSize = 16 * 1024 * 1024;
 constexpr int ReceiveBufferSize = 64 * 1024;
 constexpr qint64 UnsentSize = 64 * 1024 * 1024;
+constexpr int CharactersParsedAtOnce = 1024 * 1024;
 constexpr int LoggedCharacters = 1000;
 constexpr int WarningsPerSecond = 20;
 

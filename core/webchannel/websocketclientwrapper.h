@@ -14,7 +14,7 @@ class WebSocketTransport;
 class CORE_EXPORT WebSocketClientWrapper : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<webchannel/websockettransport.h>)
+    Q_MOC_INCLUDE(<webchannel / websockettransport.h>)
     Q_DISABLE_COPY_MOVE(WebSocketClientWrapper)
 
 public:

@@ -4,9 +4,12 @@
 #include "clientlimits.h"
 #include "clientpolicy.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
+#include <QPromise>
+#include <QThreadPool>
 #include <QWebSocket>
+
+#include <memory>
 
 WebSocketTransport::WebSocketTransport(QWebSocket *socket)
     : QWebChannelAbstractTransport(socket)
@@ -14,6 +17,7 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
 {
     connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived);
     connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::deleteLater);
+    connect(&m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed);
 }
 
 WebSocketTransport::~WebSocketTransport()
@@ -30,15 +34,57 @@ void WebSocketTransport::sendMessage(const QJsonObject &message)
 
 void WebSocketTransport::textMessageReceived(const QString &message)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(message.toUtf8(), &error);
+    if (m_waiting.isEmpty() && message.size() <= ClientPolicy::CharactersParsedAtOnce) {
+        handle(message, parse(message));
+        return;
+    }
+    m_waiting.enqueue(message);
+    if (m_waiting.size() == 1)
+        parseWaiting();
+}
+
+WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
+{
+    Parsed result;
+    result.document = QJsonDocument::fromJson(strMessage.toUtf8(), &result.error);
+    return result;
+}
+
+// With a full read buffer the socket takes in nothing more, so that what waits here stays little.
+void WebSocketTransport::parseWaiting()
+{
+    m_socket->setReadBufferSize(1);
+    auto promise = std::make_shared<QPromise<Parsed>>();
+    promise->start();
+    m_parsing.setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, strMessage = m_waiting.constFirst()] {
+        promise->addResult(parse(strMessage));
+        promise->finish();
+    });
+}
+
+// Handling comes last: whoever gets the message may delete this transport or run an event loop.
+void WebSocketTransport::onParsed()
+{
+    const QString strMessage = m_waiting.dequeue();
+    const Parsed parsed = m_parsing.result();
+    if (m_waiting.isEmpty())
+        m_socket->setReadBufferSize(0);
+    else
+        parseWaiting();
+    handle(strMessage, parsed);
+}
+
+void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
+{
+    const auto &[document, error] = parsed;
     if (error.error == QJsonParseError::NoError && document.isObject()) {
         emit messageReceived(document.object(), this);
         return;
     }
     if (!mayWarn())
         return;
-    const QString strText = ClientPolicy::forLog(message);
+    const QString strText = ClientPolicy::forLog(strMessage);
     if (error.error != QJsonParseError::NoError)
         qCWarning(lcWebChannel) << "Failed to parse text message as JSON object:" << strText
                                 << "Error is:" << error.errorString();

@@ -4,12 +4,16 @@
 #include <core_global.h>
 
 #include <QElapsedTimer>
+#include <QFutureWatcher>
+#include <QJsonDocument>
+#include <QQueue>
 #include <QWebChannelAbstractTransport>
 
 class QWebSocket;
 
 /// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
-/// socket with it when it is deleted; both go when the client disconnects. GUI thread only.
+/// socket with it when it is deleted; both go when the client disconnects. GUI thread only; a message of more
+/// than a million characters is parsed beside it, and until it is the client waits.
 class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
 {
     Q_OBJECT
@@ -28,10 +32,21 @@ private slots:
     void textMessageReceived(const QString &message);
 
 private:
+    struct Parsed
+    {
+        QJsonDocument document;
+        QJsonParseError error;
+    };
+    [[nodiscard]] static Parsed parse(const QString &strMessage);
+    void handle(const QString &strMessage, const Parsed &parsed);
+    void parseWaiting();
+    void onParsed();
     [[nodiscard]] bool mayWarn();
     void reportUnlogged();
 
     QWebSocket *m_socket;
+    QQueue<QString> m_waiting; ///< the first one is being parsed
+    QFutureWatcher<Parsed> m_parsing;
     QElapsedTimer m_warningPeriod;
     int m_nWarnings = 0;
 };
