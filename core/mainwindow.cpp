@@ -9,8 +9,12 @@
 #include "document/ieditor.h"
 #include "icore.h"
 #include "ui/imainmdiarea.h"
+<<<<<<< HEAD
 #include "webchannel/websocketclientwrapper.h"
 #include "webchannel/websockettransport.h"
+=======
+#include "ui/ioptionsdlg.h"
+>>>>>>> main
 
 #include <extensionsystem/pluginmanager.h>
 
@@ -167,8 +171,7 @@ void MainWindow::aboutToShutdown() { }
 bool MainWindow::IsFirstRun()
 {
     const QSettings *pSettings = PluginManager::settings();
-    return !pSettings
-        || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
+    return !pSettings || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
 }
 
 QString MainWindow::getDefaultTempPath() const
