@@ -9,12 +9,9 @@
 #include "document/ieditor.h"
 #include "icore.h"
 #include "ui/imainmdiarea.h"
-<<<<<<< HEAD
+#include "ui/ioptionsdlg.h"
 #include "webchannel/websocketclientwrapper.h"
 #include "webchannel/websockettransport.h"
-=======
-#include "ui/ioptionsdlg.h"
->>>>>>> main
 
 #include <extensionsystem/pluginmanager.h>
 
