@@ -105,7 +105,6 @@ bool WebSocketTransport::mayWarn()
 void WebSocketTransport::reportUnlogged()
 {
     if (m_nWarnings > ClientPolicy::WarningsPerSecond)
-        qCWarning(
-            lcWebChannel, "%d more malformed messages of this client were not logged.",
+        qCWarning(lcWebChannel, "%d more malformed messages of this client were not logged.",
             m_nWarnings - ClientPolicy::WarningsPerSecond);
 }

@@ -59,7 +59,7 @@ public:
     QWebSocketServer server;
     WebSocketClientWrapper wrapper;
     QWebChannel channel;
-    QSignalSpy clients{&wrapper, &WebSocketClientWrapper::clientConnected};
+    QSignalSpy clients {&wrapper, &WebSocketClientWrapper::clientConnected};
     bool bListening = false;
 };
 

@@ -44,8 +44,7 @@ private slots:
     {
         QFETCH(const QByteArray, host);
         QFETCH(const bool, accepted);
-        QCOMPARE(
-            ClientPolicy::judge({std::nullopt, host, {}}, Port, Key),
+        QCOMPARE(ClientPolicy::judge({std::nullopt, host, {}}, Port, Key),
             accepted ? Verdict::Accept : Verdict::RefuseHost);
         const Verdict keyed = ClientPolicy::judge(
             {QByteArray("http://a"), host, QStringLiteral("key=") + QString::fromLatin1(Key)}, Port, Key);
@@ -83,11 +82,9 @@ private slots:
     {
         QFETCH(const QString, query);
         QFETCH(const bool, accepted);
-        for (const char *pOrigin :
-             {"null", "http://evil.example", "http://127.0.0.1:4711", "QRC:", "qrc", "qrc:/", "qrc://",
-              "qrc:x", "xqrc:", " qrc:", "qrc:, qrc:", "file://", ""})
-            QCOMPARE(
-                ClientPolicy::judge({QByteArray(pOrigin), "127.0.0.1:4711", query}, Port, Key),
+        for (const char *pOrigin : {"null", "http://evil.example", "http://127.0.0.1:4711", "QRC:", "qrc",
+                 "qrc:/", "qrc://", "qrc:x", "xqrc:", " qrc:", "qrc:, qrc:", "file://", ""})
+            QCOMPARE(ClientPolicy::judge({QByteArray(pOrigin), "127.0.0.1:4711", query}, Port, Key),
                 accepted ? Verdict::Accept : Verdict::RefuseOrigin);
         for (const std::optional<QByteArray> &own : {std::optional<QByteArray>(), {QByteArray("qrc:")}})
             QCOMPARE(ClientPolicy::judge({own, "127.0.0.1:4711", query}, Port, Key), Verdict::Accept);
@@ -95,7 +92,8 @@ private slots:
 
     void noKeyMatchesAnEmptyOne()
     {
-        const ClientPolicy::Handshake handshake{QByteArray("null"), "127.0.0.1:4711", QStringLiteral("key=")};
+        const ClientPolicy::Handshake handshake {
+            QByteArray("null"), "127.0.0.1:4711", QStringLiteral("key=")};
         QCOMPARE(ClientPolicy::judge(handshake, Port, {}), Verdict::RefuseOrigin);
     }
 
@@ -114,8 +112,7 @@ private slots:
     {
         const QString strFits(ClientPolicy::LoggedCharacters, QLatin1Char('x'));
         QCOMPARE(ClientPolicy::forLog(strFits), strFits);
-        QCOMPARE(
-            ClientPolicy::forLog(strFits + QLatin1Char('y')),
+        QCOMPARE(ClientPolicy::forLog(strFits + QLatin1Char('y')),
             strFits + QStringLiteral("... (%1 characters)").arg(strFits.size() + 1));
     }
 };

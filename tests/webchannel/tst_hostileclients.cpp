@@ -42,7 +42,7 @@ private:
 double threadMs()
 {
 #ifdef CLOCK_THREAD_CPUTIME_ID
-    timespec now{};
+    timespec now {};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
     return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 #else
@@ -275,9 +275,8 @@ private slots:
         QTRY_VERIFY(client.isAnswered());
         QByteArray message = call("add", "[1]");
         message += QByteArray(ClientPolicy::MessageSize - message.size(), ' ');
-        client.socket.write(
-            frame(message) + frame(call("add", "[10]")) + frame(message) + frame(call("add", "[100]"))
-            + frame(call("add", "[1000]")));
+        client.socket.write(frame(message) + frame(call("add", "[10]")) + frame(message)
+            + frame(call("add", "[100]")) + frame(call("add", "[1000]")));
         QTRY_COMPARE(totals.size(), 5);
         for (const int nTotal : {1, 11, 12, 112, 1112})
             QCOMPARE(totals.takeFirst().constFirst().toInt(), nTotal);

@@ -36,8 +36,7 @@ private:
             const bool bScript = pSocket->readAll().startsWith("GET /qwebchannel.js");
             const QByteArray body =
                 read(bScript ? QStringLiteral("qwebchannel.js") : QStringLiteral("page.html"));
-            pSocket->write(
-                "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Type: text/"
+            pSocket->write("HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Type: text/"
                 + QByteArray(bScript ? "javascript" : "html")
                 + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
             pSocket->disconnectFromHost();
@@ -95,8 +94,7 @@ private:
     static QString titleOf(const QString &strPage, const QUrl &server)
     {
         QWebEnginePage page;
-        page.load(QUrl(
-            strPage + QLatin1Char('?')
+        page.load(QUrl(strPage + QLatin1Char('?')
             + QString::fromLatin1(QUrl::toPercentEncoding(server.toString(QUrl::FullyEncoded)))));
         const auto isDone = [&] {
             return page.title().contains(QStringLiteral("closed"))

@@ -27,8 +27,8 @@ struct Client
     }
 
     QWebSocket socket;
-    QSignalSpy connected{&socket, &QWebSocket::connected};
-    QSignalSpy received{&socket, &QWebSocket::textMessageReceived};
+    QSignalSpy connected {&socket, &QWebSocket::connected};
+    QSignalSpy received {&socket, &QWebSocket::textMessageReceived};
 };
 
 } // namespace
@@ -190,7 +190,7 @@ private slots:
         QTRY_COMPARE(program.clients.size(), 1);
         const QPointer<WebSocketTransport> pTransport =
             program.clients.constFirst().constFirst().value<WebSocketTransport *>();
-        const QJsonObject message{{QStringLiteral("text"), QString(4000000, QLatin1Char('x'))}};
+        const QJsonObject message {{QStringLiteral("text"), QString(4000000, QLatin1Char('x'))}};
         for (int i = 0; i < 100 && log.lines().isEmpty(); ++i)
             pTransport->sendMessage(message);
         QCOMPARE(
