@@ -59,6 +59,13 @@ double residentMiB()
     return file.readAll().split(' ').value(1).toDouble() * 4096 / (1024 * 1024);
 }
 
+// A sanitizer takes time and memory of its own.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool IsMeasured = false;
+#else
+constexpr bool IsMeasured = true;
+#endif
+
 // What stands in the server's way while it works: the longest turn of the event loop and the most memory.
 struct Load
 {
@@ -328,8 +335,8 @@ private slots:
         qInfo("%.1f ms, %.1f MiB", load.turnMs, load.memoryMiB);
         QVERIFY(!pTransport);
         QCOMPARE(bSentAll.load(), staysConnected);
-        QVERIFY(load.turnMs < 50);
-        QVERIFY(load.memoryMiB < memoryMiB);
+        QVERIFY(!IsMeasured || load.turnMs < 50);
+        QVERIFY(!IsMeasured || load.memoryMiB < memoryMiB);
     }
 };
 
