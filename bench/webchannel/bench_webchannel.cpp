@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QTcpSocket>
 #include <QThread>
 #include <QWebChannel>
 #include <QWebSocket>
@@ -116,7 +117,12 @@ class Client : public QObject
 public:
     Client()
     {
-        connect(&m_socket, &QWebSocket::connected, this, &Client::ready);
+        connect(&m_socket, &QWebSocket::connected, this, [this] {
+            // As browsers do.
+            if (auto *pTcp = m_socket.findChild<QTcpSocket *>())
+                pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+            emit ready();
+        });
         connect(&m_socket, &QWebSocket::textMessageReceived, this, [this] {
             if (m_nUnsent > 0) {
                 --m_nUnsent;
@@ -225,7 +231,7 @@ bool check(Ratios &ratios, double slack)
     constexpr double Bound = 0.95;
     bool bGood = true;
     for (const auto &[size, nSize] : s_sizes) {
-        const auto compare = [&](int nKind, int nBase, bool bBound) {
+        const auto compare = [&, &size = size](int nKind, int nBase, bool bBound) {
             const double ratio =
                 ratios.ratio(s_kinds[nKind].first + ", " + size, s_kinds[nBase].first + ", " + size);
             const bool bHolds = !bBound || slack == 0 || ratio == 0 || ratio >= Bound / slack;

@@ -10,7 +10,8 @@
 namespace ClientLimits {
 
 // What has arrived is worked off in one go, so little may arrive at a time. Pings are answered on the way,
-// unseen by the transport. Only the object tree leads to the TCP socket.
+// unseen by the transport. Answers do not wait until the client has confirmed the ones before. Only the
+// object tree leads to the TCP socket.
 void apply(const QWebSocketServer &server, QWebSocket *pSocket)
 {
     pSocket->setMaxAllowedIncomingMessageSize(ClientPolicy::MessageSize);
@@ -20,6 +21,7 @@ void apply(const QWebSocketServer &server, QWebSocket *pSocket)
             continue;
         pTcp->setSocketOption(
             QAbstractSocket::ReceiveBufferSizeSocketOption, ClientPolicy::ReceiveBufferSize);
+        pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         QObject::connect(pTcp, &QTcpSocket::readyRead, pSocket, [pSocket] { dropIfUnread(pSocket); });
     }
 }
