@@ -121,7 +121,7 @@ private slots:
         if (byClient)
             client.socket.close();
         else
-            delete pTransport;
+            pTransport->deleteLater();
         QTRY_VERIFY(!pTransport && !pSocket);
         QTRY_COMPARE(client.socket.state(), QAbstractSocket::UnconnectedState);
         program.counter.add(1);
