@@ -12,6 +12,8 @@
 #include "icore.h"
 #include "ui/imainmdiarea.h"
 #include "ui/ioptionsdlg.h"
+#include "webchannel/websocketclientwrapper.h"
+#include "webchannel/websockettransport.h"
 
 #include <extensionsystem/pluginmanager.h>
 
@@ -82,7 +84,14 @@ void MainWindow::startServer()
     m_pServer->setObjectName(strName);
     if (!m_pServer->listen(QHostAddress::LocalHost, 0))
         qFatal("Failed to open web socket server.");
+    m_pClientWrapper = new WebSocketClientWrapper(m_pServer, nullptr);
     m_pChannel = new QWebChannel(nullptr);
+    connect(m_pClientWrapper, &WebSocketClientWrapper::clientConnected, m_pChannel, &QWebChannel::connectTo);
+}
+
+QString MainWindow::getServerKey() const
+{
+    return m_pClientWrapper->getKey();
 }
 
 void MainWindow::createManagers()
@@ -132,11 +141,14 @@ MainWindow::~MainWindow()
     m_pCore = nullptr;
 
     disconnect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
+    disconnect(m_pClientWrapper, &WebSocketClientWrapper::clientConnected, m_pChannel, nullptr);
     disconnect(this, &MainWindow::dpiChanged, this, nullptr);
     const auto objects = m_pChannel->registeredObjects();
     for (QObject *pObject : objects)
         m_pChannel->deregisterObject(pObject);
     m_pServer->close();
+    delete m_pClientWrapper;
+    m_pClientWrapper = nullptr;
     delete m_pChannel;
     m_pChannel = nullptr;
     delete m_pServer;

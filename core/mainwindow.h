@@ -22,6 +22,7 @@ class IOptionsDlg;
 class QMdiSubWindow;
 class QWebChannel;
 class QWebSocketServer;
+class WebSocketClientWrapper;
 
 /// The program's one top-level window and owner of what the core builds: server and channel for HTML pages,
 /// the managers, the area of documents. The plug-in object owns it. GUI thread only.
@@ -57,6 +58,9 @@ public:
 
     [[nodiscard]] QWebSocketServer *getServer() const { return m_pServer; }
     [[nodiscard]] QWebChannel *getChannel() const { return m_pChannel; }
+
+    /// What a page of another origin than "qrc:" appends to the server's URL, as "?key=" and this text.
+    [[nodiscard]] QString getServerKey() const;
     [[nodiscard]] IMainMdiArea *getMdiArea() const { return m_pMdiArea; }
     [[nodiscard]] KPNotificationBar *getNotificationBar();
 
@@ -134,6 +138,7 @@ private:
     void updateWelcomeWidget();
 
     QWebSocketServer *m_pServer = nullptr;
+    WebSocketClientWrapper *m_pClientWrapper = nullptr;
     QWebChannel *m_pChannel = nullptr;
     IMainMdiArea *m_pMdiArea = nullptr;
     IMainMenuWidget *m_pTitleBar = nullptr;

@@ -1,0 +1,322 @@
+// SPDX-License-Identifier: MIT
+// What the transport costs beside the least that could do its work: messages there and back over a real
+// socket, the client in a thread of its own.
+#include <webchannel/websocketclientwrapper.h>
+#include <webchannel/websockettransport.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTcpSocket>
+#include <QThread>
+#include <QWebChannel>
+#include <QWebSocket>
+#include <QWebSocketServer>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+QJsonObject parse(const QString &strMessage)
+{
+    return QJsonDocument::fromJson(strMessage.toUtf8()).object();
+}
+
+QString serialise(const QJsonObject &message)
+{
+    return QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact));
+}
+
+/// The smallest transport that Qt's channel can work with.
+class SmallestTransport : public QWebChannelAbstractTransport
+{
+    Q_OBJECT
+
+public:
+    explicit SmallestTransport(QWebSocket *pSocket)
+        : QWebChannelAbstractTransport(pSocket)
+        , m_pSocket(pSocket)
+    {
+        connect(pSocket, &QWebSocket::textMessageReceived, this,
+            [this](const QString &strText) { emit messageReceived(parse(strText), this); });
+    }
+    void sendMessage(const QJsonObject &message) override { m_pSocket->sendTextMessage(serialise(message)); }
+
+private:
+    QWebSocket *const m_pSocket;
+};
+
+class Echo : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE QString echo(const QString &strText) { return strText; }
+};
+
+enum class Kind { Bare, Transport, SmallestChannel, Channel };
+
+/// Answers each message, in the way to be measured.
+class EchoServer
+{
+public:
+    explicit EchoServer(Kind kind)
+        : m_server(QStringLiteral("KPServer"), QWebSocketServer::NonSecureMode)
+    {
+        m_server.listen(QHostAddress::LocalHost);
+        m_channel.registerObject(QStringLiteral("echo"), &m_echo);
+        if (kind == Kind::Bare || kind == Kind::SmallestChannel)
+            QObject::connect(&m_server, &QWebSocketServer::newConnection, &m_server,
+                [this, kind] { serve(m_server.nextPendingConnection(), kind); });
+        else
+            m_pWrapper = std::make_unique<WebSocketClientWrapper>(&m_server);
+        if (kind == Kind::Channel)
+            QObject::connect(m_pWrapper.get(), &WebSocketClientWrapper::clientConnected, &m_channel,
+                &QWebChannel::connectTo);
+        if (kind == Kind::Transport)
+            QObject::connect(m_pWrapper.get(), &WebSocketClientWrapper::clientConnected, &m_server,
+                [](WebSocketTransport *pTransport) {
+                    QObject::connect(pTransport, &WebSocketTransport::messageReceived, pTransport,
+                        [pTransport](const QJsonObject &message) { pTransport->sendMessage(message); });
+                });
+    }
+
+    [[nodiscard]] QUrl url() const { return m_server.serverUrl(); }
+
+private:
+    void serve(QWebSocket *pSocket, Kind kind)
+    {
+        QObject::connect(pSocket, &QWebSocket::disconnected, pSocket, &QObject::deleteLater);
+        if (kind == Kind::SmallestChannel)
+            m_channel.connectTo(new SmallestTransport(pSocket));
+        else
+            QObject::connect(pSocket, &QWebSocket::textMessageReceived, pSocket,
+                [pSocket](const QString &strText) { pSocket->sendTextMessage(serialise(parse(strText))); });
+    }
+
+    Echo m_echo;
+    QWebSocketServer m_server;
+    QWebChannel m_channel;
+    std::unique_ptr<WebSocketClientWrapper> m_pWrapper;
+};
+
+/// Sends the same message again and again, a few ahead of the answers. Lives in a thread of its own.
+class Client : public QObject
+{
+    Q_OBJECT
+
+public:
+    Client()
+    {
+        connect(&m_socket, &QWebSocket::connected, this, [this] {
+            // As browsers do.
+            if (auto *pTcp = m_socket.findChild<QTcpSocket *>())
+                pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+            emit ready();
+        });
+        connect(&m_socket, &QWebSocket::textMessageReceived, this, [this] {
+            if (m_nUnsent > 0) {
+                --m_nUnsent;
+                m_socket.sendTextMessage(m_strMessage);
+            }
+            if (--m_nUnanswered == 0)
+                emit ready();
+        });
+    }
+
+    void open(const QUrl &url) { m_socket.open(url); }
+    void run(const QString &strMessage, int nMessages)
+    {
+        constexpr int Ahead = 4;
+        m_strMessage = strMessage;
+        m_nUnanswered = nMessages;
+        m_nUnsent = std::max(0, nMessages - Ahead);
+        for (int i = 0; i < std::min(nMessages, Ahead); ++i)
+            m_socket.sendTextMessage(m_strMessage);
+    }
+
+signals:
+    void ready();
+
+private:
+    QWebSocket m_socket {QString(), QWebSocketProtocol::VersionLatest, this};
+    QString m_strMessage;
+    int m_nUnsent = 0;
+    int m_nUnanswered = 0;
+};
+
+// A call of the echo's method: the form does for all kinds, so that all carry the same bytes.
+QString messageOf(qsizetype nSize)
+{
+    const QString strHead = QStringLiteral(R"({"type":6,"id":1,"object":"echo","method":"echo","args":[")");
+    return strHead + QString(std::max<qsizetype>(1, nSize - strHead.size() - 3), QLatin1Char('x'))
+        + QStringLiteral("\"]}");
+}
+
+void measure(benchmark::State &state, Kind kind, int nSize)
+{
+    EchoServer server(kind);
+    QThread thread;
+    auto *pClient = new Client;
+    pClient->moveToThread(&thread);
+    QObject::connect(&thread, &QThread::finished, pClient, &QObject::deleteLater);
+    thread.start();
+    QEventLoop loop;
+    QObject::connect(pClient, &Client::ready, &loop, &QEventLoop::quit);
+    QMetaObject::invokeMethod(pClient, [&] { pClient->open(server.url()); });
+    loop.exec();
+
+    const QString strMessage = messageOf(nSize);
+    const int nBatch = std::clamp(2000000 / nSize, 8, 500);
+    for ([[maybe_unused]] auto turn : state) {
+        QMetaObject::invokeMethod(pClient, [&] { pClient->run(strMessage, nBatch); });
+        loop.exec();
+    }
+    state.SetItemsProcessed(state.iterations() * nBatch);
+    thread.quit();
+    thread.wait();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+const std::vector<std::pair<std::string, int>> s_sizes {
+    {"100 bytes", 100}, {"10 kB", 10000}, {"1 MB", 1000000}};
+const std::vector<std::pair<std::string, Kind>> s_kinds {
+    {"bare echo", Kind::Bare},
+    {"transport", Kind::Transport},
+    {"channel on the smallest transport", Kind::SmallestChannel},
+    {"channel on the transport", Kind::Channel},
+};
+
+/// Keeps the time of each repetition for the comparison of the medians.
+class Ratios : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs)
+            if (run.run_type == Run::RT_Iteration)
+                m_times[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    /// The throughput of the first as a part of the second's; 0 if one did not run.
+    [[nodiscard]] double ratio(const std::string &first, const std::string &second)
+    {
+        return m_times.count(first) && m_times.count(second) ? median(second) / median(first) : 0;
+    }
+
+private:
+    double median(const std::string &name)
+    {
+        std::vector<double> &times = m_times[name];
+        std::sort(times.begin(), times.end());
+        return times[times.size() / 2];
+    }
+
+    std::map<std::string, std::vector<double>> m_times;
+};
+
+// The bound divided by the slack; no slack, no bound.
+bool check(Ratios &ratios, double slack)
+{
+    constexpr double Bound = 0.95;
+    bool bGood = true;
+    for (const auto &[size, nSize] : s_sizes) {
+        const auto compare = [&, &size = size](int nKind, int nBase, bool bBound) {
+            const double ratio =
+                ratios.ratio(s_kinds[nKind].first + ", " + size, s_kinds[nBase].first + ", " + size);
+            const bool bHolds = !bBound || slack == 0 || ratio == 0 || ratio >= Bound / slack;
+            std::printf("%s %s: %.3f of the throughput of %s at %s\n", bHolds ? "ok  " : "FAIL",
+                s_kinds[nKind].first.c_str(), ratio, s_kinds[nBase].first.c_str(), size.c_str());
+            bGood = bGood && bHolds;
+        };
+        compare(1, 0, true);
+        compare(3, 2, true);
+        compare(3, 0, false);
+    }
+    return bGood;
+}
+
+double residentKiB()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() * 4 : 0;
+}
+
+constexpr int Clients = 50;
+
+// The other side of the memory figure, in a process of its own.
+int holdClients(const QUrl &url)
+{
+    std::vector<std::unique_ptr<QWebSocket>> sockets(Clients);
+    int nGone = 0;
+    for (auto &socket : sockets) {
+        socket = std::make_unique<QWebSocket>();
+        QObject::connect(socket.get(), &QWebSocket::connected, socket.get(),
+            [pSocket = socket.get()] { pSocket->sendTextMessage(messageOf(10000)); });
+        QObject::connect(socket.get(), &QWebSocket::textMessageReceived, socket.get(), [] {
+            std::puts("answered");
+            std::fflush(stdout);
+        });
+        QObject::connect(socket.get(), &QWebSocket::disconnected, qApp, [&nGone] {
+            if (++nGone == Clients)
+                QCoreApplication::quit();
+        });
+        socket->open(url);
+    }
+    return QCoreApplication::exec();
+}
+
+// Each client has had one answer of 10 kB.
+double memoryPerClient(Kind kind)
+{
+    const EchoServer server(kind);
+    const double before = residentKiB();
+    QProcess clients;
+    QByteArray answers;
+    QEventLoop loop;
+    QObject::connect(&clients, &QProcess::readyReadStandardOutput, &loop, [&] {
+        answers += clients.readAllStandardOutput();
+        if (answers.count('\n') >= Clients)
+            loop.quit();
+    });
+    clients.start(
+        QCoreApplication::applicationFilePath(), {QStringLiteral("--clients"), server.url().toString()});
+    loop.exec();
+    const double result = (residentKiB() - before) / Clients;
+    clients.kill();
+    clients.waitForFinished();
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    if (app.arguments().value(1) == QLatin1String("--clients"))
+        return holdClients(QUrl(app.arguments().value(2)));
+    benchmark::Initialize(&argc, argv);
+    for (const auto &[size, nSize] : s_sizes)
+        for (const auto &[name, kind] : s_kinds)
+            benchmark::RegisterBenchmark((name + ", " + size).c_str(), measure, kind, nSize)
+                ->UseRealTime()
+                ->Unit(benchmark::kMillisecond);
+    const double memory = memoryPerClient(Kind::Channel);
+    Ratios ratios;
+    benchmark::RunSpecifiedBenchmarks(&ratios);
+    std::printf("Memory per client at %d clients: %.1f KiB\n", Clients, memory);
+    const bool bGood = check(ratios, qEnvironmentVariable("KELPA_BENCH_SLACK", "1").toDouble());
+    return bGood ? 0 : 1;
+}
+
+#include "bench_webchannel.moc"

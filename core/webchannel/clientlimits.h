@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Holds one client's socket to the bounds of the policy.
+#pragma once
+
+class QWebSocket;
+class QWebSocketServer;
+
+namespace ClientLimits {
+
+/// For a socket just taken from its server, before it works off anything.
+void apply(const QWebSocketServer &server, QWebSocket *pSocket);
+
+/// Cuts off a client that has left more unread than it may: logged, and disconnected() follows at once.
+void dropIfUnread(QWebSocket *pSocket);
+
+} // namespace ClientLimits

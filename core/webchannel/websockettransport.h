@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QElapsedTimer>
+#include <QFutureWatcher>
+#include <QJsonDocument>
+#include <QQueue>
+#include <QWebChannelAbstractTransport>
+
+class QWebSocket;
+
+/// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
+/// socket with it when it is deleted; both go when the client disconnects. GUI thread only; a message of more
+/// than a million characters is parsed beside it, and until it is the client waits.
+class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(WebSocketTransport)
+
+public:
+    explicit WebSocketTransport(QWebSocket *socket);
+    ~WebSocketTransport() override;
+
+    /// Sends one line of compact JSON. A client that has left too much unread is dropped.
+    void sendMessage(const QJsonObject &message) override;
+
+private slots:
+    /// Anything but a JSON object is logged and dropped, the socket stays. A client that goes on so is not
+    /// logged more often than a few times a second.
+    void textMessageReceived(const QString &message);
+
+private:
+    struct Parsed
+    {
+        QJsonDocument document;
+        QJsonParseError error;
+    };
+    [[nodiscard]] static Parsed parse(const QString &strMessage);
+    void handle(const QString &strMessage, const Parsed &parsed);
+    void parseWaiting();
+    void onParsed();
+    [[nodiscard]] bool mayWarn();
+    void reportUnlogged();
+
+    QWebSocket *m_socket;
+    QQueue<QString> m_waiting; ///< the first one is being parsed
+    QFutureWatcher<Parsed> m_parsing;
+    QElapsedTimer m_warningPeriod;
+    int m_nWarnings = 0;
+};

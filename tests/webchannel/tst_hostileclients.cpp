@@ -1,0 +1,344 @@
+// SPDX-License-Identifier: MIT
+// Clients that no browser and no honest program would be: raw bytes on the socket.
+#include <webchannel/channelserver.h>
+
+#include <webchannel/clientpolicy.h>
+
+#include <QFile>
+
+#include <atomic>
+#include <ctime>
+#include <functional>
+#include <thread>
+
+namespace {
+
+/// A socket that writes what it is told. "PORT" and "KEY" in it become the server's.
+class RawClient
+{
+public:
+    explicit RawClient(const ChannelServer &program)
+        : m_program(program)
+    {
+        socket.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
+    }
+
+    void send(QByteArray bytes)
+    {
+        bytes.replace("PORT", QByteArray::number(m_program.server.serverPort()));
+        bytes.replace("KEY", m_program.wrapper.getKey().toLatin1());
+        socket.write(bytes);
+    }
+    [[nodiscard]] bool isAnswered() { return socket.peek(4096).contains("\r\n\r\n") || isGone(); }
+    [[nodiscard]] bool isGone() const { return socket.state() == QAbstractSocket::UnconnectedState; }
+
+    QTcpSocket socket;
+
+private:
+    const ChannelServer &m_program;
+};
+
+// Processor time and not the clock's: the machine may be busy with other tests.
+double threadMs()
+{
+#ifdef CLOCK_THREAD_CPUTIME_ID
+    timespec now {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+#else
+    return static_cast<double>(std::clock()) * 1e3 / CLOCKS_PER_SEC;
+#endif
+}
+
+// Of this process, in MiB; 0 where the system does not tell.
+double residentMiB()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toDouble() * 4096 / (1024 * 1024);
+}
+
+// A sanitizer takes time and memory of its own.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool IsMeasured = false;
+#else
+constexpr bool IsMeasured = true;
+#endif
+
+// What stands in the server's way while it works: the longest turn of the event loop and the most memory.
+struct Load
+{
+    double turnMs = 0;
+    double memoryMiB = 0;
+};
+
+Load runUntil(const std::function<bool()> &isDone)
+{
+    Load load;
+    const double memory = residentMiB();
+    QElapsedTimer timer;
+    timer.start();
+    while (!isDone() && !timer.hasExpired(60000)) {
+        const double begin = threadMs();
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        load.turnMs = std::max(load.turnMs, threadMs() - begin);
+        load.memoryMiB = std::max(load.memoryMiB, residentMiB() - memory);
+    }
+    return load;
+}
+
+// Writes the block until `nSize` bytes are out, or the server hangs up (false), and reads nothing.
+bool flood(quint16 nPort, const QByteArray &block, qint64 nSize)
+{
+    QTcpSocket socket;
+    socket.setReadBufferSize(256);
+    socket.connectToHost(QHostAddress::LocalHost, nPort);
+    socket.write(handshake("127.0.0.1:" + QByteArray::number(nPort)));
+    if (!socket.waitForReadyRead())
+        return false;
+    for (qint64 nSent = 0; nSent < nSize; nSent += block.size()) {
+        socket.write(block);
+        while (socket.bytesToWrite() > 0)
+            if (!socket.waitForBytesWritten())
+                return false;
+    }
+    return true;
+}
+
+} // namespace
+
+class tst_HostileClients : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void refusedHandshakeReachesNoObject_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        const auto row = [](const char *pName, const QByteArray &request) {
+            QTest::newRow(pName) << request;
+        };
+        const auto origin = [&](const char *pName, const QByteArray &value, const QByteArray &path = "/") {
+            row(pName, handshake("127.0.0.1:PORT", "Origin: " + value + "\r\n", path));
+        };
+        origin("a page of the web", "http://evil.example");
+        origin("a secure page of the web", "https://evil.example");
+        origin("a sandboxed page or a data URL", "null");
+        origin("a page of a server on this machine", "http://127.0.0.1:8080");
+        origin("a page that has our own address", "http://127.0.0.1:PORT");
+        origin("a page of this machine by name", "http://localhost");
+        origin("a page from a file", "file://");
+        origin("an origin that ours is a prefix of", "qrc:.evil.example");
+        origin("an origin that ours is a suffix of", "evilqrc:");
+        origin("ours with a host", "qrc://evil.example");
+        origin("ours with slashes", "qrc://");
+        origin("ours with one slash", "qrc:/");
+        origin("ours in capitals", "QRC:");
+        origin("ours without the colon", "qrc");
+        origin("ours with a look-alike letter", "qr\xD1\x81:");
+        origin("ours and another in one line", "qrc: http://evil.example");
+        origin("ours first, then another line", "qrc:\r\nOrigin: http://evil.example");
+        origin("another, then ours in a second line", "http://evil.example\r\nOrigin: qrc:");
+        origin("a wrong key", "http://evil.example", "/?key=AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA");
+        origin("an empty key", "http://evil.example", "/?key=");
+        origin("a key without a value", "http://evil.example", "/?key");
+        origin("the key and one letter", "http://evil.example", "/?key=KEYx");
+        origin("the key twice", "http://evil.example", "/?key=KEY&key=KEY");
+        origin("the key, then a wrong one", "http://evil.example", "/?key=KEY&key=x");
+        origin("the key as the path", "http://evil.example", "/KEY");
+        origin("the key behind a hash", "http://evil.example", "/?#key=KEY");
+        origin("the key in a header", "http://evil.example\r\nkey: KEY");
+        origin("the key in another case of name", "http://evil.example", "/?KEY=KEY");
+        row("a rebound name without an origin", handshake("evil.example:PORT"));
+        row("a rebound name that begins like this machine", handshake("localhost.evil.example:PORT"));
+        row("a rebound name with our own origin", handshake("evil.example:PORT", "Origin: qrc:\r\n"));
+        row("a rebound name with the key",
+            handshake("evil.example:PORT", "Origin: http://evil.example\r\n", "/?key=KEY"));
+        row("this machine on another port", handshake("127.0.0.1:1"));
+        row("this machine without a port", handshake("127.0.0.1"));
+        row("a foreign host behind the right one", handshake("127.0.0.1:PORT\r\nHost: evil.example:PORT"));
+        row("an origin of 4000 letters",
+            handshake("127.0.0.1:PORT", "Origin: http://" + QByteArray(4000, 'e') + "\r\n"));
+    }
+
+    void refusedHandshakeReachesNoObject()
+    {
+        QFETCH(const QByteArray, request);
+        ChannelServer program;
+        const ChannelLog log;
+        RawClient client(program);
+        client.send(request);
+        QTRY_VERIFY(client.isAnswered());
+        client.send(frame(call("add", "[1]")));
+        QTRY_VERIFY(client.isGone());
+        QCOMPARE(program.clients.size(), 0);
+        QCOMPARE(program.counter.total(), 0);
+        QCOMPARE(log.lines().size(), 1);
+        QVERIFY(log.lines().constFirst().startsWith(QStringLiteral("Refused a web channel client:")));
+        QVERIFY(log.lines().constFirst().size() < 1500);
+        QVERIFY(!log.lines().constFirst().contains(program.wrapper.getKey()));
+    }
+
+    void brokenHandshakeIsDropped_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        const QByteArray good = handshake("127.0.0.1:PORT");
+        const auto without = [&](const QByteArray &part, const QByteArray &by = {}) {
+            return QByteArray(good).replace(part, by);
+        };
+        QTest::newRow("a page is asked for") << QByteArray("GET / HTTP/1.1\r\nHost: 127.0.0.1:PORT\r\n\r\n");
+        QTest::newRow("a form is posted") << without("GET ", "POST ");
+        QTest::newRow("no host") << without("Host: 127.0.0.1:PORT\r\n");
+        QTest::newRow("no key of the protocol") << without("Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n");
+        QTest::newRow("no version") << without("Sec-WebSocket-Version: 13\r\n");
+        QTest::newRow("another protocol") << without("Upgrade: websocket", "Upgrade: h2c");
+        QTest::newRow("headers of one MiB")
+            << handshake("127.0.0.1:PORT", "X: " + QByteArray(1024 * 1024, 'x') + "\r\n");
+        QTest::newRow("headers without an end") << "GET / HTTP/1.1\r\nX: " + QByteArray(2 * 1024 * 1024, 'x');
+        QTest::newRow("one letter and no more") << QByteArray("G");
+        QTest::newRow("all but the last letter") << good.chopped(1);
+        QTest::newRow("nothing at all") << QByteArray();
+        QTest::newRow("no HTTP") << QByteArray("\x16\x03\x01\x02\x00\x01\x00\x01\xfc\x03\x03\r\n\r\n", 15);
+    }
+
+    void brokenHandshakeIsDropped()
+    {
+        QFETCH(const QByteArray, request);
+        ChannelServer program;
+        QCOMPARE(program.server.handshakeTimeoutMS(), ClientPolicy::HandshakeTimeoutMs);
+        program.server.setHandshakeTimeout(300);
+        RawClient client(program);
+        client.send(request);
+        QTRY_VERIFY(client.isAnswered());
+        client.send(frame(call("add", "[1]")));
+        QTRY_VERIFY(client.isGone());
+        QCOMPARE(program.clients.size(), 0);
+        QCOMPARE(program.counter.total(), 0);
+        QTRY_VERIFY(program.server.findChildren<QTcpSocket *>().isEmpty());
+    }
+
+    // The last frame of each row, an honest call, shows whether the client was still heard.
+    void hostileFramesReachNoObject_data()
+    {
+        QTest::addColumn<QByteArray>("frames");
+        QTest::addColumn<bool>("staysConnected");
+        const QByteArray add = call("add", "[1]");
+        const auto row = [](const char *pName, const QByteArray &frames, bool bStays) {
+            QTest::newRow(pName) << frames << bStays;
+        };
+        row("an honest client", {}, true);
+        row("a binary frame", frame(add, Binary), true);
+        row("a binary frame in pieces", frame(add.left(9), Binary, false) + frame(add.mid(9), Continuation),
+            true);
+        row("the call inside a ping", frame(add.left(120), Ping), true);
+        row("the end of a message without its beginning", frame(add, Continuation), false);
+        row("a message within the pieces of another", frame("{", Text, false) + frame(add), false);
+        row("pieces of a ping", frame(add.left(9), Ping, false), false);
+        row("a ping of 126 bytes", frame(QByteArray(126, 'x'), Ping), false);
+        row("an unknown kind of frame", frame(add, 3), false);
+        row("reserved bits", QByteArray(frame(add)).replace(0, 1, "\xF1"), false);
+        row("a call that is not UTF-8", frame(QByteArray(add).replace("add", "ad\xFF")), false);
+        row("a call behind a goodbye", frame(QByteArray("\x03\xE8", 2), Close) + frame(add), false);
+        row("a frame of one exabyte", QByteArray("\x81\xFF\x0F\xFF\xFF\xFF\xFF\xFF\xFF\xFF\0\0\0\0", 14),
+            false);
+        row("a frame of a negative size", QByteArray("\x81\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\0\0\0\0", 14),
+            false);
+        row("a frame of 16 MiB and a byte", frame(QByteArray(ClientPolicy::MessageSize + 1, ' ')), false);
+        QByteArray pieces = frame(QByteArray(1024 * 1024, ' '), Text, false);
+        const QByteArray next = frame(QByteArray(1024 * 1024, ' '), Continuation, false);
+        for (int i = 0; i < 16; ++i)
+            pieces += next;
+        row("pieces of more than 16 MiB", pieces, false);
+    }
+
+    void hostileFramesReachNoObject()
+    {
+        QFETCH(const QByteArray, frames);
+        QFETCH(const bool, staysConnected);
+        ChannelServer program;
+        const ChannelLog log;
+        QSignalSpy marked(&program.counter, &Counter::marked);
+        RawClient client(program);
+        client.send(handshake("127.0.0.1:PORT"));
+        QTRY_COMPARE(program.clients.size(), 1);
+        QTRY_VERIFY(client.isAnswered());
+        client.send(frames + frame(call("mark")));
+        if (staysConnected)
+            QTRY_COMPARE(marked.size(), 1);
+        else
+            QTRY_VERIFY(client.isGone());
+        QCOMPARE(marked.size(), staysConnected ? 1 : 0);
+        QCOMPARE(program.counter.total(), 0);
+    }
+
+    // The big one is parsed beside the event loop; what follows it must not overtake it.
+    void messagesOf16MiBArriveInTheirOrder()
+    {
+        ChannelServer program;
+        QSignalSpy totals(&program.counter, &Counter::totalChanged);
+        RawClient client(program);
+        client.send(handshake("127.0.0.1:PORT"));
+        QTRY_VERIFY(client.isAnswered());
+        QByteArray message = call("add", "[1]");
+        message += QByteArray(ClientPolicy::MessageSize - message.size(), ' ');
+        client.socket.write(frame(message) + frame(call("add", "[10]")) + frame(message)
+            + frame(call("add", "[100]")) + frame(call("add", "[1000]")));
+        QTRY_COMPARE(totals.size(), 5);
+        for (const int nTotal : {1, 11, 12, 112, 1112})
+            QCOMPARE(totals.takeFirst().constFirst().toInt(), nTotal);
+    }
+
+    void garbageForEverCostsLittle_data()
+    {
+        QTest::addColumn<QByteArray>("garbage");
+        QTest::addColumn<int>("sizeMiB");
+        QTest::addColumn<bool>("staysConnected");
+        QTest::addColumn<int>("memoryMiB");
+        const auto row = [](const char *pName, const QByteArray &bytes, int nMiB, bool bStays, int nMemory) {
+            const int nTimes = std::max<int>(1, (1 << 20) / static_cast<int>(bytes.size()));
+            QTest::newRow(pName) << bytes.repeated(nTimes) << nMiB << bStays << nMemory;
+        };
+        const auto brokenAtItsEnd = [](int nSize) {
+            return frame('[' + QByteArray("1,").repeated(nSize / 2) + 'x');
+        };
+        row("pings whose answers are not read", frame(QByteArray(125, 'x'), Ping), 200, false, 160);
+        row("pieces of a message that never ends",
+            frame(" ", Text, false) + frame(QByteArray(1000, ' '), Continuation, false).repeated(33 << 10),
+            33, false, 80);
+        row("texts of one letter", frame("x"), 10, true, 24);
+        row("arrays", frame("[[[[[[]]]]]]"), 10, true, 24);
+        row("empty binary frames", frame("", Binary), 10, true, 24);
+        row("texts of 100 kB", frame(QByteArray(100000, 'x')), 50, true, 24);
+        row("broken JSON of 100 kB", brokenAtItsEnd(100000), 20, true, 24);
+        row("broken JSON of 1 MB", brokenAtItsEnd(1000000), 20, true, 40);
+        row("broken JSON of 16 MB", brokenAtItsEnd(16000000), 60, true, 160);
+    }
+
+    void garbageForEverCostsLittle()
+    {
+        QFETCH(const QByteArray, garbage);
+        QFETCH(const int, sizeMiB);
+        QFETCH(const bool, staysConnected);
+        QFETCH(const int, memoryMiB);
+        ChannelServer program;
+        const ChannelLog log;
+        std::atomic_bool bSentAll = false;
+        std::thread client([&, nPort = program.server.serverPort()] {
+            bSentAll = flood(nPort, garbage, sizeMiB * qint64(1024) * 1024);
+        });
+        QTRY_COMPARE(program.clients.size(), 1);
+        const QPointer<WebSocketTransport> pTransport =
+            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const Load load = runUntil([&] { return !pTransport; });
+        client.join();
+        qInfo("%.1f ms, %.1f MiB", load.turnMs, load.memoryMiB);
+        QVERIFY(!pTransport);
+        QCOMPARE(bSentAll.load(), staysConnected);
+        QVERIFY(!IsMeasured || load.turnMs < 50);
+        QVERIFY(!IsMeasured || load.memoryMiB < memoryMiB);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_HostileClients)
+#include "tst_hostileclients.moc"

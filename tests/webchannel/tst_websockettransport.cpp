@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include <webchannel/channelserver.h>
+
+#include <support/coretest.h>
+
+#include <mainwindow.h>
+#include <webchannel/clientpolicy.h>
+
+namespace {
+
+QJsonObject object(const QString &strText)
+{
+    return QJsonDocument::fromJson(strText.toUtf8()).object();
+}
+
+/// A plain client that is connected, and what it was sent.
+struct Client
+{
+    explicit Client(const QUrl &url) { socket.open(url); }
+
+    [[nodiscard]] QStringList texts() const
+    {
+        QStringList result;
+        for (const QVariantList &arguments : received)
+            result.append(arguments.first().toString());
+        return result;
+    }
+
+    QWebSocket socket;
+    QSignalSpy connected {&socket, &QWebSocket::connected};
+    QSignalSpy received {&socket, &QWebSocket::textMessageReceived};
+};
+
+} // namespace
+
+class tst_WebSocketTransport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void plainClientCallsAnObjectAndHearsOfItsSignalsAndProperties()
+    {
+        ChannelServer program;
+        Client client(program.url());
+        QVERIFY(client.connected.wait());
+        client.socket.sendTextMessage(QStringLiteral(R"({"type":3,"id":7})"));
+        QTRY_COMPARE(client.received.size(), 1);
+        const QJsonObject answer = object(client.texts().constFirst());
+        QCOMPARE(answer.value(QStringLiteral("id")).toInt(), 7);
+        QVERIFY(answer.value(QStringLiteral("data")).toObject().contains(QStringLiteral("counter")));
+        QVERIFY(!client.texts().constFirst().contains(QLatin1Char('\n')));
+
+        client.socket.sendTextMessage(QStringLiteral(R"({"type":4})"));
+        client.socket.sendTextMessage(QString::fromLatin1(call("add", "[5]")));
+        QTRY_COMPARE(client.received.size(), 3);
+        QCOMPARE(object(client.texts().at(1)).value(QStringLiteral("data")).toInt(), 5);
+        const QJsonObject update = object(client.texts().at(2));
+        QCOMPARE(update.value(QStringLiteral("type")).toInt(), 2);
+        QVERIFY(client.texts().at(2).contains(QStringLiteral(R"("counter")")));
+        QCOMPARE(program.counter.total(), 5);
+    }
+
+    void clientsOfAnOwnPageOrWithTheKeyAreLetIn_data()
+    {
+        QTest::addColumn<QString>("origin");
+        QTest::addColumn<bool>("withKey");
+        QTest::newRow("native program") << QString() << false;
+        QTest::newRow("own page") << QStringLiteral("qrc:") << false;
+        QTest::newRow("sandboxed page with the key") << QStringLiteral("null") << true;
+        QTest::newRow("page of a local server with the key") << QStringLiteral("http://localhost:1") << true;
+    }
+
+    void clientsOfAnOwnPageOrWithTheKeyAreLetIn()
+    {
+        QFETCH(const QString, origin);
+        QFETCH(const bool, withKey);
+        ChannelServer program;
+        QUrl url = program.url();
+        if (withKey)
+            url.setQuery(QStringLiteral("key=") + program.wrapper.getKey());
+        QWebSocket socket(origin);
+        socket.open(url);
+        QTRY_COMPARE(program.clients.size(), 1);
+        QTRY_COMPARE(socket.state(), QAbstractSocket::ConnectedState);
+        socket.sendTextMessage(QString::fromLatin1(call("add", "[3]")));
+        QTRY_COMPARE(program.counter.total(), 3);
+    }
+
+    void eachSignalOfTheServerTakesOneClient()
+    {
+        ChannelServer program;
+        disconnect(&program.server, nullptr, &program.wrapper, nullptr);
+        QSignalSpy arrived(&program.server, &QWebSocketServer::newConnection);
+        Client first(program.url());
+        Client second(program.url());
+        QTRY_COMPARE(arrived.size(), 2);
+        QMetaObject::invokeMethod(&program.wrapper, "handleNewConnection");
+        QCOMPARE(program.clients.size(), 1);
+        QVERIFY(program.server.hasPendingConnections());
+        QMetaObject::invokeMethod(&program.wrapper, "handleNewConnection");
+        QMetaObject::invokeMethod(&program.wrapper, "handleNewConnection");
+        QCOMPARE(program.clients.size(), 2);
+    }
+
+    void transportAndSocketGoTogether_data()
+    {
+        QTest::addColumn<bool>("byClient");
+        QTest::newRow("the client leaves") << true;
+        QTest::newRow("the transport is deleted") << false;
+    }
+
+    void transportAndSocketGoTogether()
+    {
+        QFETCH(const bool, byClient);
+        ChannelServer program;
+        Client client(program.url());
+        QVERIFY(client.connected.wait());
+        const QPointer<WebSocketTransport> pTransport =
+            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const QPointer<QObject> pSocket = pTransport->parent();
+        if (byClient)
+            client.socket.close();
+        else
+            pTransport->deleteLater();
+        QTRY_VERIFY(!pTransport && !pSocket);
+        QTRY_COMPARE(client.socket.state(), QAbstractSocket::UnconnectedState);
+        program.counter.add(1);
+    }
+
+    void faultyMessagesAreLoggedAndTheSocketStays_data()
+    {
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("line");
+        const QString strNoJson =
+            QStringLiteral(R"(Failed to parse text message as JSON object: "%1" Error is: "%2")");
+        const QString strNoObject = QStringLiteral(R"(Received JSON message that is not an object:  "%1")");
+        QTest::newRow("no JSON") << "hello" << strNoJson.arg("hello", "illegal value");
+        QTest::newRow("nothing") << "" << strNoJson.arg("", "illegal value");
+        QTest::newRow("half an object") << "{" << strNoJson.arg("{", "unterminated object");
+        QTest::newRow("text behind an object")
+            << "{}x" << strNoJson.arg("{}x", "garbage at the end of the document");
+        QTest::newRow("an array") << "[1,2]" << strNoObject.arg("[1,2]");
+        QTest::newRow("a forged line")
+            << "[]\nkelpa: all is well"
+            << strNoJson.arg("[]\\nkelpa: all is well", "garbage at the end of the document");
+        const QString strLong = QString(5000, QLatin1Char('x'));
+        QTest::newRow("a long text") << strLong
+                                     << strNoJson.arg(
+                                            strLong.left(1000) + "... (5000 characters)", "illegal value");
+    }
+
+    void faultyMessagesAreLoggedAndTheSocketStays()
+    {
+        QFETCH(const QString, message);
+        QFETCH(const QString, line);
+        ChannelServer program;
+        Client client(program.url());
+        QVERIFY(client.connected.wait());
+        const ChannelLog log;
+        client.socket.sendTextMessage(message);
+        client.socket.sendTextMessage(QString::fromLatin1(call("add", "[2]")));
+        QTRY_COMPARE(program.counter.total(), 2);
+        QCOMPARE(log.lines(), QStringList(line));
+    }
+
+    void warningsOfOneClientAreCounted()
+    {
+        ChannelServer program;
+        const ChannelLog log;
+        {
+            Client client(program.url());
+            QVERIFY(client.connected.wait());
+            for (int i = 0; i < 500; ++i)
+                client.socket.sendTextMessage(QStringLiteral("x"));
+            client.socket.sendTextMessage(QString::fromLatin1(call("add", "[2]")));
+            QTRY_COMPARE(program.counter.total(), 2);
+        }
+        QTRY_VERIFY(log.lines().constLast().contains(QStringLiteral("were not logged")));
+        QVERIFY(log.lines().size() < 250);
+    }
+
+    void clientThatReadsNothingIsDropped()
+    {
+        ChannelServer program;
+        const ChannelLog log;
+        QTcpSocket client;
+        client.setReadBufferSize(1);
+        client.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
+        client.write(handshake("localhost:" + QByteArray::number(program.server.serverPort())));
+        QTRY_COMPARE(program.clients.size(), 1);
+        const QPointer<WebSocketTransport> pTransport =
+            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const QJsonObject message {{QStringLiteral("text"), QString(4000000, QLatin1Char('x'))}};
+        for (int i = 0; i < 100 && log.lines().isEmpty(); ++i)
+            pTransport->sendMessage(message);
+        QCOMPARE(
+            log.lines(), QStringList(QStringLiteral("Dropped a web channel client that reads nothing.")));
+        QTRY_VERIFY(!pTransport);
+    }
+
+    void mainWindowServesItsChannelUntilItGoes()
+    {
+        TestProgram program;
+        Counter counter;
+        auto window = std::make_unique<MainWindow>(nullptr);
+        QCOMPARE(window->getServer()->serverName(), QStringLiteral("KPServer"));
+        QCOMPARE(window->getServer()->serverAddress(), QHostAddress(QHostAddress::LocalHost));
+        QCOMPARE(window->getServerKey().size(), 43);
+        window->getChannel()->registerObject(QStringLiteral("counter"), &counter);
+        QUrl url = window->getServer()->serverUrl();
+        url.setQuery(QStringLiteral("key=") + window->getServerKey());
+
+        Client native(window->getServer()->serverUrl());
+        QWebSocket page(QStringLiteral("http://evil.example"));
+        page.open(url);
+        QTRY_COMPARE(page.state(), QAbstractSocket::ConnectedState);
+        page.sendTextMessage(QString::fromLatin1(call("add", "[4]")));
+        QTRY_COMPARE(counter.total(), 4);
+        window.reset();
+        counter.add(1);
+        QTRY_COMPARE(page.state(), QAbstractSocket::UnconnectedState);
+        QTRY_COMPARE(native.socket.state(), QAbstractSocket::UnconnectedState);
+    }
+};
+
+QTEST_MAIN(tst_WebSocketTransport)
+#include "tst_websockettransport.moc"
