@@ -5,6 +5,7 @@ include(CTest)
 include(GNUInstallDirs)
 
 option(KELPA_WERROR "Treat compiler warnings as errors" OFF)
+option(KELPA_WEB "Build the main window and the plug-ins, which need Qt's web and SVG modules" ON)
 set(KELPA_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
 set(CMAKE_CXX_STANDARD 20)
