@@ -67,10 +67,11 @@ function(kelpa_place_plugin name)
         RUNTIME DESTINATION ${KELPA_INSTALL_DIR}/plugins)
 endfunction()
 
-# kelpa_add_test(<name> SOURCES ... LIBRARIES ... [RUN_SERIAL]): one QtTest program, run off screen in a
-# folder of its own that stands for the home, settings and temporary folders.
+# kelpa_add_test(<name> SOURCES ... LIBRARIES ... [RUN_SERIAL] [ON_DISPLAY]): one QtTest program, run off screen
+# in a folder of its own that stands for the home, settings and temporary folders. ON_DISPLAY: with the real
+# windows of the platform, on an X display of its own with a window manager.
 function(kelpa_add_test name)
-    cmake_parse_arguments(ARG "RUN_SERIAL" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "RUN_SERIAL;ON_DISPLAY" "" "SOURCES;LIBRARIES" ${ARGN})
     find_package(Qt6 REQUIRED COMPONENTS Test)
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
@@ -81,9 +82,17 @@ function(kelpa_add_test name)
         BUILD_WITH_INSTALL_RPATH OFF)
     set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home}/run)
-    add_test(NAME ${name} COMMAND ${name})
+    set(platform offscreen)
+    set(command ${name}) # where that runs under an emulator, it brings the display
+    if(ARG_ON_DISPLAY AND WIN32)
+        set(platform windows:dpiawareness=1) # Wine knows no scale per monitor
+    elseif(ARG_ON_DISPLAY)
+        set(platform xcb)
+        set(command ${CMAKE_SOURCE_DIR}/tests/support/with_display.sh $<TARGET_FILE:${name}>)
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         RUN_SERIAL ${ARG_RUN_SERIAL}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_DATA_HOME=${home}/.local/share;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home}/run;LC_ALL=C.UTF-8")
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};QT_ENABLE_HIGHDPI_SCALING=0;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_DATA_HOME=${home}/.local/share;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home}/run;LC_ALL=C.UTF-8")
 endfunction()

@@ -37,13 +37,6 @@ constexpr EdgeBehaviour s_edges[] = {
 constexpr int s_nBorder = 4;
 constexpr int s_nCorner = 16;
 
-QWindow *topLevel(QWindow *pWindow)
-{
-    while (pWindow && pWindow->parent())
-        pWindow = pWindow->parent();
-    return pWindow;
-}
-
 bool isWayland()
 {
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
@@ -51,8 +44,9 @@ bool isWayland()
 
 } // namespace
 
-/// Sees the mouse before the widgets do: events go to the native window first, and where a child has one of
-/// its own, to that.
+/// Sees the mouse before the widgets do: events go to the native window first. A child with a native window
+/// of its own keeps its events, because the resize would start from the wrong point; there the margin is the
+/// edge.
 struct KPStyledFrameHelper::Private::Native : public QObject
 {
     explicit Native(Private &record)
@@ -98,8 +92,7 @@ bool KPStyledFrameHelper::Private::handleMessage(void *pMessage, qintptr *pResul
 
 bool KPStyledFrameHelper::Private::Native::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
-    if (!pWatched->isWindowType() || !d.pWidget->windowHandle()
-        || topLevel(static_cast<QWindow *>(pWatched)) != d.pWidget->windowHandle())
+    if (!pWatched->isWindowType() || pWatched != d.pWidget->windowHandle())
         return false;
     switch (pEvent->type()) {
     case QEvent::MouseButtonPress:

@@ -23,4 +23,5 @@ read -r number <"$folder/number" || exit 1
 export DISPLAY=":$number"
 openbox >/dev/null 2>&1 3>&- &
 openbox=$!
+timeout 60 sh -c 'until wmctrl -m; do sleep 0.1; done' >/dev/null 2>&1 || exit 1
 "$@"
