@@ -85,7 +85,7 @@ function(kelpa_add_test name)
     set(platform offscreen)
     set(command ${name}) # where that runs under an emulator, it brings the display
     if(ARG_ON_DISPLAY AND WIN32)
-        set(platform windows:dpiawareness=1) # Wine knows no scale per monitor
+        set(platform windows)
     elseif(ARG_ON_DISPLAY)
         set(platform xcb)
         set(command ${CMAKE_SOURCE_DIR}/tests/support/with_display.sh $<TARGET_FILE:${name}>)

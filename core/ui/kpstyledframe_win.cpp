@@ -78,6 +78,8 @@ void KPStyledFrameHelper::Private::setUp()
     pWindow = hWnd;
     SetWindowLongW(hWnd, GWL_EXSTYLE, GetWindowLongW(hWnd, GWL_EXSTYLE) | WS_EX_LAYERED);
     SetLayeredWindowAttributes(hWnd, RGB(255, 0, 255), 0, LWA_COLORKEY);
+    // Other flags may leave the window with the region it had, while the record starts without one.
+    SetWindowRgn(hWnd, nullptr, FALSE);
     pNative->updateComposition();
     bThemeActive = IsThemeActive() == 1;
 }

@@ -24,6 +24,7 @@ rm -f "$report"
 wine "$test" -o "$(windows_path "$report"),txt" "$@" >/dev/null 2>&1
 status=$?
 wineserver -k
-cat "$report" && grep -q '^Totals: ' "$report" && exit $status
+# What Wine lacks is said for each window.
+grep -v 'EnableNonClientDpiScaling() failed' "$report" && grep -q '^Totals: ' "$report" && exit $status
 echo "$test ended with $status and without a result" >&2
 exit 1

@@ -5,6 +5,7 @@
 #include "framerows.h"
 
 #include <QMainWindow>
+#include <QSettings>
 #include <QWindow>
 #include <QtTest>
 
@@ -17,6 +18,29 @@ namespace {
 
 constexpr Qt::WindowFlags s_mainWindowFlags =
     Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint;
+
+/// Puts the user's theme back when it goes.
+class ThemeKeeper
+{
+public:
+    ThemeKeeper()
+    {
+        const auto keys = m_registry.childKeys();
+        for (const QString &strKey : keys)
+            m_values.insert(strKey, m_registry.value(strKey));
+    }
+    ~ThemeKeeper()
+    {
+        for (auto it = m_values.cbegin(); it != m_values.cend(); ++it)
+            m_registry.setValue(it.key(), it.value());
+    }
+
+private:
+    QSettings m_registry{
+        QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ThemeManager"),
+        QSettings::NativeFormat};
+    QVariantMap m_values;
+};
 
 /// What the frame answered to one message.
 struct Answer
@@ -31,6 +55,12 @@ struct Answer
 class Frame : public KPStyledFrame<QMainWindow>
 {
 public:
+    void makeAnew()
+    {
+        destroy();
+        create();
+    }
+
     QRect titleBar;
     QMultiHash<UINT, Answer> answers;
     mutable QList<QPoint> asked;
@@ -100,16 +130,26 @@ private slots:
     void init() { show(s_mainWindowFlags); }
     void cleanup() { m_pFrame.reset(); }
 
-    void setUpHoldsForTheWindowThatTheFlagsMadeAnew()
+    void setUpHoldsForEachNativeWindow()
     {
         Frame frame;
-        const WId first = frame.internalWinId();
-        QVERIFY(first);
-        QVERIFY(isSetUp(reinterpret_cast<HWND>(first)));
+        QVERIFY(frame.internalWinId());
+        QVERIFY(isSetUp(frame.internalWinId()));
         frame.setWindowFlags(s_mainWindowFlags);
         frame.show();
+        QVERIFY(isSetUp(frame.internalWinId()));
+        const WId first = frame.internalWinId();
+        frame.makeAnew();
         QVERIFY(frame.internalWinId() != first);
-        QVERIFY(isSetUp(reinterpret_cast<HWND>(frame.winId())));
+        QVERIFY(isSetUp(frame.internalWinId()));
+    }
+
+    void otherFlagsLeaveNoRegionOfTheMaximizedWindow()
+    {
+        maximize();
+        m_pFrame->setWindowFlags(s_mainWindowFlags | Qt::WindowMaximizeButtonHint);
+        m_pFrame->showNormal();
+        QTRY_COMPARE(region(), Rect({0, 0, 32767, 32767}));
     }
 
     void hits_data() { addRows(s_hits); }
@@ -144,8 +184,9 @@ private slots:
 
     void maximizedRectangles_data()
     {
-        addRows(s_maximized,
-            [](const MaximizedRow &r) { return r.monitor == s_monitor && r.workArea == s_workArea; });
+        addRows(s_maximized, [](const MaximizedRow &r) {
+            return r.monitor == s_monitor && r.workArea == s_workArea;
+        });
     }
     void maximizedRectangles()
     {
@@ -285,9 +326,11 @@ private slots:
         QTRY_VERIFY(IsZoomed(hWnd()));
     }
 
-    // Only with the classic frame the default handling would paint a caption over the window.
+    // Only with the classic frame the default handling would paint a caption over the window. Wine remembers
+    // that theming was disabled.
     void withoutAThemeTextAndIconAreSetWithoutACaption()
     {
+        const ThemeKeeper keeper;
         for (const BOOL bTheme : {TRUE, FALSE}) {
             EnableTheming(bTheme);
             QCOMPARE(bool(IsThemeActive()), bool(bTheme));
@@ -370,8 +413,9 @@ private:
         return GetWindowRgnBox(hWnd(), &box) == SIMPLEREGION ? fromNative(box) : Rect{};
     }
 
-    static bool isSetUp(HWND hWindow)
+    static bool isSetUp(WId window)
     {
+        const auto hWindow = reinterpret_cast<HWND>(window);
         COLORREF key = 0;
         DWORD nFlags = 0;
         return (GetWindowLongW(hWindow, GWL_EXSTYLE) & WS_EX_LAYERED)
