@@ -1,8 +1,58 @@
 // SPDX-License-Identifier: MIT
+#include <extensionsystem/pluginmanager.h>
+
 #include <QApplication>
+#include <QMessageBox>
+
+#include <cstdio>
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+#ifdef Q_OS_WIN
+constexpr bool s_bHasConsole = false;
+#else
+constexpr bool s_bHasConsole = true;
+#endif
+
+bool hasScreen()
+{
+    const QString strPlatform = QGuiApplication::platformName();
+    return strPlatform != QLatin1String("offscreen") && strPlatform != QLatin1String("minimal");
+}
+
+void showMessage(PluginManager::Message kind, const QString &strText)
+{
+    std::FILE *pStream = kind == PluginManager::Message::Output ? stdout : stderr;
+    std::fprintf(pStream, "%s\n", qUtf8Printable(strText));
+    std::fflush(pStream);
+    const bool bFailure = kind == PluginManager::Message::StartFailure;
+    if (!hasScreen() || (s_bHasConsole && !bFailure))
+        return;
+    QMessageBox box(
+        bFailure ? QMessageBox::Critical : QMessageBox::Information, QCoreApplication::applicationName(),
+        strText, QMessageBox::Ok);
+    box.exec();
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
+    // The program scales by itself; its children shall not inherit that.
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
     QApplication application(argc, argv);
-    return 0;
+    qunsetenv("QT_ENABLE_HIGHDPI_SCALING");
+    QCoreApplication::setApplicationName(QStringLiteral("Kelpa Studio"));
+    QCoreApplication::setOrganizationName(QStringLiteral("ORVEN"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KELPA_VERSION));
+
+    PluginManager manager;
+    manager.setMessageSink(showMessage);
+    if (const auto exitCode = manager.start(QCoreApplication::arguments()))
+        return *exitCode;
+    const int nExitCode = QApplication::exec();
+    manager.shutdown();
+    return nExitCode;
 }

@@ -8,12 +8,18 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QLoggingCategory>
+
+namespace {
+Q_LOGGING_CATEGORY(lcCore, "kelpa.core")
+}
 
 CorePlugin::CorePlugin()
 {
     if (!ILanguageManager::getInstance().initialize()) {
-        qWarning("There was error while loading one of the language catalogues. "
-                 "%s will use English in some parts.",
+        qCWarning(lcCore,
+            "There was error while loading one of the language catalogues. "
+            "%s will use English in some parts.",
             "Kelpa Studio");
     }
     QLocale::setDefault(QLocale(ILanguageManager::getInstance().getCurrentLangId()));

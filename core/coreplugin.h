@@ -26,8 +26,8 @@ public:
 
     /// Raises the window, then opens `arguments` in order, relative to `workingDirectory` or, when that is
     /// empty, to the current directory. Always null.
-    QObject *remoteCommand(const QStringList &options, const QString &workingDirectory,
-        const QStringList &arguments) override;
+    QObject *remoteCommand(
+        const QStringList &options, const QString &workingDirectory, const QStringList &arguments) override;
 
 public slots:
     /// Opens one file as a remote command would.

@@ -11,7 +11,7 @@ using ExtensionSystem::PluginManager;
 namespace {
 ICore *s_pInstance = nullptr;
 MainWindow *s_pMainWindow = nullptr;
-}
+} // namespace
 
 ICore::ICore(MainWindow *pMainWindow)
 {

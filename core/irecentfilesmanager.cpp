@@ -9,7 +9,7 @@
 namespace {
 const QString s_key = QStringLiteral("Kelpa/RecentProjects");
 constexpr int s_lockWaitMs = 1000;
-}
+} // namespace
 
 template class ISingleton<IRecentFilesManager>;
 

@@ -87,6 +87,7 @@ QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, con
     QWidget *pOwner = pParent ? pParent : ICore::getMainWindow();
     QMessageBox box(pOwner);
     box.setWindowTitle(strTitle);
+    box.setTextFormat(Qt::PlainText);
     box.setText(strText);
     box.setStandardButtons(buttons);
     box.setDefaultButton(defaultButton);

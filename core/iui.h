@@ -38,8 +38,7 @@ public:
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
         QMessageBox::StandardButton defaultButton = QMessageBox::Ok);
     static QMessageBox::StandardButton question(QWidget *pParent, const QString &strTitle,
-        const QString &strText,
-        QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No,
+        const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No,
         QMessageBox::StandardButton defaultButton = QMessageBox::Yes);
     static QMessageBox::StandardButton warning(QWidget *pParent, const QString &strTitle,
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,

@@ -9,6 +9,7 @@
 #include "document/ieditor.h"
 #include "icore.h"
 #include "ui/imainmdiarea.h"
+#include "ui/ioptionsdlg.h"
 
 #include <extensionsystem/pluginmanager.h>
 
@@ -155,8 +156,7 @@ void MainWindow::aboutToShutdown() { }
 bool MainWindow::IsFirstRun()
 {
     const QSettings *pSettings = PluginManager::settings();
-    return !pSettings
-        || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
+    return !pSettings || !pSettings->childGroups().contains(QStringLiteral("Designer"), Qt::CaseInsensitive);
 }
 
 QString MainWindow::getDefaultTempPath() const

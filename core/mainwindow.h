@@ -122,6 +122,6 @@ private:
     DocumentManager *m_pDocumentManager = nullptr;
     EditorManager *m_pEditorManager = nullptr;
     ICore *m_pCore = nullptr;
-    IOptionsDlg *m_pOptionsDlg = nullptr;
+    QPointer<IOptionsDlg> m_pOptionsDlg;
     int m_nDisplayScale = 0;
 };

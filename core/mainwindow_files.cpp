@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QMimeData>
 #include <QUndoGroup>
 #include <QUrl>
@@ -23,6 +24,8 @@
 using ExtensionSystem::PluginManager;
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcFiles, "kelpa.core")
 
 // A copy: factories run dialogs and take their time, and the pool must not stay locked.
 QList<IDocumentFactory *> documentFactories()
@@ -138,6 +141,8 @@ bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
     emit pDoc->aboutToOpen();
     startBackup(pDoc);
     updateWelcomeWidget();
+    // Waited for by the start under a virtual display.
+    qCDebug(lcFiles, "Project shown: %s", qUtf8Printable(pDoc->getFileName()));
     return true;
 }
 

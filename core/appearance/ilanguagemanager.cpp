@@ -18,8 +18,7 @@ const QString s_english = QStringLiteral("en_US");
 LanguageInfo *infoOf(const QLocale &locale)
 {
     return new LanguageInfo {locale.name(), QLocale::languageToString(locale.language()),
-        QLocale::countryToString(locale.country()), locale.nativeLanguageName(),
-        locale.nativeCountryName()};
+        QLocale::countryToString(locale.country()), locale.nativeLanguageName(), locale.nativeCountryName()};
 }
 
 // "app_de_DE.qm" stands for de_DE.

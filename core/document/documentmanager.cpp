@@ -91,8 +91,7 @@ void DocumentManager::addDocument(IDocument *pDocument)
     s_pInstance->m_backupTimers.emplace(pTimer, pDocument);
 
     // A document deleted without being removed: let go of it while its stack can still be asked for.
-    connect(pDocument, &QObject::destroyed, s_pInstance,
-        [pDocument] { removeDocument(pDocument); });
+    connect(pDocument, &QObject::destroyed, s_pInstance, [pDocument] { removeDocument(pDocument); });
 }
 
 bool DocumentManager::removeDocument(IDocument *pDocument)

@@ -29,7 +29,7 @@ void EditorManager::addEditor(IEditor *pEditor)
     if (!s_pInstance || !pEditor || s_pInstance->m_editors.contains(pEditor))
         return;
     s_pInstance->m_editors.append(pEditor);
-    connect(pEditor, &QObject::destroyed, s_pInstance, &EditorManager::editorDestroyed);
+    connect(pEditor, &QObject::destroyed, s_pInstance, &EditorManager::editorDestroyed, Qt::UniqueConnection);
 }
 
 bool EditorManager::removeEditor(IEditor *pEditor)

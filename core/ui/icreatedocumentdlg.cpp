@@ -6,8 +6,7 @@ ICreateDocumentDlg::ICreateDocumentDlg(QWidget *pParent)
 {
 }
 
-ICreateDocumentDlg::ICreateDocumentDlg(
-    QWidget *pParent, const QString &, const QString &, const QString &)
+ICreateDocumentDlg::ICreateDocumentDlg(QWidget *pParent, const QString &, const QString &, const QString &)
     : ICreateDocumentDlg(pParent)
 {
 }

@@ -42,7 +42,8 @@ private slots:
         const QStringList saveAsOnly = {"close", "saveAs"};
         const QStringList none = {"close"};
         using Q = QMessageBox;
-        QTest::newRow("unmodified asks nothing") << false << false << true << Buttons {} << true << none << old;
+        QTest::newRow("unmodified asks nothing")
+            << false << false << true << Buttons {} << true << none << old;
         QTest::newRow("cancel keeps it open")
             << false << true << true << Buttons {Q::Cancel} << false << none << old;
         QTest::newRow("a closed box keeps it open")

@@ -47,7 +47,8 @@ private slots:
         DocumentManager::addDocument(&first);
         DocumentManager::addDocument(nullptr);
         QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first, &second}));
-        QCOMPARE(DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&first.stack, &second.stack}));
+        QCOMPARE(
+            DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&first.stack, &second.stack}));
         QCOMPARE(timers().size(), 2);
         QVERIFY(!timers().at(0)->isActive() && !timers().at(1)->isActive());
 

@@ -59,8 +59,8 @@ private slots:
         EditorManager::activateEditor(b());
         EditorManager::activateEditor(nullptr);
         QCOMPARE(m_pRecorder->take(),
-            QStringList({"aboutTo A", "activated A", "leaving A", "deactivated A", "aboutTo B",
-                "activated B", "leaving B", "deactivated B"}));
+            QStringList({"aboutTo A", "activated A", "leaving A", "deactivated A", "aboutTo B", "activated B",
+                "leaving B", "deactivated B"}));
         QCOMPARE(EditorManager::activeEditor(), nullptr);
     }
 
@@ -153,8 +153,8 @@ private slots:
         emit pDocument->titleChanged();
         emit pDocument->modifyChanged(true);
         emit pDocument->undoStackChanged();
-        const QList<qsizetype> counts = {loaded.count(), data.count(), unloading.count(), title.count(),
-            modified.count(), undo.count()};
+        const QList<qsizetype> counts = {
+            loaded.count(), data.count(), unloading.count(), title.count(), modified.count(), undo.count()};
         QCOMPARE(counts, QList<qsizetype>({1, 1, 1, 1, 1, 1}));
         QCOMPARE(data.first().first().value<QObject *>(), this);
 

@@ -61,10 +61,18 @@ private slots:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("id");
         QTest::addColumn<QString>("code");
-        QTest::newRow("a language with a country") << "fr_FR" << "fr_FR" << "fr";
-        QTest::newRow("a language alone gets its country") << "ja" << "ja_JP" << "ja";
-        QTest::newRow("nonsense is the C locale") << "no such thing" << "C" << "C";
-        QTest::newRow("an empty value is English") << "" << "en_US" << "en";
+        QTest::newRow("a language with a country") << "fr_FR"
+                                                   << "fr_FR"
+                                                   << "fr";
+        QTest::newRow("a language alone gets its country") << "ja"
+                                                           << "ja_JP"
+                                                           << "ja";
+        QTest::newRow("nonsense is the C locale") << "no such thing"
+                                                  << "C"
+                                                  << "C";
+        QTest::newRow("an empty value is English") << ""
+                                                   << "en_US"
+                                                   << "en";
     }
 
     void savedChoiceIsTheCurrentLanguage()

@@ -184,7 +184,8 @@ private slots:
         QFETCH(QString, screenName);
         QFETCH(int, side);
         QWidget parent;
-        parent.setScreen(screen(screenName));
+        parent.move(screen(screenName)->geometry().center());
+        parent.show();
         BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
         IUi::information(&parent, "Kelpa Studio", "text");
         IUi::question(&parent, "Kelpa Studio", "text", QMessageBox::Ok, QMessageBox::Ok);

@@ -64,8 +64,8 @@ private slots:
         record(&log);
         m_pWindow->fileNew();
         QCOMPARE(log,
-            QStringList({"activated, 1 documents, stack active",
-                "opened, 1 documents, 1 editors, stack active"}));
+            QStringList(
+                {"activated, 1 documents, stack active", "opened, 1 documents, 1 editors, stack active"}));
         QCOMPARE(m_pFactory->documents.first()->calls, QStringList({"content 1 2 3 1", "save"}));
         QCOMPARE(recent(), QStringList({m_pFactory->strNewPath}));
         QVERIFY(backupTimer()->isActive());
@@ -79,7 +79,8 @@ private slots:
         QTest::addColumn<bool>("content");
         QTest::addColumn<QStringList>("recent");
         QTest::addColumn<bool>("leftAlone");
-        QTest::newRow("cancelled dialog") << int(QDialog::Rejected) << "/n.kelpa" << true << QStringList() << false;
+        QTest::newRow("cancelled dialog")
+            << int(QDialog::Rejected) << "/n.kelpa" << true << QStringList() << false;
         QTest::newRow("no path keeps document and dialog")
             << int(QDialog::Accepted) << "" << true << QStringList() << true;
         QTest::newRow("content that fails")
@@ -237,7 +238,8 @@ private slots:
         QTest::addColumn<bool>("consumed");
         QTest::addColumn<bool>("accepted");
         QTest::addColumn<int>("opened");
-        QTest::newRow("only the first of two") << QStringList {"a.KELPA", "b.kelpa"} << true << true << true << 1;
+        QTest::newRow("only the first of two")
+            << QStringList {"a.KELPA", "b.kelpa"} << true << true << true << 1;
         QTest::newRow("one that cannot be opened") << QStringList {"a.kelpa"} << false << true << false << 0;
         QTest::newRow("no project") << QStringList {"a.png"} << true << true << false << 0;
         QTest::newRow("nothing") << QStringList {} << true << false << false << 0;

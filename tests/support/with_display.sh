@@ -1,27 +1,29 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# with_display.sh <command...>: runs the command on an X display of its own with a window manager.
-set -u
-folder=$(mktemp -d) || exit 1
-xvfb= openbox=
-end() {
-    status=$?
-    for pid in $openbox $xvfb; do
-        kill "$pid" 2>/dev/null
-        wait "$pid" 2>/dev/null
-    done
-    rm -rf "$folder"
-    exit $status
+# with_display.sh COMMAND...: runs a command on an X server of its own, with a window manager, and gives its
+# exit code. 77 when there is no X server to start: the test is skipped.
+command -v Xvfb >/dev/null && command -v openbox >/dev/null && command -v xdotool >/dev/null || {
+    echo "with_display.sh: needs Xvfb, openbox and xdotool" >&2
+    exit 77
 }
-trap end EXIT
-trap 'exit 1' HUP INT TERM
-
-mkfifo "$folder/number"
-Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$folder/number" 2>/dev/null &
-xvfb=$!
-read -r number <"$folder/number" || exit 1
+dir=$(mktemp -d) || exit 1
+trap 'kill $wm $server 2>/dev/null; rm -rf "$dir"' EXIT
+trap 'exit 143' INT TERM
+mkfifo "$dir/number"
+Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$dir/number" 2>"$dir/log" &
+server=$!
+read -r number <"$dir/number" || {
+    echo "with_display.sh: Xvfb did not start" >&2
+    cat "$dir/log" >&2
+    exit 1
+}
 export DISPLAY=":$number"
-openbox >/dev/null 2>&1 3>&- &
-openbox=$!
-timeout 60 sh -c 'until wmctrl -m; do sleep 0.1; done' >/dev/null 2>&1 || exit 1
+openbox >/dev/null 2>&1 &
+wm=$!
+# The window manager is there when it answers for the desktop.
+tries=0
+until xdotool get_desktop >/dev/null 2>&1 || [ $tries -ge 100 ]; do
+    tries=$((tries + 1))
+    sleep 0.05
+done
 "$@"

@@ -107,22 +107,22 @@ struct MaximizedRow
 };
 
 /// The monitor of the first rows is the display that the tests for Windows run on.
-inline constexpr Rect s_monitor {0, 0, 1600, 1000};
-inline constexpr Rect s_workArea {0, 0, 1600, 960};
+inline constexpr Rect s_monitor {0, 0, 1280, 800};
+inline constexpr Rect s_workArea {0, 0, 1280, 760};
 
 inline constexpr MaximizedRow s_maximized[] = {
     {"the work area stays", s_workArea, s_workArea, s_monitor, s_workArea},
     {"the whole monitor becomes the work area", s_monitor, s_workArea, s_monitor, s_workArea},
-    {"frames hanging over every edge are cut", {-8, -8, 1608, 968}, s_workArea, s_monitor, s_workArea},
-    {"wider alone becomes the work area", {-8, 0, 1608, 900}, s_workArea, s_monitor, s_workArea},
-    {"higher alone becomes the work area", {100, 0, 1500, 1000}, s_workArea, s_monitor, s_workArea},
-    {"smaller in both stays", {10, 20, 1500, 900}, s_workArea, s_monitor, {10, 20, 1500, 900}},
-    {"as large but elsewhere stays", {5, 7, 1605, 967}, s_workArea, s_monitor, {5, 7, 1605, 967}},
+    {"frames hanging over every edge are cut", {-8, -8, 1288, 768}, s_workArea, s_monitor, s_workArea},
+    {"wider alone becomes the work area", {-8, 0, 1288, 700}, s_workArea, s_monitor, s_workArea},
+    {"higher alone becomes the work area", {100, 0, 1200, 800}, s_workArea, s_monitor, s_workArea},
+    {"smaller in both stays", {10, 20, 1200, 700}, s_workArea, s_monitor, {10, 20, 1200, 700}},
+    {"as large but elsewhere stays", {5, 7, 1285, 767}, s_workArea, s_monitor, {5, 7, 1285, 767}},
     {"a monitor without a task bar keeps its whole", s_monitor, s_monitor, s_monitor, s_monitor},
     {"a monitor left of the first one has negative places", {-1288, -8, 8, 1032}, {-1280, 0, 0, 984},
         {-1280, 0, 0, 1024}, {-1280, 0, 0, 984}},
-    {"the whole of a monitor with a shifted work area as large is not kept", s_monitor, {0, 40, 1600, 1040},
-        s_monitor, {0, 40, 1600, 1040}},
+    {"the whole of a monitor with a shifted work area as large is not kept", s_monitor, {0, 40, 1280, 840},
+        s_monitor, {0, 40, 1280, 840}},
 };
 
 struct StripsRow

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QLocalSocket;
+
+/// What differs from system to system.
+namespace ExtensionSystem::Platform {
+
+/// Milliseconds since this process was started; -1 where that is not known cheaply.
+[[nodiscard]] qint64 msSinceProcessStart();
+
+/// The name to listen on for a server that only this user can reach, made from `strKey`, which is a few
+/// letters and digits. Empty when there is no safe place for it.
+[[nodiscard]] QString localServerName(const QString &strKey);
+
+/// A file beside it to lock while deciding who listens.
+[[nodiscard]] QString localServerLockFile(const QString &strKey);
+
+/// Is the process at the other end run by the same user?
+[[nodiscard]] bool isOwnPeer(const QLocalSocket &socket);
+
+} // namespace ExtensionSystem::Platform

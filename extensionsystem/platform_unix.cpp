@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "platform_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalSocket>
+
+#include <ctime>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ExtensionSystem::Platform {
+
+namespace {
+
+// Socket addresses end at about this length; there is some air for the socket's temporary name.
+constexpr int s_nLongestName = 90;
+
+bool isPrivateFolder(const QString &strFolder)
+{
+    struct stat status = {};
+    return lstat(QFile::encodeName(strFolder).constData(), &status) == 0 && S_ISDIR(status.st_mode)
+        && status.st_uid == geteuid() && (status.st_mode & 077) == 0;
+}
+
+bool makePrivateFolder(const QString &strFolder)
+{
+    mkdir(QFile::encodeName(strFolder).constData(), 0700);
+    return isPrivateFolder(strFolder);
+}
+
+// The session's own folder, else one in the temporary folder; only ours, and short enough for `nRest` more.
+QString privateFolder(qsizetype nRest)
+{
+    const auto fits = [nRest](const QString &strFolder) {
+        return QFile::encodeName(strFolder).size() + 1 + nRest <= s_nLongestName;
+    };
+    const QString strRuntime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (QDir::isAbsolutePath(strRuntime) && fits(strRuntime) && isPrivateFolder(strRuntime))
+        return strRuntime;
+    const QString strOwn = QStringLiteral("/kelpastudio-%1").arg(geteuid());
+    for (const QString &strTemp : {QDir::tempPath(), QStringLiteral("/tmp")}) {
+        if (fits(strTemp + strOwn) && makePrivateFolder(strTemp + strOwn))
+            return strTemp + strOwn;
+    }
+    return QString();
+}
+
+QString privateFile(const QString &strKey, const QString &strSuffix)
+{
+    const QString strName = QStringLiteral("kelpastudio-") + strKey;
+    const QString strFolder = privateFolder(strName.size());
+    return strFolder.isEmpty() ? QString() : strFolder + QLatin1Char('/') + strName + strSuffix;
+}
+
+} // namespace
+
+qint64 msSinceProcessStart()
+{
+#ifdef Q_OS_LINUX
+    QFile file(QStringLiteral("/proc/self/stat"));
+    timespec now = {};
+    if (!file.open(QIODevice::ReadOnly) || clock_gettime(CLOCK_BOOTTIME, &now) != 0)
+        return -1;
+    const QByteArray line = file.readAll();
+    // The name of the program, in brackets, may hold anything; the start time is the 20th field after it.
+    const QByteArray ticks = line.mid(line.lastIndexOf(')') + 2).split(' ').value(19);
+    return now.tv_sec * 1000 + now.tv_nsec / 1000000 - ticks.toLongLong() * 1000 / sysconf(_SC_CLK_TCK);
+#else
+    return -1;
+#endif
+}
+
+QString localServerName(const QString &strKey)
+{
+    return privateFile(strKey, QString());
+}
+
+QString localServerLockFile(const QString &strKey)
+{
+    return privateFile(strKey, QStringLiteral(".lock"));
+}
+
+bool isOwnPeer(const QLocalSocket &socket)
+{
+    const int nDescriptor = static_cast<int>(socket.socketDescriptor());
+#ifdef Q_OS_LINUX
+    ucred credentials = {};
+    socklen_t nSize = sizeof credentials;
+    return getsockopt(nDescriptor, SOL_SOCKET, SO_PEERCRED, &credentials, &nSize) == 0
+        && credentials.uid == geteuid();
+#else
+    uid_t user = 0;
+    gid_t group = 0;
+    return getpeereid(nDescriptor, &user, &group) == 0 && user == geteuid();
+#endif
+}
+
+} // namespace ExtensionSystem::Platform

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "platform_p.h"
+
+#include <QDir>
+
+namespace ExtensionSystem::Platform {
+
+qint64 msSinceProcessStart()
+{
+    return -1;
+}
+
+// Pipes have one name space for all users; the server's access option keeps the others out.
+QString localServerName(const QString &strKey)
+{
+    return QStringLiteral("kelpastudio-") + qEnvironmentVariable("USERNAME") + QLatin1Char('-') + strKey;
+}
+
+QString localServerLockFile(const QString &strKey)
+{
+    return QDir::temp().absoluteFilePath(QStringLiteral("kelpastudio-%1.lock").arg(strKey));
+}
+
+bool isOwnPeer(const QLocalSocket &socket)
+{
+    Q_UNUSED(socket)
+    return true;
+}
+
+} // namespace ExtensionSystem::Platform

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <extensionsystem/extensionsystem_global.h>
+
+#include <QMetaType>
+#include <QString>
+
+namespace ExtensionSystem {
+
+/// The steps in a plug-in's life, in their order.
+enum class PluginPhase {
+    Read,
+    Resolve,
+    Load, ///< loading the library and constructing the plug-in object
+    Initialize,
+    ExtensionsInitialized,
+    DelayedInitialize,
+    RemoteCommand,
+    Shutdown
+};
+
+/// The phase as log, profile and messages write it.
+[[nodiscard]] EXTENSIONSYSTEM_EXPORT QString phaseName(PluginPhase phase);
+
+/// One thing that went wrong with one plug-in.
+struct EXTENSIONSYSTEM_EXPORT PluginError
+{
+    QString plugin; ///< name, empty when it could not be read
+    QString file;
+    PluginPhase phase = PluginPhase::Read;
+    QString message; ///< the reason, with the whole chain of reasons behind it
+
+    /// One line for people: plug-in, file, phase and reason.
+    [[nodiscard]] QString text() const;
+    bool operator==(const PluginError &) const = default;
+};
+
+} // namespace ExtensionSystem
+
+Q_DECLARE_METATYPE(ExtensionSystem::PluginError)

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "pluginmanager.h"
+
+#include "commandline.h"
+#include "pluginrunner.h"
+#include "singleinstance.h"
+
+namespace ExtensionSystem {
+
+struct PluginManager::Private
+{
+    MessageSink sink;
+    std::unique_ptr<CommandLine> line;
+    std::unique_ptr<PluginRunner> runner;
+    std::unique_ptr<SingleInstance> instance;
+    QList<PluginError> errors;
+    QStringList arguments;
+    int nShutdownTimeoutMs = 5000;
+
+    QList<RemoteCommand> commands; // received, not yet run
+    bool bTakesCommands = false; // between the plug-ins' start and their shutdown
+    bool bRunsCommands = false;
+
+    SettingsStore user;
+    SettingsStore machine;
+    QList<SettingsFault> faults;
+
+    QObjectList pool;
+    QReadWriteLock poolLock{QReadWriteLock::Recursive};
+};
+
+} // namespace ExtensionSystem

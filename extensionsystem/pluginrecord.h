@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <extensionsystem/pluginspec.h>
+
+#include <functional>
+
+namespace ExtensionSystem {
+
+class IPlugin;
+
+enum class PluginState {
+    Found, ///< metadata read, nothing else happened yet
+    LeftOut, ///< not wanted on the command line
+    Failed, ///< or something it needs did; see the reason
+    Constructed,
+    Initialized,
+    Running,
+    Stopped
+};
+
+/// What is known about one plug-in, for lists that people read.
+struct PluginDescription
+{
+    PluginSpec spec;
+    PluginState state = PluginState::Found;
+    QString reason; ///< why it failed
+};
+
+/// Makes the plug-in object, which the caller then owns; null with the reason in the string when it cannot.
+using PluginFactory = std::function<IPlugin *(QString *pErrorString)>;
+
+/// A plug-in that may be loaded, with the way to get its object.
+struct PluginRecord
+{
+    PluginSpec spec;
+    PluginFactory create;
+    QStringList arguments; ///< what it gets in initialize()
+};
+
+} // namespace ExtensionSystem

@@ -1,0 +1,430 @@
+// SPDX-License-Identifier: MIT
+#include <extensionsystem/pluginrunner.h>
+
+#include "startprofile.h"
+
+#include <extensionsystem/iplugin.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QPointer>
+#include <QSet>
+#include <QTimer>
+
+#include <exception>
+#include <optional>
+#include <vector>
+
+namespace ExtensionSystem {
+
+namespace {
+
+// What one turn of the event loop may cost; the window stays lively.
+constexpr int s_nTurnMs = 20;
+
+// Runs the hook; a throw becomes the reason that is returned.
+template <typename Function>
+QString caught(Function function)
+{
+    try {
+        function();
+        return QString();
+    } catch (const std::exception &exception) {
+        return QStringLiteral("exception: ") + QString::fromLocal8Bit(exception.what());
+    } catch (...) {
+        return QStringLiteral("exception of unknown type");
+    }
+}
+
+} // namespace
+
+struct PluginRunner::Private
+{
+    struct Plugin
+    {
+        PluginRecord record;
+        PluginState state = PluginState::Found;
+        QString reason;
+        QList<int> required;
+        QPointer<IPlugin> object;
+    };
+
+    explicit Private(PluginRunner *pOwner)
+        : q(pOwner)
+    {
+    }
+
+    void resolve(const QList<PluginRecord> &records, const PluginSelection &selection);
+    void noteUnknown(const QStringList &names);
+    PluginError note(int n, PluginPhase phase, const QString &strReason);
+    void fail(int n, PluginPhase phase, const QString &strReason);
+    [[nodiscard]] bool followFailure(int n, PluginPhase phase);
+    [[nodiscard]] QList<int> inState(PluginState state) const;
+
+    template <typename Function>
+    QString hook(int n, PluginPhase phase, Function function)
+    {
+        return profile.measure(plugins[n].record.spec.name, phase, [&] { return caught(function); });
+    }
+
+    bool constructAll();
+    void construct(int n);
+    bool initializeAll();
+    void initialize(int n);
+    bool extensionsInitializedAll();
+    void delayedTurn();
+    void nextTurn();
+    bool delayedInitialize(int n);
+    void stopFailed(PluginPhase phase);
+    void askToStop(const QList<int> &records, int nTimeoutMs);
+    void askToStop(int n, QSet<int> *pPending);
+    void waitFor(QSet<int> *pPending, int nTimeoutMs);
+    void destroy(const QList<int> &records);
+
+    PluginRunner *q;
+    std::vector<Plugin> plugins;
+    QList<int> order;
+    QList<PluginError> errors;
+    std::optional<PluginError> requiredFailure;
+    QList<int> delayed;
+    int nStopTimeoutMs = 5000;
+    StartProfile profile;
+};
+
+PluginRunner::PluginRunner(const QList<PluginRecord> &records, const PluginSelection &selection)
+    : d(std::make_unique<Private>(this))
+{
+    d->resolve(records, selection);
+}
+
+PluginRunner::~PluginRunner()
+{
+    shutdown(d->nStopTimeoutMs);
+}
+
+void PluginRunner::setProfiled(bool bProfiled)
+{
+    d->profile.setEnabled(bProfiled);
+}
+
+QString PluginRunner::profile() const
+{
+    return d->profile.text();
+}
+
+const PluginError *PluginRunner::requiredFailure() const
+{
+    return d->requiredFailure ? &*d->requiredFailure : nullptr;
+}
+
+const QList<PluginError> &PluginRunner::errors() const
+{
+    return d->errors;
+}
+
+QList<PluginDescription> PluginRunner::plugins() const
+{
+    QList<PluginDescription> descriptions;
+    for (const Private::Plugin &plugin : d->plugins)
+        descriptions.append({plugin.record.spec, plugin.state, plugin.reason});
+    return descriptions;
+}
+
+QList<IPlugin *> PluginRunner::running() const
+{
+    QList<IPlugin *> objects;
+    const auto records = d->inState(PluginState::Running);
+    for (const int n : records) {
+        if (d->plugins[n].object)
+            objects.append(d->plugins[n].object);
+    }
+    return objects;
+}
+
+void PluginRunner::Private::resolve(const QList<PluginRecord> &records, const PluginSelection &selection)
+{
+    QList<PluginSpec> specs;
+    for (const PluginRecord &record : records)
+        specs.append(record.spec);
+    const PluginResolution resolution = resolvePlugins(specs, selection);
+    order = resolution.order;
+    for (int i = 0; i < records.size(); ++i) {
+        const PluginVerdict &verdict = resolution.verdicts.at(i);
+        plugins.push_back({records.at(i), PluginState::Found, QString(), verdict.required, nullptr});
+        if (!verdict.bSelected)
+            plugins.back().state = PluginState::LeftOut;
+        const bool bRequiredLeftOut = !verdict.bSelected && specs.at(i).bRequired && verdict.reason.isEmpty();
+        if (bRequiredLeftOut)
+            fail(i, PluginPhase::Resolve, QStringLiteral("it was left out, but the program needs it"));
+        else if (verdict.bSelected && !verdict.reason.isEmpty())
+            fail(
+                i, specs.at(i).problems.isEmpty() ? PluginPhase::Resolve : PluginPhase::Read, verdict.reason);
+    }
+    noteUnknown(resolution.unknown);
+}
+
+void PluginRunner::Private::noteUnknown(const QStringList &names)
+{
+    for (const QString &strName : names)
+        errors.append(
+            {strName, QString(), PluginPhase::Resolve,
+             QStringLiteral("named on the command line, but there is no such plug-in")});
+}
+
+// An error that stops nobody.
+PluginError PluginRunner::Private::note(int n, PluginPhase phase, const QString &strReason)
+{
+    const PluginSpec &spec = plugins[n].record.spec;
+    const PluginError error = {spec.name, spec.file, phase, strReason};
+    errors.append(error);
+    emit q->failed(error);
+    return error;
+}
+
+void PluginRunner::Private::fail(int n, PluginPhase phase, const QString &strReason)
+{
+    plugins[n].state = PluginState::Failed;
+    plugins[n].reason = strReason;
+    const PluginError error = note(n, phase, strReason);
+    if (plugins[n].record.spec.bRequired && !requiredFailure)
+        requiredFailure = error;
+}
+
+// Fails the plug-in when one that it requires has failed by now.
+bool PluginRunner::Private::followFailure(int n, PluginPhase phase)
+{
+    for (const int nNeeded : std::as_const(plugins[n].required)) {
+        const Plugin &needed = plugins[nNeeded];
+        if (needed.state != PluginState::Failed)
+            continue;
+        fail(n, phase, dependencyReason(needed.record.spec, needed.reason));
+        return true;
+    }
+    return false;
+}
+
+QList<int> PluginRunner::Private::inState(PluginState state) const
+{
+    QList<int> records;
+    for (const int n : order) {
+        if (plugins[n].state == state)
+            records.append(n);
+    }
+    return records;
+}
+
+bool PluginRunner::start()
+{
+    if (!d->requiredFailure && d->constructAll() && d->initializeAll() && d->extensionsInitializedAll()) {
+        d->delayed = d->inState(PluginState::Running);
+        QTimer::singleShot(0, this, [this] { d->delayedTurn(); });
+        return true;
+    }
+    shutdown(d->nStopTimeoutMs);
+    return false;
+}
+
+bool PluginRunner::Private::constructAll()
+{
+    for (const int n : std::as_const(order)) {
+        if (!followFailure(n, PluginPhase::Load))
+            construct(n);
+        if (requiredFailure)
+            break;
+    }
+    return !requiredFailure;
+}
+
+void PluginRunner::Private::construct(int n)
+{
+    Plugin &plugin = plugins[n];
+    QString strError;
+    const QString strThrown =
+        hook(n, PluginPhase::Load, [&] { plugin.object = plugin.record.create(&strError); });
+    if (plugin.object)
+        plugin.state = PluginState::Constructed;
+    else
+        fail(n, PluginPhase::Load, strThrown.isEmpty() ? strError : strThrown);
+}
+
+bool PluginRunner::Private::initializeAll()
+{
+    const QList<int> records = inState(PluginState::Constructed);
+    for (const int n : records) {
+        if (!followFailure(n, PluginPhase::Initialize))
+            initialize(n);
+        if (requiredFailure)
+            break;
+    }
+    if (!requiredFailure) // else all go together, in good order
+        destroy(inState(PluginState::Failed));
+    return !requiredFailure;
+}
+
+void PluginRunner::Private::initialize(int n)
+{
+    Plugin &plugin = plugins[n];
+    QString strError;
+    bool bDone = false;
+    const QString strThrown = hook(n, PluginPhase::Initialize, [&] {
+        bDone = plugin.object->initialize(plugin.record.arguments, &strError);
+    });
+    if (bDone)
+        plugin.state = PluginState::Initialized;
+    else if (strThrown.isEmpty())
+        fail(n, PluginPhase::Initialize, strError.isEmpty() ? QStringLiteral("it gave no reason") : strError);
+    else
+        fail(n, PluginPhase::Initialize, strThrown);
+}
+
+bool PluginRunner::Private::extensionsInitializedAll()
+{
+    const QList<int> records = inState(PluginState::Initialized);
+    for (auto it = records.crbegin(); it != records.crend() && !requiredFailure; ++it) {
+        Plugin &plugin = plugins[*it];
+        plugin.state = PluginState::Running;
+        const QString strThrown =
+            hook(*it, PluginPhase::ExtensionsInitialized, [&] { plugin.object->extensionsInitialized(); });
+        if (!strThrown.isEmpty())
+            fail(*it, PluginPhase::ExtensionsInitialized, strThrown);
+    }
+    stopFailed(PluginPhase::ExtensionsInitialized);
+    return !requiredFailure;
+}
+
+// One turn of late work: as many plug-ins as the time allows, each once.
+void PluginRunner::Private::delayedTurn()
+{
+    QList<int> again;
+    const QDeadlineTimer deadline(s_nTurnMs);
+    while (!delayed.isEmpty() && !requiredFailure) {
+        const int n = delayed.takeFirst();
+        if (!delayedInitialize(n))
+            again.append(n);
+        if (deadline.hasExpired())
+            break;
+    }
+    delayed += again;
+    nextTurn();
+}
+
+void PluginRunner::Private::nextTurn()
+{
+    if (requiredFailure)
+        emit q->requiredPluginFailed();
+    else if (!delayed.isEmpty())
+        QTimer::singleShot(0, q, [this] { delayedTurn(); });
+    else
+        emit q->initializationDone();
+}
+
+// False: it wants another turn.
+bool PluginRunner::Private::delayedInitialize(int n)
+{
+    if (plugins[n].state != PluginState::Running)
+        return true;
+    bool bFinished = true;
+    const QString strThrown =
+        hook(n, PluginPhase::DelayedInitialize, [&] { bFinished = plugins[n].object->delayedInitialize(); });
+    if (strThrown.isEmpty())
+        return bFinished;
+    fail(n, PluginPhase::DelayedInitialize, strThrown);
+    stopFailed(PluginPhase::DelayedInitialize);
+    return true;
+}
+
+// A failure while plug-ins run: those that require the failed one are shut down in good order, then all of
+// them go. After that of a required one everything is shut down anyway.
+void PluginRunner::Private::stopFailed(PluginPhase phase)
+{
+    if (requiredFailure)
+        return;
+    QList<int> dependents;
+    const QList<int> candidates = inState(PluginState::Running);
+    for (const int n : candidates) {
+        if (followFailure(n, phase))
+            dependents.append(n);
+    }
+    askToStop(dependents, nStopTimeoutMs);
+    destroy(inState(PluginState::Failed));
+}
+
+void PluginRunner::shutdown(int nTimeoutMs)
+{
+    d->delayed.clear();
+    d->askToStop(d->inState(PluginState::Running), nTimeoutMs);
+    d->destroy(d->order);
+}
+
+// Dependents first; returns when all have finished or the time is up.
+void PluginRunner::Private::askToStop(const QList<int> &records, int nTimeoutMs)
+{
+    if (records.isEmpty())
+        return;
+    QSet<int> pending;
+    for (auto it = records.crbegin(); it != records.crend(); ++it)
+        askToStop(*it, &pending);
+    waitFor(&pending, nTimeoutMs);
+    for (const int n : records)
+        disconnect(plugins[n].object, nullptr, q, nullptr);
+    for (const int n : std::as_const(pending))
+        note(n, PluginPhase::Shutdown, QStringLiteral("it did not finish within %1 ms").arg(nTimeoutMs));
+    // What the plug-ins gave to the event loop to delete goes while they are still there.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// The signal may come from within the hook already.
+void PluginRunner::Private::askToStop(int n, QSet<int> *pPending)
+{
+    IPlugin *pPlugin = plugins[n].object;
+    if (!pPlugin)
+        return;
+    pPending->insert(n);
+    const auto finished = [n, pPending] { pPending->remove(n); };
+    connect(pPlugin, &IPlugin::asynchronousShutdownFinished, q, finished);
+    connect(pPlugin, &QObject::destroyed, q, finished);
+    auto flag = IPlugin::SynchronousShutdown;
+    const QString strThrown = hook(n, PluginPhase::Shutdown, [&] { flag = pPlugin->aboutToShutdown(); });
+    if (!strThrown.isEmpty())
+        note(n, PluginPhase::Shutdown, strThrown);
+    if (flag == IPlugin::SynchronousShutdown)
+        pPending->remove(n);
+}
+
+// No QEventLoop::exec(): it would return at once when the application is quitting.
+void PluginRunner::Private::waitFor(QSet<int> *pPending, int nTimeoutMs)
+{
+    const QDeadlineTimer deadline(nTimeoutMs);
+    QTimer alarm;
+    alarm.start(qMax(1, nTimeoutMs));
+    while (!pPending->isEmpty() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+// Takes load order, deletes backwards.
+void PluginRunner::Private::destroy(const QList<int> &records)
+{
+    for (auto it = records.crbegin(); it != records.crend(); ++it) {
+        Plugin &plugin = plugins[*it];
+        if (plugin.state != PluginState::Failed)
+            plugin.state = PluginState::Stopped;
+        delete plugin.object;
+    }
+}
+
+void PluginRunner::remoteCommand(
+    const QStringList &options, const QString &strWorkingDirectory, const QStringList &arguments)
+{
+    const QList<int> records = d->inState(PluginState::Running);
+    for (const int n : records) {
+        const QPointer<IPlugin> pPlugin = d->plugins[n].object;
+        const QString strThrown = caught([&] {
+            if (pPlugin)
+                pPlugin->remoteCommand(options, strWorkingDirectory, arguments);
+        });
+        if (!strThrown.isEmpty())
+            d->note(n, PluginPhase::RemoteCommand, strThrown);
+    }
+}
+
+} // namespace ExtensionSystem

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <extensionsystem/extensionsystem_global.h>
+#include <extensionsystem/pluginrecord.h>
+
+#include <QList>
+#include <QStringList>
+
+namespace ExtensionSystem {
+
+/// Reads the metadata of all plug-in libraries in these folders, without loading any: in the order of the
+/// folders, by file name within one, no file twice. Other files are passed over.
+[[nodiscard]] EXTENSIONSYSTEM_EXPORT QList<PluginRecord> findPlugins(const QStringList &folders);
+
+} // namespace ExtensionSystem

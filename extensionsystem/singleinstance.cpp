@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include <extensionsystem/singleinstance.h>
+
+#include "logging_p.h"
+#include "platform_p.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QLockFile>
+#include <QTimer>
+#include <QtEndian>
+
+namespace ExtensionSystem {
+
+namespace {
+
+constexpr int s_nPatienceMs = 3000; // with another instance that does not answer
+constexpr int s_nMessageTimeMs = 2000; // for a message to come in whole
+constexpr int s_nMostClients = 16;
+constexpr int s_nHeader = 4;
+const QByteArray s_receipt = QByteArrayLiteral("ok");
+
+const QString s_options = QStringLiteral("options");
+const QString s_workingDirectory = QStringLiteral("workingDirectory");
+const QString s_arguments = QStringLiteral("arguments");
+
+bool readStrings(const QJsonValue &value, QStringList *pStrings)
+{
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue &entry : array) {
+        if (!entry.isString())
+            return false;
+        pStrings->append(entry.toString());
+    }
+    return value.isArray();
+}
+
+QString keyOf(const QString &strFolder)
+{
+    const QString strCanonical = QFileInfo(strFolder).canonicalFilePath();
+    const QByteArray name = (strCanonical.isEmpty() ? strFolder : strCanonical).toUtf8();
+    return QLatin1String(QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex().left(16));
+}
+
+} // namespace
+
+QByteArray RemoteCommand::toJson() const
+{
+    const QJsonObject object = {
+        {s_options, QJsonArray::fromStringList(options)},
+        {s_workingDirectory, workingDirectory},
+        {s_arguments, QJsonArray::fromStringList(arguments)}};
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+std::optional<RemoteCommand> RemoteCommand::fromJson(const QByteArray &json)
+{
+    const QJsonObject object = QJsonDocument::fromJson(json).object();
+    RemoteCommand command;
+    command.workingDirectory = object.value(s_workingDirectory).toString();
+    if (object.value(s_workingDirectory).isString() && readStrings(object.value(s_options), &command.options)
+        && readStrings(object.value(s_arguments), &command.arguments))
+        return command;
+    return std::nullopt;
+}
+
+SingleInstance::SingleInstance(const QString &strSettingsFolder)
+    : m_strName(Platform::localServerName(keyOf(strSettingsFolder)))
+    , m_strLockFile(Platform::localServerLockFile(keyOf(strSettingsFolder)))
+{
+    qRegisterMetaType<RemoteCommand>();
+}
+
+// Under the lock: closing takes the socket's file away, which must not be a successor's.
+SingleInstance::~SingleInstance()
+{
+    if (!m_pServer)
+        return;
+    QLockFile lock(m_strLockFile);
+    lock.tryLock(s_nPatienceMs);
+    m_pServer.reset();
+}
+
+SingleInstance::Role SingleInstance::claim(const RemoteCommand &command)
+{
+    const QByteArray message = command.toJson();
+    if (m_strName.isEmpty())
+        return alone(tr("There is no safe place for the socket on which other starts could be heard."));
+    if (message.size() > s_nLargestMessage)
+        return alone(tr("The command line is too long to hand over to a running instance."));
+
+    const QDeadlineTimer deadline(s_nPatienceMs);
+    while (!deadline.hasExpired()) {
+        QLocalSocket socket;
+        const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+        if (const auto role = listenUnlessConnected(socket, remaining()))
+            return *role;
+        switch (deliver(socket, message, remaining())) {
+        case Delivery::Received:
+            return Role::HandedOver;
+        case Delivery::PeerGone:
+            continue; // it ended before it had the message: take its place
+        case Delivery::Silent:
+            break;
+        }
+        break;
+    }
+    return alone(tr("The running instance does not answer; another one is started."));
+}
+
+// The lock makes two simultaneous starts agree on one that listens. Nothing: the socket is connected.
+std::optional<SingleInstance::Role> SingleInstance::listenUnlessConnected(QLocalSocket &socket, int nMs)
+{
+    QLockFile lock(m_strLockFile);
+    if (!lock.tryLock(nMs))
+        return alone(tr("The lock file %1 cannot be had; another instance is started.").arg(m_strLockFile));
+    switch (connectTo(socket, nMs)) {
+    case Connection::Made:
+        return std::nullopt;
+    case Connection::NobodyThere:
+        return listen();
+    case Connection::Failed:
+        break;
+    }
+    return alone(
+        tr("The running instance cannot be reached (%1); another one is started.").arg(socket.errorString()));
+}
+
+SingleInstance::Connection SingleInstance::connectTo(QLocalSocket &socket, int nMs)
+{
+    socket.connectToServer(m_strName);
+    if (socket.waitForConnected(nMs))
+        return Connection::Made;
+    const auto error = socket.error();
+    return error == QLocalSocket::ServerNotFoundError || error == QLocalSocket::ConnectionRefusedError
+        ? Connection::NobodyThere
+        : Connection::Failed;
+}
+
+SingleInstance::Delivery SingleInstance::deliver(QLocalSocket &socket, const QByteArray &message, int nMs)
+{
+    const QDeadlineTimer deadline(nMs);
+    QByteArray header(s_nHeader, '\0');
+    qToBigEndian(static_cast<quint32>(message.size()), header.data());
+    socket.write(header + message);
+    while (socket.bytesAvailable() < s_receipt.size() && !deadline.hasExpired()) {
+        if (socket.state() != QLocalSocket::ConnectedState)
+            return Delivery::PeerGone;
+        socket.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+    }
+    return socket.read(s_receipt.size()) == s_receipt ? Delivery::Received : Delivery::Silent;
+}
+
+SingleInstance::Role SingleInstance::listen()
+{
+    auto pServer = std::make_unique<QLocalServer>();
+    pServer->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(pServer.get(), &QLocalServer::newConnection, this, [this] {
+        while (QLocalSocket *pSocket = m_pServer->nextPendingConnection())
+            accept(pSocket);
+    });
+    QLocalServer::removeServer(m_strName); // what a killed instance left
+    if (!pServer->listen(m_strName))
+        return alone(tr("Other starts cannot be heard on %1: %2").arg(m_strName, pServer->errorString()));
+    m_pServer = std::move(pServer);
+    return Role::First;
+}
+
+SingleInstance::Role SingleInstance::alone(const QString &strProblem)
+{
+    m_strProblem = strProblem;
+    return Role::Alone;
+}
+
+void SingleInstance::accept(QLocalSocket *pSocket)
+{
+    ++m_nClients;
+    if (m_nClients > s_nMostClients)
+        return drop(pSocket, "too many connections at a time");
+    if (!Platform::isOwnPeer(*pSocket))
+        return drop(pSocket, "the sender is another user");
+    pSocket->setReadBufferSize(s_nHeader + s_nLargestMessage);
+    auto *pTimer = new QTimer(pSocket);
+    pTimer->setSingleShot(true);
+    connect(pTimer, &QTimer::timeout, this, [this, pSocket] { drop(pSocket, "the message takes too long"); });
+    pTimer->start(s_nMessageTimeMs);
+    connect(pSocket, &QLocalSocket::readyRead, this, [this, pSocket] { read(pSocket); });
+    connect(pSocket, &QLocalSocket::disconnected, this, [this, pSocket] {
+        drop(pSocket, "the sender went away in the middle of it");
+    });
+    read(pSocket);
+}
+
+void SingleInstance::read(QLocalSocket *pSocket)
+{
+    const QByteArray header = pSocket->peek(s_nHeader);
+    if (header.size() < s_nHeader)
+        return;
+    const auto nSize = qFromBigEndian<quint32>(header.constData());
+    if (nSize > s_nLargestMessage)
+        return drop(pSocket, "it is too large");
+    if (pSocket->bytesAvailable() < s_nHeader + static_cast<qint64>(nSize))
+        return;
+    pSocket->skip(s_nHeader);
+    receive(pSocket, pSocket->read(nSize));
+}
+
+void SingleInstance::receive(QLocalSocket *pSocket, const QByteArray &json)
+{
+    const auto command = RemoteCommand::fromJson(json);
+    if (!command)
+        return drop(pSocket, "it is malformed");
+    pSocket->write(s_receipt);
+    pSocket->flush();
+    release(pSocket);
+    QMetaObject::invokeMethod(
+        this, [this, command] { emit commandReceived(*command); }, Qt::QueuedConnection);
+}
+
+void SingleInstance::drop(QLocalSocket *pSocket, const char *pReason)
+{
+    qCWarning(lcExtensionSystem, "A message from another start was dropped: %s", pReason);
+    release(pSocket);
+}
+
+void SingleInstance::release(QLocalSocket *pSocket)
+{
+    --m_nClients;
+    pSocket->disconnect(this);
+    if (auto *pTimer = pSocket->findChild<QTimer *>())
+        pTimer->stop();
+    pSocket->close();
+    pSocket->deleteLater();
+}
+
+} // namespace ExtensionSystem

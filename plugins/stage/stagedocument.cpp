@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "stagedocument.h"
+
+#include "stageformat.h"
+#include "stagelog.h"
+#include "stagemodel.h"
+#include "stagereader.h"
+#include "stagewriter.h"
+
+#include <icore.h>
+#include <iui.h>
+#include <mainwindow.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QUndoStack>
+
+Q_LOGGING_CATEGORY(lcStage, "kelpa.stage")
+
+namespace {
+
+const QString s_title = QStringLiteral("Kelpa Studio");
+const QString s_suffix = QStringLiteral(".kelpa");
+
+bool inRange(int nValue, int nMax)
+{
+    return nValue >= 1 && nValue <= nMax;
+}
+
+} // namespace
+
+// Model and stack are children: they are still there when the base class announces the end of the document.
+StageDocument::StageDocument()
+    : m_pModel(new StageModel(this))
+{
+    auto *pStack = new QUndoStack(this);
+    setUndoStack(pStack);
+    connect(pStack, &QUndoStack::cleanChanged, this, [this] { emit modifyChanged(isModified()); });
+    connect(pStack, &QUndoStack::indexChanged, this, [this] {
+        ++m_nRevision;
+        emit dataChanged(m_pModel);
+    });
+}
+
+StageDocument::~StageDocument() = default;
+
+bool StageDocument::isModified() const
+{
+    return m_bNeverSaved || IDocument::isModified();
+}
+
+void StageDocument::cleanTempDir()
+{
+    removeBackup();
+}
+
+bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFlag)
+{
+    if (!inRange(nFirst, StageFormat::nMaxStageSize) || !inRange(nSecond, StageFormat::nMaxStageSize)
+        || !inRange(nThird, StageFormat::nMaxFrameRate)) {
+        IUi::information(
+            nullptr, s_title,
+            tr("Could not create project %1.\nA stage of %2 by %3 pixels with %4 frames per second is not "
+               "possible.")
+                .arg(QDir::toNativeSeparators(getFileName()))
+                .arg(nFirst)
+                .arg(nSecond)
+                .arg(nThird));
+        return false;
+    }
+    StageProject project;
+    project.width = nFirst;
+    project.height = nSecond;
+    project.frameRate = nThird;
+    project.responsive = bFlag;
+    project.scenes.append(StageScene{tr("Scene 1"), {}, {}});
+    m_bNeverSaved = true;
+    m_pModel->setProject(project);
+    return true;
+}
+
+bool StageDocument::open()
+{
+    return read(tr("Could not open project %1."));
+}
+
+bool StageDocument::revert()
+{
+    if (!read(tr("Could not read project %1 again.")))
+        return false;
+    getUndoStack()->clear();
+    removeBackup();
+    return true;
+}
+
+// On failure the user is told, and the project in memory stays.
+bool StageDocument::read(const QString &strAction)
+{
+    const StageReader::Result result = StageReader::readFile(getFileName());
+    if (!result.project) {
+        const QString strFile = QDir::toNativeSeparators(getFileName());
+        qCWarning(lcStage, "%s: %s", qUtf8Printable(strFile), qUtf8Printable(result.error));
+        IUi::information(nullptr, s_title, strAction.arg(strFile) + QLatin1Char('\n') + result.error);
+        return false;
+    }
+    m_pModel->setProject(*result.project);
+    return true;
+}
+
+bool StageDocument::close()
+{
+    if (!IDocument::close())
+        return false;
+    removeBackup();
+    return true;
+}
+
+bool StageDocument::save(const QString &strFileName)
+{
+    const QString strReason = StageWriter::writeFile(m_pModel->project(), strFileName);
+    const QString strFile = QDir::toNativeSeparators(strFileName);
+    if (!strReason.isEmpty()) {
+        qCWarning(lcStage, "%s: not saved: %s", qUtf8Printable(strFile), qUtf8Printable(strReason));
+        emit statusChanged(tr("Could not save %1: %2").arg(strFile, strReason));
+        return false;
+    }
+    emit statusChanged(tr("Saved %1").arg(strFile));
+    return true;
+}
+
+bool StageDocument::save()
+{
+    return saveAsOwn(getFileName());
+}
+
+bool StageDocument::saveAs()
+{
+    QString strFileName = QFileDialog::getSaveFileName(
+        ICore::getMainWindow(), tr("Save Project As"), getFileName(),
+        tr("Kelpa projects (*%1)").arg(s_suffix));
+    if (strFileName.isEmpty())
+        return false;
+    if (!strFileName.endsWith(s_suffix, Qt::CaseInsensitive)) {
+        strFileName += s_suffix;
+        // The dialog asked about the name without the suffix only.
+        if (QFileInfo::exists(strFileName)
+            && IUi::question(
+                   nullptr, s_title, tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strFileName)),
+                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+                != QMessageBox::Yes)
+            return false;
+    }
+    return saveAsOwn(strFileName);
+}
+
+bool StageDocument::saveAsOwn(const QString &strFileName)
+{
+    if (!save(strFileName))
+        return false;
+    const bool bStackTells = !getUndoStack()->isClean();
+    removeBackup();
+    m_bNeverSaved = false;
+    setIsTempDocument(false);
+    setFileName(strFileName);
+    getUndoStack()->setClean();
+    if (!bStackTells)
+        emit modifyChanged(isModified());
+    emit titleChanged();
+    return true;
+}
+
+void StageDocument::submitCommand(QUndoCommand *pCommand)
+{
+    if (pCommand)
+        getUndoStack()->push(pCommand);
+}
+
+bool StageDocument::saveBackup()
+{
+    if (!isModified() || (!m_strBackup.isEmpty() && m_nBackupRevision == m_nRevision))
+        return false;
+    const QString strFile = backupFileName();
+    const QString strReason = StageWriter::writeFile(m_pModel->project(), strFile);
+    if (!strReason.isEmpty()) {
+        qCWarning(lcStage, "%s: no backup: %s", qUtf8Printable(strFile), qUtf8Printable(strReason));
+        return false;
+    }
+    m_strBackup = strFile;
+    m_nBackupRevision = m_nRevision;
+    return true;
+}
+
+QString StageDocument::backupFileName() const
+{
+    const QString strBackup = getFileName() + QStringLiteral(".backup");
+    if (!isTempDocument() || !ICore::getMainWindow())
+        return strBackup;
+    return QDir(ICore::getMainWindow()->getDefaultTempPath())
+        .absoluteFilePath(QFileInfo(strBackup).fileName());
+}
+
+// Only the one written here: a backup that an earlier run left behind is the author's to keep.
+void StageDocument::removeBackup()
+{
+    if (!m_strBackup.isEmpty() && !QFile::remove(m_strBackup) && QFile::exists(m_strBackup))
+        qCWarning(lcStage, "%s: the backup could not be removed", qUtf8Printable(m_strBackup));
+    m_strBackup.clear();
+}

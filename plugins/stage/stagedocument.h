@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <document/idocument.h>
+
+class StageModel;
+
+/// A project in the format "kelpa". It owns its model and its undo stack. GUI thread only.
+class StageDocument : public IDocument
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StageDocument)
+
+public:
+    StageDocument();
+    ~StageDocument() override;
+
+    [[nodiscard]] StageModel *getModel() const { return m_pModel; }
+
+    /// Also true for a new project that was never written.
+    [[nodiscard]] bool isModified() const override;
+
+    void cleanTempDir() override;
+
+    /// Width and height in pixels, frames per second, whether the stage follows the width of its page.
+    bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override;
+
+    bool open() override;
+    bool close() override;
+
+    /// Writes the project to that file, without making it the document's own. On failure the reason goes to
+    /// the log and out through statusChanged(), and the file is as it was.
+    bool save(const QString &strFileName) override;
+    bool save() override;
+
+    /// Asks for a file, which becomes the document's own. False also when cancelled.
+    bool saveAs() override;
+
+    /// Reads the file again; the history is gone then.
+    bool revert() override;
+
+    void submitCommand(QUndoCommand *pCommand) override;
+
+    /// Writes "<file>.backup", or a file in the main window's temporary folder for a temporary document,
+    /// when something changed since the last save and the last backup.
+    bool saveBackup() override;
+
+private:
+    bool read(const QString &strAction);
+    bool saveAsOwn(const QString &strFileName);
+    void removeBackup();
+    [[nodiscard]] QString backupFileName() const;
+
+    StageModel *const m_pModel;
+    bool m_bNeverSaved = false;
+    int m_nRevision = 0;
+    int m_nBackupRevision = 0;
+    QString m_strBackup; ///< the backup this document wrote; empty without one
+};

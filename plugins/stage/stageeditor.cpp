@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "stageeditor.h"
+
+#include "stagedocument.h"
+#include "stagemodel.h"
+#include "stagesubwindow.h"
+#include "stageview.h"
+
+#include <document/documentmanager.h>
+#include <document/editormanager.h>
+#include <icore.h>
+#include <mainwindow.h>
+#include <ui/imainmdiarea.h>
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStatusBar>
+#include <QUndoGroup>
+#include <QVBoxLayout>
+
+StageEditor::StageEditor()
+{
+    connect(this, &IEditor::aboutToActivate, this, &StageEditor::show);
+    connect(this, &IEditor::documentTitleChanged, this, &StageEditor::updateTitle);
+    connect(this, &IEditor::documentModifyChanged, this, &StageEditor::updateTitle);
+}
+
+// The main window clears the file path in its title when a document closes; the next one is shown by then.
+StageEditor::~StageEditor()
+{
+    delete m_pSubWindow;
+    MainWindow *pMainWindow = ICore::getMainWindow();
+    if (pMainWindow && pMainWindow->getMdiArea())
+        pMainWindow->updateActivatedMdiSubFilePath(pMainWindow->getMdiArea()->activeSubWindow());
+}
+
+StageView *StageEditor::getView() const
+{
+    return m_pView;
+}
+
+QMdiSubWindow *StageEditor::getSubWindow() const
+{
+    return m_pSubWindow;
+}
+
+StageDocument *StageEditor::document() const
+{
+    return qobject_cast<StageDocument *>(getDocument());
+}
+
+void StageEditor::show()
+{
+    StageDocument *pDocument = document();
+    MainWindow *pMainWindow = ICore::getMainWindow();
+    if (!pDocument || !pMainWindow)
+        return;
+    if (!m_pSubWindow)
+        createSubWindow(pDocument);
+    pMainWindow->getMdiArea()->setActiveSubWindow(m_pSubWindow);
+    if (m_pView)
+        m_pView->setFocus();
+    if (QUndoGroup *pGroup = DocumentManager::getUndoGroup())
+        pGroup->setActiveStack(pDocument->getUndoStack());
+}
+
+void StageEditor::createSubWindow(StageDocument *pDocument)
+{
+    IMainMdiArea *pArea = ICore::getMainWindow()->getMdiArea();
+    auto *pSubWindow = new StageSubWindow;
+    m_pSubWindow = pSubWindow;
+    pSubWindow->setWidget(createContent(pDocument));
+    updateTitle();
+    connect(pSubWindow, &StageSubWindow::closeRequested, this, &StageEditor::requestClose);
+    connect(pDocument, &IDocument::statusChanged, this, &StageEditor::showStatus);
+    pArea->addSubWindow(pSubWindow);
+    connect(pArea, &QMdiArea::subWindowActivated, this, &StageEditor::onSubWindowActivated);
+    pSubWindow->showMaximized();
+}
+
+QWidget *StageEditor::createContent(StageDocument *pDocument)
+{
+    auto *pContent = new QWidget;
+    auto *pLabel = new QLabel(tr("Sce&ne:"), pContent);
+    m_pScenes = new QComboBox(pContent);
+    m_pScenes->setAccessibleName(tr("Scene"));
+    pLabel->setBuddy(m_pScenes);
+    m_pView = new StageView(pDocument, pDocument->getModel(), pContent);
+    fillScenes();
+    connect(m_pScenes, &QComboBox::activated, m_pView, &StageView::setCurrentScene);
+    connect(m_pView, &StageView::elementSelectionChanged, this, &StageEditor::selectionChanged);
+    connect(m_pView, &StageView::elementSelectionChanged, this, [this] {
+        if (m_pScenes && m_pView)
+            m_pScenes->setCurrentIndex(m_pView->currentScene());
+    });
+    connect(pDocument->getModel(), &StageModel::reset, this, &StageEditor::fillScenes);
+
+    auto *pBar = new QHBoxLayout;
+    pBar->setContentsMargins(6, 3, 6, 3);
+    pBar->addWidget(pLabel);
+    pBar->addWidget(m_pScenes);
+    pBar->addStretch();
+    auto *pLayout = new QVBoxLayout(pContent);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setSpacing(0);
+    pLayout->addLayout(pBar);
+    pLayout->addWidget(m_pView);
+    return pContent;
+}
+
+void StageEditor::fillScenes()
+{
+    const StageDocument *pDocument = document();
+    if (!pDocument || !m_pScenes || !m_pView)
+        return;
+    m_pScenes->clear();
+    for (const StageScene &scene : pDocument->getModel()->project().scenes)
+        m_pScenes->addItem(scene.name);
+    m_pScenes->setCurrentIndex(m_pView->currentScene());
+}
+
+void StageEditor::updateTitle()
+{
+    const IDocument *pDocument = getDocument();
+    if (!pDocument || !m_pSubWindow)
+        return;
+    const QString strFileName = pDocument->getFileName();
+    m_pSubWindow->setWindowTitle(QFileInfo(strFileName).completeBaseName() + QStringLiteral("[*]"));
+    m_pSubWindow->setWindowFilePath(strFileName);
+    m_pSubWindow->setToolTip(QDir::toNativeSeparators(strFileName));
+    m_pSubWindow->setWindowModified(pDocument->isModified());
+    if (EditorManager::activeEditor() == this && ICore::getMainWindow())
+        ICore::getMainWindow()->updateActivatedMdiSubFilePath(m_pSubWindow);
+}
+
+// The user picked the tab. An editor on its way out has no document any more.
+void StageEditor::onSubWindowActivated(QMdiSubWindow *pSubWindow)
+{
+    if (pSubWindow && pSubWindow == m_pSubWindow && getDocument() && !m_bClosing)
+        EditorManager::activateEditor(this);
+}
+
+void StageEditor::showStatus(const QString &strStatus)
+{
+    if (MainWindow *pMainWindow = ICore::getMainWindow())
+        pMainWindow->statusBar()->showMessage(strStatus);
+}
+
+// The question about unsaved changes runs an event loop: the close box may be pressed again, and document or
+// editor may be deleted, before the answer comes. Nothing may follow the last line.
+void StageEditor::requestClose()
+{
+    const QPointer<IDocument> pDocument = getDocument();
+    if (m_bClosing || !pDocument)
+        return;
+    m_bClosing = true;
+    const QPointer<StageEditor> pThis = this;
+    const bool bMayGo = pDocument->close();
+    if (!pThis || !pDocument)
+        return;
+    m_bClosing = bMayGo;
+    if (bMayGo)
+        emit pDocument->requestClosing(true);
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <document/idocumentfactory.h>
+
+/// Makes the documents of the format "kelpa".
+class StageFactory : public IDocumentFactory
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StageFactory)
+
+public:
+    explicit StageFactory(QObject *pParent);
+    ~StageFactory() override;
+
+    [[nodiscard]] IDocument *createDocument() override;
+    [[nodiscard]] IEditor *createEditor() override;
+    [[nodiscard]] QStringList getSupportedSuffixes() override;
+
+    /// Null: there are no preferences yet.
+    [[nodiscard]] IOptionsDlg *createOptionsDialog() override;
+    [[nodiscard]] ICreateDocumentDlg *createNewDocumentDialog() override;
+    [[nodiscard]] QString getOpenFileName() override;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <extensionsystem/iplugin.h>
+
+#include <QPointer>
+
+#include <memory>
+
+class StageFactory;
+class StageToolBar;
+
+/// Brings the project format "kelpa" into the program: its factory and its tool bar.
+class StagePlugin : public ExtensionSystem::IPlugin
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StagePlugin)
+    Q_PLUGIN_METADATA(IID "com.ORVEN.Kelpa.Plugin" FILE "stage.json")
+
+public:
+    StagePlugin();
+    ~StagePlugin() override;
+
+    bool initialize(const QStringList &arguments, QString *errorString) override;
+
+private:
+    std::unique_ptr<StageFactory> m_pFactory;
+    QPointer<StageToolBar> m_pToolBar; ///< the main window's child
+};

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "stagetoolbar.h"
+
+#include "stageeditor.h"
+#include "stageview.h"
+
+#include <document/documentmanager.h>
+#include <document/editormanager.h>
+#include <document/idocument.h>
+#include <iui.h>
+#include <mainwindow.h>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QStatusBar>
+#include <QUndoGroup>
+
+#include <array>
+
+namespace {
+
+const QString s_coreImages = QStringLiteral(":/core/images/");
+const QString s_stageImages = QStringLiteral(":/stage/images/");
+
+struct FileAction
+{
+    const char *pText;
+    const char *pIcon;
+    const char *pShortcut;
+    void (MainWindow::*pSlot)();
+};
+constexpr std::array<FileAction, 3> fileActions = {{
+    {QT_TRANSLATE_NOOP("StageToolBar", "&New..."), "new", "Ctrl+N", &MainWindow::fileNew},
+    {QT_TRANSLATE_NOOP("StageToolBar", "&Open..."), "open", "Ctrl+O", &MainWindow::fileOpen},
+    {QT_TRANSLATE_NOOP("StageToolBar", "&Save"), "save", "Ctrl+S", &MainWindow::fileSave},
+}};
+
+struct ElementAction
+{
+    const char *pText;
+    const char *pIcon;
+    StageElement::Type type;
+    int nWidth;
+    int nHeight;
+    const char *pFill;
+};
+constexpr std::array<ElementAction, 4> elementActions = {{
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Rectangle"), "rectangle", StageElement::Type::Rectangle, 200,
+        120, "#5b8def"},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Ellipse"), "ellipse", StageElement::Type::Ellipse, 160, 160,
+        "#f2a65a"},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Text"), "text", StageElement::Type::Text, 240, 40, "#202020"},
+    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Image..."), "image", StageElement::Type::Image, 0, 0, ""},
+}};
+
+void setIcon(QAction *pAction, const char *pIcon, const QString &strFolder)
+{
+    pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, strFolder));
+}
+
+// Asks for a file and takes the image's own size, or one that fits when that is unknown or large.
+bool chooseImage(QWidget *pParent, StageElement &element)
+{
+    element.source = QFileDialog::getOpenFileName(pParent, StageToolBar::tr("Add Image"), QString(),
+        StageToolBar::tr("Images (*.svg *.png *.jpg *.jpeg *.gif)"));
+    if (element.source.isEmpty())
+        return false;
+    QSize size = QImageReader(element.source).size();
+    if (size.isEmpty())
+        size = {200, 200};
+    else if (size.width() > 600 || size.height() > 600)
+        size.scale(600, 600, Qt::KeepAspectRatio);
+    element.width = size.width();
+    element.height = size.height();
+    return true;
+}
+
+} // namespace
+
+StageToolBar::StageToolBar(MainWindow *pMainWindow)
+    : QToolBar(tr("Stage"), pMainWindow)
+{
+    setObjectName(QStringLiteral("StageToolBar"));
+    setAccessibleName(windowTitle());
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    addFileActions(pMainWindow);
+    addSeparator();
+    addUndoActions();
+    addSeparator();
+    addElementActions();
+    if (const EditorManager *pManager = EditorManager::getInstance()) {
+        connect(pManager, &EditorManager::editorActivated, this, &StageToolBar::setEditor);
+        connect(pManager, &EditorManager::editorDeactivated, this, [this] { setEditor(nullptr); });
+    }
+    setEditor(EditorManager::activeEditor());
+}
+
+StageToolBar::~StageToolBar() = default;
+
+void StageToolBar::addFileActions(MainWindow *pMainWindow)
+{
+    for (const FileAction &row : fileActions) {
+        QAction *pAction = addAction(tr(row.pText));
+        pAction->setShortcut(QKeySequence(QLatin1String(row.pShortcut)));
+        setIcon(pAction, row.pIcon, s_coreImages);
+        connect(pAction, &QAction::triggered, pMainWindow, row.pSlot);
+        m_pSave = pAction; // the last of them
+    }
+}
+
+void StageToolBar::addUndoActions()
+{
+    QUndoGroup *pGroup = DocumentManager::getUndoGroup();
+    if (!pGroup)
+        return;
+    QAction *pUndo = pGroup->createUndoAction(this, tr("&Undo"));
+    pUndo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Z")));
+    setIcon(pUndo, "undo", s_stageImages);
+    QAction *pRedo = pGroup->createRedoAction(this, tr("&Redo"));
+    pRedo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
+    setIcon(pRedo, "redo", s_stageImages);
+    addActions({pUndo, pRedo});
+}
+
+// The view itself takes the Delete key, so that it still deletes letters elsewhere.
+void StageToolBar::addElementActions()
+{
+    for (const ElementAction &row : elementActions) {
+        QAction *pAction = addAction(tr(row.pText));
+        setIcon(pAction, row.pIcon, s_stageImages);
+        connect(pAction, &QAction::triggered, this, [this, type = row.type] { addElement(type); });
+        m_addActions.append(pAction);
+    }
+    m_pDelete = addAction(tr("&Delete"));
+    m_pDelete->setToolTip(tr("Delete (Del)"));
+    setIcon(m_pDelete, "delete", s_stageImages);
+    connect(m_pDelete, &QAction::triggered, this, [this] {
+        auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
+        if (pEditor && pEditor->getView())
+            pEditor->getView()->deleteSelected();
+    });
+}
+
+void StageToolBar::setEditor(IEditor *pEditor)
+{
+    if (m_pEditor)
+        disconnect(m_pEditor, nullptr, this, nullptr);
+    m_pEditor = pEditor;
+    if (pEditor) {
+        connect(pEditor, &IEditor::documentModifyChanged, this, &StageToolBar::refresh);
+        connect(pEditor, &IEditor::documentLoaded, this, &StageToolBar::refresh);
+    }
+    if (auto *pStageEditor = qobject_cast<StageEditor *>(pEditor))
+        connect(pStageEditor, &StageEditor::selectionChanged, this, &StageToolBar::refresh);
+    refresh();
+}
+
+void StageToolBar::refresh()
+{
+    const IDocument *pDocument = m_pEditor ? m_pEditor->getDocument() : nullptr;
+    const auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
+    const StageView *pView = pEditor ? pEditor->getView() : nullptr;
+    m_pSave->setEnabled(pDocument && pDocument->isModified());
+    for (QAction *pAction : std::as_const(m_addActions))
+        pAction->setEnabled(pView);
+    m_pDelete->setEnabled(pView && !pView->selectedElements().isEmpty());
+}
+
+void StageToolBar::addElement(StageElement::Type type)
+{
+    const ElementAction &row = elementActions.at(static_cast<std::size_t>(type));
+    StageElement element;
+    element.type = type;
+    element.width = row.nWidth;
+    element.height = row.nHeight;
+    element.fill = QColor(QLatin1String(row.pFill));
+    element.text = type == StageElement::Type::Text ? tr("Text") : QString();
+    if (type == StageElement::Type::Image && !chooseImage(window(), element))
+        return;
+    // The dialog ran an event loop in which the editor may have gone.
+    const auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
+    if (pEditor && pEditor->getView() && !pEditor->getView()->addElement(element))
+        static_cast<MainWindow *>(window())->statusBar()->showMessage(
+            tr("The project holds as many elements as it can."));
+}

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// A program with nothing but the framework, for tests. It prints what it learns, and ends when all plug-ins
+// are up unless HOST_STAYS is set. HOST_WRITES writes a setting, HOST_DROPS_ROOT runs it as nobody.
+#include <extensionsystem/pluginmanager.h>
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+void print(const QString &strLine)
+{
+    std::printf("%s\n", qUtf8Printable(strLine));
+    std::fflush(stdout);
+}
+
+bool dropRoot()
+{
+#ifdef Q_OS_UNIX
+    return !qEnvironmentVariableIsSet("HOST_DROPS_ROOT") || geteuid() != 0
+        || (setgid(65534) == 0 && setuid(65534) == 0);
+#else
+    return true;
+#endif
+}
+
+void onInitializationDone()
+{
+    print(QStringLiteral("done ") + PluginManager::arguments().join(QLatin1Char(' ')));
+    if (PluginManager::settings())
+        print(
+            QStringLiteral("setting ")
+            + PluginManager::settings()->value(QStringLiteral("sea/level")).toString());
+    if (qEnvironmentVariableIsSet("HOST_WRITES"))
+        PluginManager::settings()->setValue(QStringLiteral("sea/level"), 7);
+    if (!qEnvironmentVariableIsSet("HOST_STAYS"))
+        QCoreApplication::quit();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (!dropRoot())
+        return 99;
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Host"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+    PluginManager manager;
+    QObject::connect(&manager, &PluginManager::initializationDone, onInitializationDone);
+    QObject::connect(
+        &manager, &PluginManager::settingsFailed, [](const QString &strFile, const QString &strReason) {
+            print(QStringLiteral("fault %1: %2").arg(strFile, strReason));
+        });
+    if (const auto exitCode = manager.start(QCoreApplication::arguments()))
+        return *exitCode;
+    const int nExitCode = QCoreApplication::exec();
+    manager.shutdown();
+    return nExitCode;
+}
