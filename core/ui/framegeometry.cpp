@@ -49,19 +49,17 @@ Rect maximizedRect(const Rect &proposed, const Rect &workArea, const Rect &monit
 Rect windowRegion(bool bMaximized, bool bComposition, const Rect &window, const Rect &client)
 {
     if (bMaximized) {
-        return {
-            client.nLeft - window.nLeft, client.nTop - window.nTop, client.nRight - window.nLeft,
+        return {client.nLeft - window.nLeft, client.nTop - window.nTop, client.nRight - window.nLeft,
             client.nBottom - window.nTop};
     }
-    return bComposition ? Rect{} : Rect{0, 0, s_nUnbounded, s_nUnbounded};
+    return bComposition ? Rect {} : Rect {0, 0, s_nUnbounded, s_nUnbounded};
 }
 
 RepaintStrips edgeRepaint(const QSize &oldSize, const QSize &newSize)
 {
     const QSize narrower = newSize.width() < oldSize.width() ? newSize : oldSize;
     const QSize lower = newSize.height() < oldSize.height() ? newSize : oldSize;
-    return {
-        {narrower.width() - 1, 0, narrower.width(), narrower.height()},
+    return {{narrower.width() - 1, 0, narrower.width(), narrower.height()},
         {0, lower.height() - 1, lower.width(), lower.height()}};
 }
 
@@ -72,8 +70,7 @@ QPoint messagePoint(qintptr nParam)
 
 QPoint logicalPoint(const QPoint &physical, double ratio)
 {
-    return {
-        static_cast<int>(std::lround(physical.x() / ratio)),
+    return {static_cast<int>(std::lround(physical.x() / ratio)),
         static_cast<int>(std::lround(physical.y() / ratio))};
 }
 

@@ -56,8 +56,8 @@ struct RepaintStrips
 
 /// The title bar is client area: what drags the window is found out with the button messages. `bResizable`
 /// is false for a maximised window and one of fixed size.
-[[nodiscard]] CORE_EXPORT Hit
-hitTest(const QPoint &point, const QSize &client, Borders borders, bool bResizable);
+[[nodiscard]] CORE_EXPORT Hit hitTest(
+    const QPoint &point, const QSize &client, Borders borders, bool bResizable);
 
 /// What a maximised window gets when the system proposes `proposed`: the work area instead of anything wider
 /// or higher, and instead of the whole monitor, so that a task bar stays visible.
@@ -65,8 +65,8 @@ hitTest(const QPoint &point, const QSize &client, Borders borders, bool bResizab
 
 /// The part of the window that shows, in window coordinates; all zero: all of it. A maximised window is
 /// clipped to its client area, because the rest hangs over the edges of the monitor.
-[[nodiscard]] CORE_EXPORT Rect
-windowRegion(bool bMaximized, bool bComposition, const Rect &window, const Rect &client);
+[[nodiscard]] CORE_EXPORT Rect windowRegion(
+    bool bMaximized, bool bComposition, const Rect &window, const Rect &client);
 
 /// Right column and bottom row of the narrower and the lower of two sizes, one pixel wide; of equal ones the
 /// old size counts.

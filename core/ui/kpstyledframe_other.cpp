@@ -118,7 +118,7 @@ const EdgeBehaviour *KPStyledFrameHelper::Private::Native::edgeAt(const QPoint &
     if (QApplication::activePopupWidget())
         return nullptr;
     const int nDPI = DisplayScale::logicalDpi(d.pWidget);
-    const FrameGeometry::Borders borders{
+    const FrameGeometry::Borders borders {
         DisplayScale::proportional(nDPI, s_nBorder), DisplayScale::proportional(nDPI, s_nCorner)};
     const bool bFills = d.pWidget->isMaximized() || d.pWidget->isFullScreen();
     const Hit hit = FrameGeometry::hitTest(point, d.pWidget->size(), borders, d.isResizable(bFills));

@@ -29,7 +29,7 @@ struct KPStyledFrameHelper::Private
     QWidget *const pWidget;
     bool bSetUp = false; // attempted
     bool bDisabled = false;
-    QColor borderColor{64, 64, 64, 255};
+    QColor borderColor {64, 64, 64, 255};
     qint32 nLogicalDpi; // vertical, at construction
 
     KPStyledFrameHelper *const pHelper;

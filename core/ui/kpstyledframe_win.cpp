@@ -94,7 +94,7 @@ void KPStyledFrameHelper::Private::Native::updateComposition()
     d.bComposition = isComposited();
     if (d.bComposition) {
         // One line of frame inside the client area is what makes the compositor draw the shadow.
-        const MARGINS margins{0, 0, 1, 0};
+        const MARGINS margins {0, 0, 1, 0};
         DwmExtendFrameIntoClientArea(window(), &margins);
         const DWMNCRENDERINGPOLICY policy = DWMNCRP_ENABLED;
         DwmSetWindowAttribute(window(), DWMWA_NCRENDERING_POLICY, &policy, sizeof policy);
@@ -104,7 +104,7 @@ void KPStyledFrameHelper::Private::Native::updateComposition()
 
 void KPStyledFrameHelper::Private::Native::updateRegion()
 {
-    WINDOWINFO info{};
+    WINDOWINFO info {};
     info.cbSize = sizeof info;
     const bool bMaximized = isMaximized();
     if (bMaximized)
@@ -117,13 +117,13 @@ void KPStyledFrameHelper::Private::Native::updateRegion()
         return;
     d.region = region;
     // The system takes the region over.
-    SetWindowRgn(window(), region == Rect{} ? nullptr : CreateRectRgnIndirect(&newRect), TRUE);
+    SetWindowRgn(window(), region == Rect {} ? nullptr : CreateRectRgnIndirect(&newRect), TRUE);
 }
 
 void KPStyledFrameHelper::Private::Native::fitMaximized(RECT *pRect) const
 {
     const HMONITOR hMonitor = MonitorFromWindow(window(), MONITOR_DEFAULTTOPRIMARY);
-    MONITORINFO info{};
+    MONITORINFO info {};
     info.cbSize = sizeof info;
     if (hMonitor && GetMonitorInfoW(hMonitor, &info)) {
         *pRect = toNative(FrameGeometry::maximizedRect(
@@ -134,7 +134,7 @@ void KPStyledFrameHelper::Private::Native::fitMaximized(RECT *pRect) const
 FrameGeometry::Hit KPStyledFrameHelper::Private::Native::hitTest(LPARAM lParam) const
 {
     const QPoint screen = FrameGeometry::messagePoint(lParam);
-    POINT point{screen.x(), screen.y()};
+    POINT point {screen.x(), screen.y()};
     ScreenToClient(window(), &point);
     const auto borders = FrameGeometry::borders(
         GetSystemMetrics(SM_CXPADDEDBORDER), GetSystemMetrics(SM_CXSIZEFRAME), GetSystemMetrics(SM_CXBORDER));
@@ -154,7 +154,7 @@ LRESULT KPStyledFrameHelper::Private::Native::defaultWithoutCaption(const MSG &m
 
 void KPStyledFrameHelper::Private::Native::followSize(const WINDOWPOS &position)
 {
-    RECT client{};
+    RECT client {};
     GetClientRect(window(), &client);
     const QSize oldSize(static_cast<int>(d.nClientWidth), static_cast<int>(d.nClientHeight));
     const QSize newSize(client.right - client.left, client.bottom - client.top);

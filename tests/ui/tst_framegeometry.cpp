@@ -32,7 +32,7 @@ private slots:
 
     void overlappingBandsGoToTheTopAndTheLeft()
     {
-        const Borders bands{8, 17};
+        const Borders bands {8, 17};
         QCOMPARE(hitTest({10, 4}, {20, 10}, bands, true), Hit::TopLeft);
         QCOMPARE(hitTest({10, 8}, {20, 10}, bands, true), Hit::BottomLeft);
         QCOMPARE(hitTest({17, 9}, {20, 10}, bands, true), Hit::BottomRight);
@@ -55,8 +55,8 @@ private slots:
 
     void regionClipsAMaximizedWindowAndSquaresAPlainOne()
     {
-        const Rect window{-8, -8, 1608, 968};
-        const Rect client{0, 0, 1600, 960};
+        const Rect window {-8, -8, 1608, 968};
+        const Rect client {0, 0, 1600, 960};
         for (const bool bComposition : {false, true})
             QCOMPARE(windowRegion(true, bComposition, window, client), Rect({8, 8, 1608, 968}));
         QCOMPARE(windowRegion(false, true, window, client), Rect());

@@ -34,8 +34,8 @@ QStringList moveTo(const QPoint &point)
     return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
 }
 
-const QStringList s_press{QStringLiteral("mousedown"), QStringLiteral("1")};
-const QStringList s_release{QStringLiteral("mouseup"), QStringLiteral("1")};
+const QStringList s_press {QStringLiteral("mousedown"), QStringLiteral("1")};
+const QStringList s_release {QStringLiteral("mouseup"), QStringLiteral("1")};
 const QRect s_start(300, 200, 400, 300);
 const QPoint s_right(399, 150);
 
@@ -61,7 +61,7 @@ private slots:
         QTest::addColumn<Qt::CursorShape>("cursor");
         QTest::addColumn<QMargins>("grown");
         const auto add = [](const char *pName, QPoint from, QPoint by, Qt::CursorShape cursor,
-                            QMargins grown) { QTest::newRow(pName) << from << by << cursor << grown; };
+                             QMargins grown) { QTest::newRow(pName) << from << by << cursor << grown; };
         add("the right edge moves right", {399, 150}, {60, 9}, Qt::SizeHorCursor, {0, 0, 60, 0});
         add("the left edge moves left", {1, 150}, {-60, 9}, Qt::SizeHorCursor, {60, 0, 0, 0});
         add("the top edge moves up", {200, 3}, {9, -50}, Qt::SizeVerCursor, {0, 50, 0, 0});
@@ -86,7 +86,7 @@ private slots:
 
     void contentInsideTheEdgeGetsItsClicks()
     {
-        const QList<QPoint> points{{4, 150}, {395, 150}, {200, 4}, {200, 295}};
+        const QList<QPoint> points {{4, 150}, {395, 150}, {200, 4}, {200, 295}};
         for (const QPoint &point : points)
             QVERIFY(click(point));
         QTRY_COMPARE(m_pContent->presses, points);
@@ -150,7 +150,7 @@ private slots:
 
     void otherButtonsLeaveTheEdgeAlone()
     {
-        const QStringList rightClick{QStringLiteral("click"), QStringLiteral("3")};
+        const QStringList rightClick {QStringLiteral("click"), QStringLiteral("3")};
         QVERIFY(xdotool(moveTo(s_start.topLeft() + s_right) + rightClick));
         QTRY_COMPARE(m_pContent->presses, QList<QPoint>({s_right}));
     }

@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    QSettings m_registry{
+    QSettings m_registry {
         QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ThemeManager"),
         QSettings::NativeFormat};
     QVariantMap m_values;
@@ -106,7 +106,7 @@ Borders systemBorders()
 
 Rect monitorRect(Rect *pWorkArea)
 {
-    MONITORINFO info{};
+    MONITORINFO info {};
     info.cbSize = sizeof info;
     GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &info);
     *pWorkArea = fromNative(info.rcWork);
@@ -176,7 +176,7 @@ private slots:
         maximize();
         for (const HitRow &r : s_hits)
             QCOMPARE(hitAt(r.x, r.y), HTCLIENT);
-        RECT client{};
+        RECT client {};
         GetClientRect(hWnd(), &client);
         MapWindowPoints(hWnd(), nullptr, reinterpret_cast<POINT *>(&client), 2);
         QCOMPARE(fromNative(client), s_workArea);
@@ -184,19 +184,18 @@ private slots:
 
     void maximizedRectangles_data()
     {
-        addRows(s_maximized, [](const MaximizedRow &r) {
-            return r.monitor == s_monitor && r.workArea == s_workArea;
-        });
+        addRows(s_maximized,
+            [](const MaximizedRow &r) { return r.monitor == s_monitor && r.workArea == s_workArea; });
     }
     void maximizedRectangles()
     {
         const MaximizedRow &r = row(s_maximized);
-        RECT rect{r.proposed.nLeft, r.proposed.nTop, r.proposed.nRight, r.proposed.nBottom};
+        RECT rect {r.proposed.nLeft, r.proposed.nTop, r.proposed.nRight, r.proposed.nBottom};
         QCOMPARE(SendMessageW(hWnd(), WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&rect)), 0);
         QCOMPARE(fromNative(rect), r.proposed);
 
         maximize();
-        NCCALCSIZE_PARAMS params{};
+        NCCALCSIZE_PARAMS params {};
         params.rgrc[0] = rect;
         QCOMPARE(SendMessageW(hWnd(), WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params)), 0);
         QCOMPARE(fromNative(params.rgrc[0]), r.expected);
@@ -233,7 +232,7 @@ private slots:
     {
         const UINT nStay = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
         SetWindowLongW(hWnd(), GWL_STYLE, GetWindowLongW(hWnd(), GWL_STYLE) | WS_MAXIMIZE);
-        WINDOWPOS position{hWnd(), nullptr, 0, 0, 0, 0, nStay};
+        WINDOWPOS position {hWnd(), nullptr, 0, 0, 0, 0, nStay};
         SendMessageW(hWnd(), WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
         QCOMPARE(region(), Rect({0, 0, 32767, 32767}));
         position.flags |= SWP_FRAMECHANGED;
@@ -340,7 +339,7 @@ private slots:
             SetWindowTextW(hWnd(), reinterpret_cast<const wchar_t *>(strText.utf16()));
             QCOMPARE(lastAnswer(WM_SETTEXT).bHandled, !bTheme);
             QCOMPARE(answerTo(WM_SETICON, ICON_SMALL, 0).bHandled, !bTheme);
-            wchar_t text[64]{};
+            wchar_t text[64] {};
             GetWindowTextW(hWnd(), text, 64);
             QCOMPARE(QString::fromWCharArray(text), strText);
             QVERIFY(IsWindowVisible(hWnd()));
@@ -349,7 +348,7 @@ private slots:
 
     void messagesFromElsewhereAreLeftAlone()
     {
-        MSG message{hWnd(), WM_NCHITTEST, 0, 0, 0, {}};
+        MSG message {hWnd(), WM_NCHITTEST, 0, 0, 0, {}};
         qintptr nResult = 0;
         QVERIFY(!m_pFrame->nativeEvent("windows_dispatcher_MSG", &message, &nResult));
         QVERIFY(m_pFrame->nativeEvent("windows_generic_MSG", &message, &nResult));
@@ -383,7 +382,7 @@ private:
 
     [[nodiscard]] QSize clientSize() const
     {
-        RECT client{};
+        RECT client {};
         GetClientRect(hWnd(), &client);
         return {client.right, client.bottom};
     }
@@ -392,7 +391,7 @@ private:
     {
         const QSize size = clientSize();
         const Borders bands = systemBorders();
-        POINT point{coordinate(x, size.width(), bands), coordinate(y, size.height(), bands)};
+        POINT point {coordinate(x, size.width(), bands), coordinate(y, size.height(), bands)};
         ClientToScreen(hWnd(), &point);
         return SendMessageW(hWnd(), WM_NCHITTEST, 0, toParam({point.x, point.y}));
     }
@@ -409,8 +408,8 @@ private:
 
     [[nodiscard]] Rect region() const
     {
-        RECT box{};
-        return GetWindowRgnBox(hWnd(), &box) == SIMPLEREGION ? fromNative(box) : Rect{};
+        RECT box {};
+        return GetWindowRgnBox(hWnd(), &box) == SIMPLEREGION ? fromNative(box) : Rect {};
     }
 
     static bool isSetUp(WId window)
