@@ -73,6 +73,7 @@ MainWindow::MainWindow(QWidget *pParent)
     createManagers();
     createMdiArea();
     createTitleBar();
+    initActions();
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
 }

@@ -130,6 +130,7 @@ private:
     void createManagers();
     void createMdiArea();
     void createTitleBar();
+    void initActions();
     bool closeDocuments(const QList<QPointer<IDocument>> &documents);
     [[nodiscard]] static IDocumentFactory *selectDocumentFactory();
     bool createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICreateDocumentDlg *pDialog);

@@ -7,7 +7,8 @@ kelpa_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 kelpa_say() { printf '%s\n' "$@" >&2; }
 kelpa_fail() { kelpa_say "$@"; exit 1; }
 
-kelpa_packages() { sed 's/#.*//' "$kelpa_root/packages.txt" | xargs -n 1; }
+kelpa_package_lists=("$kelpa_root/packages.txt")
+kelpa_packages() { sed 's/#.*//' "${kelpa_package_lists[@]}" | xargs -n 1; }
 
 # The packages of the list that are not installed.
 kelpa_missing_packages()

@@ -1,22 +1,47 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kpstyledframe.h"
 
-struct KPStyledFrameHelper::Private
-{
-    QWidget *pWidget;
-};
+#include "ui/kpstyledframe_p.h"
 
 KPStyledFrameHelper::KPStyledFrameHelper(QWidget *pWidget)
-    : d(new Private {pWidget})
+    : d(new Private(this, pWidget))
 {
 }
 
 KPStyledFrameHelper::~KPStyledFrameHelper() = default;
 
+void KPStyledFrameHelper::setUpNativeWindow()
+{
+    if (!d->bSetUp && !d->bDisabled)
+        d->setUp();
+}
+
+// What the record says of the old window does not hold for the new one.
+void KPStyledFrameHelper::nativeWindowChanged()
+{
+    d->pWindow = nullptr;
+    d->region = {};
+    d->nClientWidth = 0;
+    d->nClientHeight = 0;
+    d->bSetUp = false;
+    if (d->pWidget->internalWinId())
+        setUpNativeWindow();
+}
+
 bool KPStyledFrameHelper::handleNativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult)
 {
-    Q_UNUSED(eventType)
-    Q_UNUSED(pMessage)
-    Q_UNUSED(pResult)
-    return false;
+    if (d->pWidget->internalWinId())
+        setUpNativeWindow();
+    return eventType == "windows_generic_MSG" && !d->bDisabled && d->pWindow
+        && d->handleMessage(pMessage, pResult);
+}
+
+bool KPStyledFrameHelper::Private::isTitleBar(const QPoint &point) const
+{
+    return pHelper->isStyledFrameTitleBar(point.x(), point.y());
+}
+
+bool KPStyledFrameHelper::Private::isResizable(bool bMaximized) const
+{
+    return !bMaximized && !pWidget->windowFlags().testFlag(Qt::MSWindowsFixedSizeDialogHint);
 }

@@ -4,12 +4,15 @@
 #include <core_global.h>
 
 #include <QByteArray>
+#include <QEvent>
 #include <QWidget>
 
 #include <memory>
 
-/// The native half of a frameless window: it looks at the window's native messages. The frame owns it as a
-/// second base, so both live equally long. GUI thread only.
+/// The native half of a frameless window. On Windows it answers the window's native messages, so that the
+/// window is resized, dragged, maximised and given a shadow like a framed one; elsewhere the edges start the
+/// window system's resize, and on Wayland the title bar its move. The frame owns it as a second base, so both
+/// live equally long. GUI thread only.
 class CORE_EXPORT KPStyledFrameHelper
 {
 public:
@@ -19,6 +22,12 @@ public:
 protected:
     /// Whether the point, in logical client coordinates, lies on a part of the window that drags it.
     [[nodiscard]] virtual bool isStyledFrameTitleBar(int x, int y) const = 0;
+
+    /// Prepares the native window; on Windows this makes it. Does nothing when it is prepared already.
+    void setUpNativeWindow();
+
+    /// To be called when the widget has got another native window or lost the one it had.
+    void nativeWindowChanged();
 
     /// True: the message was handled and `pResult` holds the answer.
     bool handleNativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult);
@@ -30,7 +39,8 @@ private:
     const std::unique_ptr<Private> d;
 };
 
-/// A top-level widget without the system's frame.
+/// A top-level widget without the system's frame. A derived class that overrides event() or nativeEvent()
+/// calls these.
 template <typename Base>
 class KPStyledFrame : public Base, public KPStyledFrameHelper
 {
@@ -39,9 +49,18 @@ public:
         : Base(pParent, flags | Qt::FramelessWindowHint)
         , KPStyledFrameHelper(this)
     {
+        setUpNativeWindow();
     }
 
 protected:
+    // Setting the window flags, for one, replaces the native window.
+    bool event(QEvent *pEvent) override
+    {
+        if (pEvent->type() == QEvent::WinIdChange)
+            nativeWindowChanged();
+        return Base::event(pEvent);
+    }
+
     bool nativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult) override
     {
         return handleNativeEvent(eventType, pMessage, pResult)

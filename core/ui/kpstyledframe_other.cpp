@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "ui/kpstyledframe_p.h"
+
+#include "displayscale.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QWindow>
+
+#include <algorithm>
+#include <iterator>
+
+using FrameGeometry::Hit;
+
+namespace {
+
+struct EdgeBehaviour
+{
+    Hit hit;
+    Qt::Edges edges;
+    Qt::CursorShape cursor;
+};
+
+constexpr EdgeBehaviour s_edges[] = {
+    {Hit::Left, Qt::LeftEdge, Qt::SizeHorCursor},
+    {Hit::Right, Qt::RightEdge, Qt::SizeHorCursor},
+    {Hit::Top, Qt::TopEdge, Qt::SizeVerCursor},
+    {Hit::Bottom, Qt::BottomEdge, Qt::SizeVerCursor},
+    {Hit::TopLeft, Qt::TopEdge | Qt::LeftEdge, Qt::SizeFDiagCursor},
+    {Hit::BottomRight, Qt::BottomEdge | Qt::RightEdge, Qt::SizeFDiagCursor},
+    {Hit::TopRight, Qt::TopEdge | Qt::RightEdge, Qt::SizeBDiagCursor},
+    {Hit::BottomLeft, Qt::BottomEdge | Qt::LeftEdge, Qt::SizeBDiagCursor},
+};
+
+// Pixels at 100 percent: narrow enough to leave a scroll bar at the edge usable.
+constexpr int s_nBorder = 4;
+constexpr int s_nCorner = 16;
+
+bool isWayland()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+} // namespace
+
+/// Sees the mouse before the widgets do: events go to the native window first. A child with a native window
+/// of its own keeps its events, because the resize would start from the wrong point; there the margin is the
+/// edge.
+struct KPStyledFrameHelper::Private::Native : public QObject
+{
+    explicit Native(Private &record)
+        : d(record)
+    {
+        qApp->installEventFilter(this);
+    }
+    ~Native() override { showCursor(nullptr); }
+
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
+    bool press(const QMouseEvent &event);
+    bool move(const QMouseEvent &event);
+    void showCursor(const EdgeBehaviour *pEdge);
+    [[nodiscard]] const EdgeBehaviour *edgeAt(const QPoint &point) const;
+
+    Private &d;
+    const EdgeBehaviour *pShown = nullptr; // whose cursor overrides the widgets'
+    QPoint pressPoint;
+    bool bTitlePressed = false;
+};
+
+KPStyledFrameHelper::Private::Private(KPStyledFrameHelper *pOwner, QWidget *pFrame)
+    : pWidget(pFrame)
+    , nLogicalDpi(pFrame->logicalDpiY())
+    , pHelper(pOwner)
+    , pNative(new Native(*this))
+{
+}
+
+KPStyledFrameHelper::Private::~Private() = default;
+
+void KPStyledFrameHelper::Private::setUp()
+{
+    bSetUp = true;
+}
+
+bool KPStyledFrameHelper::Private::handleMessage(void *pMessage, qintptr *pResult)
+{
+    Q_UNUSED(pMessage)
+    Q_UNUSED(pResult)
+    return false;
+}
+
+bool KPStyledFrameHelper::Private::Native::eventFilter(QObject *pWatched, QEvent *pEvent)
+{
+    if (!pWatched->isWindowType() || pWatched != d.pWidget->windowHandle())
+        return false;
+    switch (pEvent->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return press(*static_cast<QMouseEvent *>(pEvent));
+    case QEvent::MouseMove:
+        return move(*static_cast<QMouseEvent *>(pEvent));
+    case QEvent::MouseButtonRelease:
+        bTitlePressed = false;
+        return false;
+    case QEvent::Leave:
+    case QEvent::Hide:
+        showCursor(nullptr);
+        return false;
+    default:
+        return false;
+    }
+}
+
+// Null while a menu is open: the press that closes it is not for the edge.
+const EdgeBehaviour *KPStyledFrameHelper::Private::Native::edgeAt(const QPoint &point) const
+{
+    if (QApplication::activePopupWidget())
+        return nullptr;
+    const int nDPI = DisplayScale::logicalDpi(d.pWidget);
+    const FrameGeometry::Borders borders {
+        DisplayScale::proportional(nDPI, s_nBorder), DisplayScale::proportional(nDPI, s_nCorner)};
+    const bool bFills = d.pWidget->isMaximized() || d.pWidget->isFullScreen();
+    const Hit hit = FrameGeometry::hitTest(point, d.pWidget->size(), borders, d.isResizable(bFills));
+    const auto *pEdge = std::find_if(
+        std::begin(s_edges), std::end(s_edges), [hit](const EdgeBehaviour &edge) { return edge.hit == hit; });
+    return pEdge == std::end(s_edges) ? nullptr : pEdge;
+}
+
+// A system without resizing or moving says no, and the widgets get the press as usual.
+bool KPStyledFrameHelper::Private::Native::press(const QMouseEvent &event)
+{
+    bTitlePressed = false;
+    if (event.button() != Qt::LeftButton)
+        return false;
+    const QPoint point = d.pWidget->mapFromGlobal(event.globalPosition().toPoint());
+    if (const EdgeBehaviour *pEdge = edgeAt(point))
+        return d.pWidget->windowHandle()->startSystemResize(pEdge->edges);
+    // A double click stays with the title bar.
+    bTitlePressed = isWayland() && event.type() == QEvent::MouseButtonPress
+        && !QApplication::activePopupWidget() && d.isTitleBar(point);
+    pressPoint = point;
+    return bTitlePressed;
+}
+
+bool KPStyledFrameHelper::Private::Native::move(const QMouseEvent &event)
+{
+    const QPoint point = d.pWidget->mapFromGlobal(event.globalPosition().toPoint());
+    if (event.buttons() == Qt::NoButton) {
+        bTitlePressed = false;
+        showCursor(edgeAt(point));
+    }
+    if (bTitlePressed
+        && (point - pressPoint).manhattanLength() >= QGuiApplication::styleHints()->startDragDistance())
+        bTitlePressed = !d.pWidget->windowHandle()->startSystemMove();
+    return bTitlePressed;
+}
+
+// An override, because the widgets under the edge set the window's own cursor as the pointer comes to them.
+void KPStyledFrameHelper::Private::Native::showCursor(const EdgeBehaviour *pEdge)
+{
+    if (pEdge == pShown)
+        return;
+    if (pShown)
+        QGuiApplication::restoreOverrideCursor();
+    if (pEdge)
+        QGuiApplication::setOverrideCursor(pEdge->cursor);
+    pShown = pEdge;
+}
