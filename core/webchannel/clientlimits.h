@@ -10,6 +10,10 @@ namespace ClientLimits {
 /// For a socket just taken from its server, before it works off anything.
 void apply(const QWebSocketServer &server, QWebSocket *pSocket);
 
+/// The socket takes in nothing more between the two.
+void pause(QWebSocket *pSocket);
+void resume(QWebSocket *pSocket);
+
 /// Cuts off a client that has left more unread than it may: logged, and disconnected() follows at once.
 void dropIfUnread(QWebSocket *pSocket);
 

@@ -18,6 +18,7 @@ namespace ClientPolicy {
 /// Bounds of one client, in bytes unless the name says otherwise.
 constexpr int MessageSize = 16 * 1024 * 1024;
 constexpr int ReceiveBufferSize = 256 * 1024;
+constexpr int ReadSize = 64 * 1024;
 constexpr qint64 UnsentSize = 64 * 1024 * 1024;
 constexpr int CharactersParsedAtOnce = 1024 * 1024;
 constexpr int LoggedCharacters = 1000;

@@ -50,10 +50,10 @@ WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
     return result;
 }
 
-// With a full read buffer the socket takes in nothing more, so that what waits here stays little.
+// The socket pauses, so that what waits here stays little.
 void WebSocketTransport::parseWaiting()
 {
-    m_socket->setReadBufferSize(1);
+    ClientLimits::pause(m_socket);
     auto promise = std::make_shared<QPromise<Parsed>>();
     promise->start();
     m_parsing.setFuture(promise->future());
@@ -69,7 +69,7 @@ void WebSocketTransport::onParsed()
     const QString strMessage = m_waiting.dequeue();
     const Parsed parsed = m_parsing.result();
     if (m_waiting.isEmpty())
-        m_socket->setReadBufferSize(0);
+        ClientLimits::resume(m_socket);
     else
         parseWaiting();
     handle(strMessage, parsed);
