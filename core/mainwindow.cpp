@@ -42,7 +42,7 @@ const QString s_tempFolder = QStringLiteral("%1-%2").arg(QStringLiteral("ORVEN")
 bool removeRecursively(const QString &strPath)
 {
     const QDir dir(strPath);
-    if (!dir.exists())
+    if (QFileInfo(strPath).isSymLink() || !dir.exists())
         return false;
     const auto entries = dir.entryInfoList(
         QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::DirsFirst);
@@ -73,7 +73,6 @@ MainWindow::MainWindow(QWidget *pParent)
     createManagers();
     createMdiArea();
     createTitleBar();
-    initActions();
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
 }
@@ -166,6 +165,7 @@ bool MainWindow::init(QString *pErrorString)
 
 void MainWindow::extensionsInitialized()
 {
+    initActions();
     show();
     if (IsFirstRun())
         setWindowState(Qt::WindowMaximized);

@@ -18,7 +18,9 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMimeData>
+#include <QPointer>
 #include <QUndoGroup>
+#include <QUndoStack>
 #include <QUrl>
 
 using ExtensionSystem::PluginManager;
@@ -78,7 +80,10 @@ bool isProjectFile(const QString &strPath)
 
 void makeStackActive(IDocument *pDoc)
 {
-    DocumentManager::getUndoGroup()->setActiveStack(pDoc->getUndoStack());
+    QUndoStack *pStack = pDoc->getUndoStack();
+    if (pStack)
+        DocumentManager::getUndoGroup()->addStack(pStack);
+    DocumentManager::getUndoGroup()->setActiveStack(pStack);
 }
 
 void startBackup(IDocument *pDoc)
@@ -213,14 +218,15 @@ void MainWindow::fileSave()
         pDoc->save();
 }
 
+// Dialogs run inside these two, and whatever happens meanwhile may take the document away.
 void MainWindow::fileSaveAs()
 {
-    IDocument *pDoc = activeDocument();
+    const QPointer<IDocument> pDoc = activeDocument();
     if (!pDoc)
         return;
     const QString strOldName = pDoc->getFileName();
     const bool bWasTemp = pDoc->isTempDocument();
-    if (!pDoc->saveAs())
+    if (!pDoc->saveAs() || !pDoc)
         return;
     if (bWasTemp)
         IRecentFilesManager::getInstance()->removeFile(strOldName);
@@ -229,8 +235,8 @@ void MainWindow::fileSaveAs()
 
 void MainWindow::fileClose()
 {
-    IDocument *pDoc = activeDocument();
-    if (pDoc && pDoc->close())
+    const QPointer<IDocument> pDoc = activeDocument();
+    if (pDoc && pDoc->close() && pDoc)
         emit pDoc->requestClosing(true);
 }
 
@@ -239,19 +245,20 @@ void MainWindow::fileExit()
     close();
 }
 
+// Listeners of the registries may delete either of the two themselves.
 void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
 {
-    auto *pDoc = qobject_cast<IDocument *>(sender());
+    const QPointer<IDocument> pDoc = qobject_cast<IDocument *>(sender());
     if (!pDoc)
         return;
-    IEditor *pEditor = EditorManager::getEditorOfDocument(pDoc);
+    const QPointer<IEditor> pEditor = EditorManager::getEditorOfDocument(pDoc);
     EditorManager::removeEditor(pEditor);
     DocumentManager::removeDocument(pDoc);
     if (pEditor && bDeleteLater)
         pEditor->deleteLater();
     else
         delete pEditor;
-    if (pDoc->isTempDocument())
+    if (pDoc && pDoc->isTempDocument())
         pDoc->cleanTempDir();
     delete pDoc;
     emit updateWindowFilePath(QString());

@@ -116,11 +116,12 @@ void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pComm
 {
     const QString strId = pCommand->getId();
     const auto overrides = pCommand->m_overrides;
-    const QPointer<ContextAction> pWatched(pCommand);
     pCommand->removeOverrideAction(pAction);
     for (const auto &entry : overrides) {
+        // The registry decides: a listener may have dropped the command and registered the id again.
+        const ContextAction *pNow = m_actions.value(strId);
         const auto it = m_idsOf.find(entry.pContext);
-        if (it == m_idsOf.end() || (pWatched && pWatched->overrideOf(entry.pContext)))
+        if (it == m_idsOf.end() || (pNow && pNow->overrideOf(entry.pContext)))
             continue;
         it->erase(strId);
         if (it->empty())

@@ -190,7 +190,7 @@ QList<ShortcutInfo> Shortcuts::conflicts()
 bool Shortcuts::reset(const QString &strId)
 {
     ContextAction *pCommand = ActionManager::getAction(strId);
-    if (!pCommand)
+    if (!pCommand || pCommand->isSeparator())
         return false;
     pCommand->setKeySequence(pCommand->getDefaultKeySequence());
     return true;
@@ -229,9 +229,10 @@ bool Shortcuts::importFrom(const QString &strFileName, QString &strError)
         return false;
     }
     for (auto it = texts->cbegin(); it != texts->cend(); ++it) {
-        if (ContextAction *pCommand = ActionManager::getAction(it.key()))
+        ContextAction *pCommand = ActionManager::getAction(it.key());
+        if (pCommand && !pCommand->isSeparator())
             pCommand->setKeySequence(QKeySequence::fromString(it.value(), QKeySequence::PortableText));
-        else
+        else if (!pCommand)
             storeAbsent(it.key(), it.value());
     }
     ActionManager::saveSettings();

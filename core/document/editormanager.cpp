@@ -3,6 +3,8 @@
 
 #include "document/ieditor.h"
 
+#include <QPointer>
+
 #include <algorithm>
 
 namespace {
@@ -46,11 +48,15 @@ void EditorManager::activateEditor(IEditor *pEditor)
 {
     if (!s_pInstance || pEditor == s_pInstance->m_pActiveEditor)
         return;
-    if (IEditor *pOld = s_pInstance->m_pActiveEditor) {
+    // Slots may delete either editor; one that is gone was taken out by its own destruction.
+    const QPointer<IEditor> pNew = pEditor;
+    if (const QPointer<IEditor> pOld = s_pInstance->m_pActiveEditor) {
         emit pOld->aboutToDeactivate();
-        emit s_pInstance->editorDeactivated(pOld);
+        if (pOld)
+            emit s_pInstance->editorDeactivated(pOld);
     }
-    s_pInstance->setActive(pEditor);
+    if (!pEditor || pNew)
+        s_pInstance->setActive(pEditor);
 }
 
 IEditor *EditorManager::activeEditor()
@@ -79,25 +85,34 @@ void EditorManager::setActive(IEditor *pEditor)
         return;
     // An editor may be active without being listed, and it may be deleted all the same.
     connect(pEditor, &QObject::destroyed, this, &EditorManager::editorDestroyed, Qt::UniqueConnection);
+    const QPointer<IEditor> pWatched = pEditor;
     emit pEditor->aboutToActivate();
-    emit editorActivated(pEditor);
+    if (pWatched)
+        emit editorActivated(pEditor);
 }
 
+// What a slot did meanwhile stands: it may have taken the editor out, or activated another.
 void EditorManager::deactivateAndTake(IEditor *pEditor, bool bAlive)
 {
     const bool bWasActive = pEditor == m_pActiveEditor;
     if (bWasActive) {
+        const QPointer<IEditor> pWatched = bAlive ? pEditor : nullptr;
         if (bAlive)
             emit pEditor->aboutToDeactivate();
         else
             m_pActiveEditor = nullptr;
-        emit editorDeactivated(pEditor);
+        if (!bAlive || pWatched)
+            emit editorDeactivated(pEditor);
         if (m_pActiveEditor == pEditor)
             m_pActiveEditor = nullptr;
+        if (bAlive && !pWatched)
+            return;
     }
     const auto nIndex = m_editors.indexOf(pEditor);
+    if (nIndex < 0)
+        return;
     IEditor *pSuccessor = m_editors.value(nIndex + 1, m_editors.value(nIndex - 1));
-    m_editors.removeOne(pEditor);
+    m_editors.removeAt(nIndex);
     if (bAlive)
         disconnect(pEditor, &QObject::destroyed, this, &EditorManager::editorDestroyed);
     if (bWasActive && pSuccessor && !m_pActiveEditor)

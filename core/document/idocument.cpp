@@ -37,12 +37,17 @@ bool IDocument::open()
     return true;
 }
 
+// Boxes and save dialogs run event loops in which the document may be closed for good: it is watched, and
+// nothing of it is touched once it is gone.
 bool IDocument::close()
 {
+    const QPointer<IDocument> pThis = this;
     if (isModified()) {
         const auto answer = IUi::question(nullptr, s_title,
             tr("Save changes made to %1?").arg(QFileInfo(m_strFileName).completeBaseName()),
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+        if (!pThis)
+            return false;
         if (answer == QMessageBox::No) {
             if (isTempDocument())
                 IRecentFilesManager::getInstance()->removeFile(m_strFileName);
@@ -58,8 +63,11 @@ bool IDocument::saveBeforeClose()
 {
     if (isTempDocument())
         return saveTempBeforeClose();
+    const QPointer<IDocument> pThis = this;
     if (save())
-        return true;
+        return !pThis.isNull();
+    if (!pThis)
+        return false;
     IUi::information(nullptr, s_title,
         tr("Could not save project %1.").arg(QFileInfo(m_strFileName).completeBaseName()), QMessageBox::Ok,
         QMessageBox::Ok);
@@ -68,8 +76,9 @@ bool IDocument::saveBeforeClose()
 
 bool IDocument::saveTempBeforeClose()
 {
+    const QPointer<IDocument> pThis = this;
     const QString strOldName = m_strFileName;
-    if (!saveAs())
+    if (!saveAs() || !pThis)
         return false;
     IRecentFilesManager::getInstance()->removeFile(strOldName);
     IRecentFilesManager::getInstance()->addFile(m_strFileName);

@@ -257,7 +257,8 @@ void IMainMenuWidget::dressButton(const char *pName, const QString &strToolTip, 
     pButton->setAccessibleName(strToolTip);
     pButton->setIcon(IUi::getIcon(strIcon, 2));
     pButton->setIconSize({nIcon, nIcon});
-    pButton->setFixedSize(menuTitleHeight(), menuTitleHeight());
+    if (m_pMenuBar)
+        pButton->setFixedSize(menuTitleHeight(), menuTitleHeight());
 }
 
 void IMainMenuWidget::onDPIChanged()

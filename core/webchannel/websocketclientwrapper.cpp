@@ -16,7 +16,7 @@ std::optional<QByteArray> originOf(const QWebSocket &socket)
 {
     const QByteArray first = socket.origin().toLatin1();
     const QByteArray last = socket.request().rawHeader("Origin");
-    if (first.isEmpty() && last.isEmpty())
+    if (first.isEmpty() && !socket.request().hasRawHeader("Origin"))
         return std::nullopt;
     return first == last ? first : first + ", " + last;
 }

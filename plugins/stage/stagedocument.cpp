@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPointer>
 #include <QUndoStack>
 
 Q_LOGGING_CATEGORY(lcStage, "kelpa.stage")
@@ -109,9 +110,12 @@ bool StageDocument::read(const QString &strAction)
 
 bool StageDocument::close()
 {
+    // What listens to the closing may delete the document at once.
+    const QPointer<StageDocument> pThis = this;
     if (!IDocument::close())
         return false;
-    removeBackup();
+    if (pThis)
+        removeBackup();
     return true;
 }
 
