@@ -135,11 +135,12 @@ void StageToolBar::addElementActions()
 void StageToolBar::loadIcons()
 {
     const auto load = [](QAction *pAction, const char *pIcon) {
-        if (pAction)
-            pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, s_stageImages));
+        pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, s_stageImages));
     };
-    load(m_pUndo, "undo");
-    load(m_pRedo, "redo");
+    for (const auto &[strId, pIcon] : {std::pair {s_undo, "undo"}, std::pair {s_redo, "redo"}}) {
+        if (const ContextAction *pCommand = ActionManager::getAction(strId))
+            load(pCommand->getAction(), pIcon);
+    }
     for (int i = 0; i < static_cast<int>(elementActions.size()); ++i)
         load(m_addActions.at(i), elementActions.at(static_cast<std::size_t>(i)).pIcon);
     load(m_pDelete, "delete");
