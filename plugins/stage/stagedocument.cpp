@@ -63,10 +63,8 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
         IUi::information(nullptr, s_title,
             tr("Could not create project %1.\nA stage of %2 by %3 pixels with %4 frames per second is not "
                "possible.")
-                .arg(QDir::toNativeSeparators(getFileName()))
-                .arg(nFirst)
-                .arg(nSecond)
-                .arg(nThird));
+                .arg(QDir::toNativeSeparators(getFileName()), QString::number(nFirst),
+                    QString::number(nSecond), QString::number(nThird)));
         return false;
     }
     StageProject project;

@@ -291,7 +291,8 @@ void StageView::describeSelection()
     QString strText = tr("%n element(s) selected", nullptr, static_cast<int>(selected.size()));
     if (selected.size() == 1) {
         const StageElement &element = m_items.at(selected.first())->element();
-        strText = tr("%1 selected, at %2, %3").arg(element.id).arg(element.x).arg(element.y);
+        strText = tr("%1 selected, at %2, %3")
+                      .arg(element.id, QString::number(element.x), QString::number(element.y));
     }
     setAccessibleDescription(strText);
     emit elementSelectionChanged();
