@@ -56,6 +56,7 @@ StageView::StageView(IDocument *pDocument, StageModel *pModel, QWidget *pParent)
     setDragMode(RubberBandDrag);
     setTransformationAnchor(AnchorUnderMouse);
     setBackgroundBrush(deskColor);
+    setAcceptDrops(false); // a project dropped on the stage is for the main window
     connect(pModel, &StageModel::reset, this, &StageView::rebuild);
     connect(pModel, &StageModel::elementInserted, this, &StageView::insertItem);
     connect(pModel, &StageModel::elementRemoved, this, &StageView::removeItem);
