@@ -267,6 +267,8 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
         pDoc->cleanTempDir();
     delete pDoc;
     emit updateWindowFilePath(QString());
+    if (!EditorManager::activeEditor())
+        emit updateModified(false);
     updateWelcomeWidget();
     updateSaveAsMenu();
 }
