@@ -269,6 +269,7 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
     emit updateWindowFilePath(QString());
     if (!EditorManager::activeEditor())
         emit updateModified(false);
+    updateRecentFileActions(); // a document without a file took itself out of the list
     updateWelcomeWidget();
     updateSaveAsMenu();
 }
