@@ -196,7 +196,9 @@ void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
     connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
     EditorManager::activateEditor(pEditor);
     emit pDoc->aboutToOpen();
-    pDoc->save();
+    // The history alone would tell that there is nothing to save.
+    if (!pDoc->save())
+        enableCommand("File.Save", true);
     startBackup(pDoc);
 }
 

@@ -46,11 +46,6 @@ StageDocument::StageDocument()
 
 StageDocument::~StageDocument() = default;
 
-bool StageDocument::isModified() const
-{
-    return m_bNeverSaved || IDocument::isModified();
-}
-
 void StageDocument::cleanTempDir()
 {
     removeBackup();
@@ -73,7 +68,7 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
     project.frameRate = nThird;
     project.responsive = bFlag;
     project.scenes.append(StageScene {tr("Scene 1"), {}, {}});
-    m_bNeverSaved = true;
+    getUndoStack()->resetClean(); // nothing of it is on disk
     m_pModel->setProject(project);
     return true;
 }
@@ -160,7 +155,6 @@ bool StageDocument::saveAsOwn(const QString &strFileName)
         return false;
     const bool bStackTells = !getUndoStack()->isClean();
     removeBackup();
-    m_bNeverSaved = false;
     setIsTempDocument(false);
     setFileName(strFileName);
     getUndoStack()->setClean();
