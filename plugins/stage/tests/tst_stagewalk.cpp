@@ -2,20 +2,13 @@
 // A long random walk through all that an author can do with projects, in a real main window with real files.
 // After each step the program agrees with a model that knows nothing of how it works.
 #include "stagedocument.h"
-#include "stageeditor.h"
-#include "stagefactory.h"
 #include "stagemodel.h"
-#include "stagetoolbar.h"
 #include "stageview.h"
 #include "walkmodel.h"
+#include "walkprogram.h"
 
 #include <actionmanager/actioncontainer.h>
-#include <actionmanager/actionmanager.h>
-#include <actionmanager/contextaction.h>
 #include <irecentfilesmanager.h>
-#include <mainwindow.h>
-#include <support/coretest.h>
-#include <ui/imainmdiarea.h>
 
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -24,134 +17,20 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMimeData>
-#include <QTabBar>
 #include <QUndoGroup>
 
 #include <random>
-
-using ExtensionSystem::PluginManager;
 
 namespace {
 
 constexpr int s_nMostDocuments = 5;
 
-QByteArray projectText(int nElements)
-{
-    QByteArrayList elements;
-    for (int i = 0; i < nElements; ++i)
-        elements.append(
-            QByteArrayLiteral(R"({"type": "rectangle", "x": 5, "y": 5, "width": 9, "height": 9, "id": "e)")
-            + QByteArray::number(i) + QByteArrayLiteral(R"("})"));
-    return QByteArrayLiteral(R"({"format": "kelpa", "version": 1, "stage": {"width": 100, "height": 80,
- "background": "#ffffff", "frameRate": 24, "responsive": false}, "scenes": [{"name": "One", "elements": [)")
-        + elements.join(',') + QByteArrayLiteral("]}]}");
-}
-
-// Its dialogs answer at once.
-class WalkFactory : public StageFactory
-{
-public:
-    using StageFactory::StageFactory;
-
-    IDocument *createDocument() override
-    {
-        pDocument = StageFactory::createDocument();
-        return pDocument;
-    }
-    ICreateDocumentDlg *createNewDocumentDialog() override
-    {
-        struct Dialog : FakeNewDialog
-        {
-            Dialog(const WalkFactory &factory)
-                : FakeNewDialog(factory.strPath, factory.nResult)
-                , m_nWidth(factory.nWidth)
-            {
-            }
-            int getFirstValue() override { return m_nWidth; }
-            const int m_nWidth;
-        };
-        pDialog = new Dialog(*this);
-        return pDialog;
-    }
-    QString getOpenFileName() override { return strPath; }
-
-    QString strPath;
-    int nResult = QDialog::Accepted;
-    int nWidth = 1;
-    QPointer<IDocument> pDocument;
-    QPointer<ICreateDocumentDlg> pDialog;
-};
-
-struct Program : TestProgram
-{
-    Program()
-    {
-        PluginManager::addObject(&factory);
-        window = std::make_unique<MainWindow>(nullptr);
-        window->addToolBar(new StageToolBar(window.get()));
-        welcome.setAcceptDrops(true);
-        window->setWelcomeWidget(&welcome);
-        window->setVisibleWelcomeWidget(true);
-        window->resize(500, 400);
-        window->show();
-    }
-    ~Program()
-    {
-        const auto editors = EditorManager::getEditors();
-        const auto documents = DocumentManager::getDocuments();
-        window.reset();
-        qDeleteAll(editors);
-        qDeleteAll(documents);
-        PluginManager::removeObject(&factory);
-    }
-
-    [[nodiscard]] static QAction *command(const char *pId)
-    {
-        return ActionManager::getAction(QLatin1String(pId))->getAction();
-    }
-    [[nodiscard]] static StageView *view()
-    {
-        return static_cast<StageEditor *>(EditorManager::activeEditor())->getView();
-    }
-    [[nodiscard]] QTabBar *tabs() const { return window->getMdiArea()->findChild<QTabBar *>(); }
-
-    // What lies under the mouse there.
-    [[nodiscard]] QWidget *dropTarget()
-    {
-        return EditorManager::activeEditor() ? window->getMdiArea()->childAt(200, 200) : &welcome;
-    }
-
-    QWidget welcome;
-    WalkFactory factory {nullptr};
-    std::unique_ptr<MainWindow> window;
-};
-
-// Takes away the folder of the projects while it lives: nothing can be written there.
-class FolderGone
-{
-public:
-    FolderGone(const QString &strFolder, bool bGone)
-        : m_strFolder(strFolder)
-        , m_bGone(bGone && QDir().rename(strFolder, strFolder + QStringLiteral(".gone")))
-    {
-    }
-    ~FolderGone()
-    {
-        if (m_bGone)
-            QDir().rename(m_strFolder + QStringLiteral(".gone"), m_strFolder);
-    }
-    Q_DISABLE_COPY_MOVE(FolderGone)
-
-private:
-    const QString m_strFolder;
-    const bool m_bGone;
-};
-
 class Walk
 {
 public:
     explicit Walk(unsigned nSeed)
-        : m_random(nSeed)
+        : m_program(nSeed == 1) // to paint takes most of the time
+        , m_random(nSeed)
     {
         QDir().mkpath(m_strFolder);
         const QStringList names = {QStringLiteral("one"), QStringLiteral("one.two"), QStringLiteral("a & b"),
@@ -178,8 +57,8 @@ public:
             void (Walk::*pStep)();
         };
         static const Row s_rows[] = {{6, &Walk::makeNew}, {30, &Walk::edit}, {15, &Walk::undo},
-            {10, &Walk::redo}, {12, &Walk::save}, {4, &Walk::saveAs}, {14, &Walk::switchTab},
-            {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent}, {4, &Walk::open}, {4, &Walk::attach},
+            {10, &Walk::redo}, {12, &Walk::save}, {1, &Walk::saveAs}, {14, &Walk::switchTab},
+            {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent}, {4, &Walk::open}, {2, &Walk::attach},
             {3, &Walk::changeDisk}};
         m_answers.clear();
         m_expected.clear();
@@ -233,7 +112,7 @@ private:
         if (!pDocument)
             return open();
         const int nElements = pDocument->elements();
-        StageView *pView = Program::view();
+        StageView *pView = WalkProgram::view();
         const int nWhat = nElements == 0 ? 0 : pick(3);
         say("edit", {QString::number(nWhat)});
         if (nWhat == 0) {
@@ -608,7 +487,7 @@ private:
         QMetaObject::invokeMethod(pDialog, "accept");
     }
 
-    Program m_program;
+    WalkProgram m_program;
     Model m_model;
     std::mt19937 m_random;
     const QString m_strFolder = m_program.filePath("projects");
