@@ -127,6 +127,8 @@ private slots:
         origin("a page of the web", "http://evil.example");
         origin("a secure page of the web", "https://evil.example");
         origin("a sandboxed page or a data URL", "null");
+        origin("an empty origin", "");
+        origin("a blank origin", "  ");
         origin("a page of a server on this machine", "http://127.0.0.1:8080");
         origin("a page that has our own address", "http://127.0.0.1:PORT");
         origin("a page of this machine by name", "http://localhost");
