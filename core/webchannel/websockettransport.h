@@ -12,9 +12,9 @@
 class QWebSocket;
 
 /// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
-/// socket with it when it is deleted; both go when the client has disconnected and its messages are handled. GUI
-/// thread only; a message of more than a million characters is parsed beside it, and until it is the client
-/// waits.
+/// socket with it when it is deleted; both go when the client has disconnected and its messages are handled.
+/// GUI thread only; a message of more than a million characters is parsed beside it, and until it is the
+/// client waits.
 class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
 {
     Q_OBJECT

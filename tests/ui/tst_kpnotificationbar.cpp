@@ -40,7 +40,6 @@ void record(QAccessibleEvent *pEvent)
     s_heard.append({pEvent->object(), pEvent->type(),
         bShowing ? pInterface->text(QAccessible::Description) + ": " + pInterface->text(QAccessible::Name)
                  : QString()});
-    qInfo() << pEvent << s_heard.constLast().text;
 }
 
 } // namespace
@@ -214,6 +213,9 @@ private slots:
         QAccessible::installUpdateHandler(previous);
         setScreenReader(false);
         QCOMPARE(announced(), QStringList({"Information: first", "Warning: second", "Warning: second"}));
+        for (const Heard &heard : std::as_const(s_heard))
+            QVERIFY(heard.type != QAccessible::ObjectShow || heard.pObject != m_pBar
+                || heard.text == "Information: first");
         QCOMPARE(QApplication::focusWidget(), pFocus);
         QCOMPARE(QAccessible::queryAccessibleInterface(m_pBar)->role(), QAccessible::AlertMessage);
     }

@@ -6,6 +6,7 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QJsonArray>
 #include <QTimer>
 
 #include <ctime>
@@ -106,6 +107,18 @@ bool flood(quint16 nPort, const QByteArray &block, qint64 nSize)
                 return false;
     }
     return true;
+}
+
+// Says goodbye behind the frames and hears the server out.
+void sendAndLeave(quint16 nPort, const QByteArray &frames)
+{
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, nPort);
+    socket.write(handshake("127.0.0.1:" + QByteArray::number(nPort)));
+    socket.waitForReadyRead();
+    socket.write(frames + frame("\x03\xE8", Close));
+    while (socket.waitForReadyRead())
+        socket.readAll();
 }
 
 } // namespace
@@ -291,6 +304,42 @@ private slots:
         QTRY_COMPARE(totals.size(), 5);
         for (const int nTotal : {1, 11, 12, 112, 1112})
             QCOMPARE(totals.takeFirst().constFirst().toInt(), nTotal);
+    }
+
+    void whatAClientSentBeforeItLeftIsHandled_data()
+    {
+        QTest::addColumn<int>("clients");
+        QTest::newRow("one client") << 1;
+        QTest::newRow("thirty clients at once") << 30;
+    }
+
+    void whatAClientSentBeforeItLeftIsHandled()
+    {
+        QFETCH(const int, clients);
+        ChannelServer program;
+        QMap<QObject *, QList<int>> sent;
+        int nGone = 0;
+        connect(&program.wrapper, &WebSocketClientWrapper::clientConnected, &program.wrapper,
+            [&](WebSocketTransport *pClient) {
+                connect(pClient, &WebSocketTransport::messageReceived, &program.wrapper,
+                    [&sent, pClient](const QJsonObject &message) {
+                        sent[pClient].append(message.value("args").toArray().first().toInt());
+                    });
+                connect(pClient->parent(), &QObject::destroyed, &program.wrapper, [&] { ++nGone; });
+            });
+        QByteArray big = call("add", "[1]");
+        big += QByteArray(2 * ClientPolicy::CharactersParsedAtOnce - big.size(), ' ');
+        const QByteArray frames =
+            frame(big) + frame(call("add", "[2]")) + frame(big) + frame(call("add", "[3]"));
+        std::vector<std::thread> threads;
+        for (int i = 0; i < clients; ++i)
+            threads.emplace_back(sendAndLeave, program.server.serverPort(), frames);
+        const Load load = runUntil([&] { return nGone == clients; });
+        for (std::thread &thread : threads)
+            thread.join();
+        qInfo("%.1f ms, %.1f MiB", load.turnMs, load.memoryMiB);
+        QCOMPARE(sent.values(), QList<QList<int>>(clients, {1, 2, 1, 3}));
+        QVERIFY(!program.server.findChild<QTcpSocket *>());
     }
 
     void garbageForEverCostsLittle_data()
