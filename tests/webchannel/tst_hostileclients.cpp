@@ -75,6 +75,20 @@ struct Load
     double memoryMiB = 0;
 };
 
+// What a turn may take: 50 ms, or a few times what parsing a megabyte takes just now. Other programs slow
+// both down, by the caches if not by the processor.
+double turnLimitMs()
+{
+    const QByteArray message = '[' + QByteArray("1,").repeated(500000);
+    double slowest = 0;
+    for (int i = 0; i < 5; ++i) {
+        const double begin = threadMs();
+        if (QJsonDocument::fromJson(message).isNull())
+            slowest = std::max(slowest, threadMs() - begin);
+    }
+    return std::max(50.0, 3 * slowest);
+}
+
 Load runUntil(const std::function<bool()> &isDone)
 {
     Load load;
@@ -337,7 +351,9 @@ private slots:
         const Load load = runUntil([&] { return nGone == clients; });
         for (std::thread &thread : threads)
             thread.join();
-        qInfo("%.1f ms, %.1f MiB", load.turnMs, load.memoryMiB);
+        const double limitMs = turnLimitMs() * (clients + 9) / 10;
+        qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
+        QVERIFY2(!IsMeasured || load.turnMs < limitMs, "a turn serves some clients");
         QCOMPARE(sent.values(), QList<QList<int>>(clients, {1, 2, 1, 3}));
         QVERIFY(!program.server.findChild<QTcpSocket *>());
     }
@@ -376,13 +392,15 @@ private slots:
         QFETCH(const bool, staysConnected);
         QFETCH(const int, memoryMiB);
         Load load;
-        for (int i = 0; i < 3 && (i == 0 || load.turnMs >= 50); ++i) {
+        double limitMs = 0;
+        for (int i = 0; i < 3 && load.turnMs >= limitMs; ++i) {
             bool bSentAll = false;
             load = endure(garbage, sizeMiB * qint64(1024) * 1024, &bSentAll);
             QCOMPARE(bSentAll, staysConnected);
+            limitMs = turnLimitMs();
         }
-        qInfo("%.1f ms, %.1f MiB", load.turnMs, load.memoryMiB);
-        QVERIFY(!IsMeasured || load.turnMs < 50);
+        qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
+        QVERIFY(!IsMeasured || load.turnMs < limitMs);
         QVERIFY(!IsMeasured || load.memoryMiB < memoryMiB);
     }
 
