@@ -269,6 +269,8 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
     emit updateWindowFilePath(QString());
     updateWelcomeWidget();
     updateSaveAsMenu();
+    // A temporary project that was not kept, or got a name, changed the list.
+    updateRecentFileActions();
 }
 
 void MainWindow::addRecent(const QString &strPath)
