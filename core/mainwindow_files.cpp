@@ -19,6 +19,7 @@
 #include <QLoggingCategory>
 #include <QMimeData>
 #include <QPointer>
+#include <QShortcutEvent>
 #include <QUndoGroup>
 #include <QUndoStack>
 #include <QUrl>
@@ -287,7 +288,8 @@ void MainWindow::updateWelcomeWidget()
     setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
 }
 
-// Watches the area of documents and the welcome widget for projects dropped on them.
+// Watches the area of documents and the welcome widget for projects dropped on them, and two commands that
+// share their keys.
 bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
     switch (pEvent->type()) {
@@ -300,6 +302,8 @@ bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
         return false;
     case QEvent::Drop:
         return handleDrop(static_cast<QDropEvent *>(pEvent));
+    case QEvent::Shortcut:
+        return preferSaveAs(static_cast<QShortcutEvent *>(pEvent));
     default:
         return KPStyledFrame<QMainWindow>::eventFilter(pWatched, pEvent);
     }
