@@ -10,6 +10,7 @@
 #include "document/idocumentfactory.h"
 #include "document/ieditor.h"
 #include "icore.h"
+#include "lazyicon.h"
 #include "ui/imainmdiarea.h"
 #include "ui/ioptionsdlg.h"
 #include "webchannel/websocketclientwrapper.h"
@@ -126,7 +127,7 @@ void MainWindow::createMdiArea()
     m_pMdiArea->setDocumentMode(true);
     m_pMdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_pMdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_pMdiArea->setWindowIcon(QIcon(QStringLiteral(":/app/images/project_icon.ico")));
+    m_pMdiArea->setWindowIcon(lazyIcon(QStringLiteral(":/app/images/project_icon.ico")));
     m_pMdiArea->setFocusPolicy(Qt::ClickFocus);
     setContentsMargins(1, 1, 1, 1);
     connect(m_pMdiArea, &QMdiArea::subWindowActivated, this, &MainWindow::updateActivatedMdiSubFilePath);
