@@ -272,7 +272,7 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
     emit updateWindowFilePath(QString());
     if (!EditorManager::activeEditor())
         emit updateModified(false);
-    updateRecentFileActions(); // a document without a file took itself out of the list
+    updateRecentFileActions(); // a temporary project that was not kept, or got a name, changed the list
     updateWelcomeWidget();
     updateSaveAsMenu();
 }
