@@ -165,6 +165,7 @@ private slots:
         pressIn("horizontal", "Add");
         QTest::keyClicks(pList->findChild<QSpinBox *>(), "900");
         QTest::keyClick(pList->findChild<QSpinBox *>(), Qt::Key_Return);
+        QTRY_COMPARE(pList->item(4)->data(Qt::EditRole).toInt(), 900);
         button(QDialogButtonBox::Apply)->click();
         QCOMPARE(DocumentManager::getHBreakpoints(),
             (DocumentManager::Breakpoints {

@@ -154,7 +154,7 @@ private:
     {
         ModelDocument *pDocument = m_model.active();
         if (pDocument)
-            chooseFile();
+            chooseFile(*pDocument);
         say(pCommand, {m_strChosen});
         act([&] { m_program.command(pCommand)->trigger(); });
         if (!pDocument || m_bChoiceFails)
@@ -164,7 +164,7 @@ private:
     }
 
     // Prepares the answer to the dialog that asks where to save.
-    void chooseFile()
+    void chooseFile(const ModelDocument &document)
     {
         const int nHow = pick(6);
         m_strChosen = anyPath();
@@ -175,6 +175,10 @@ private:
         m_bChoiceFails = nHow <= 1;
         if (m_model.disk.contains(m_strChosen))
             expect(QFileInfo(m_strChosen).fileName() + QStringLiteral(" already exists."), QMessageBox::Yes);
+        if (m_model.disk.contains(m_strChosen) && m_model.isOpenElsewhere(m_strChosen, document)) {
+            expect(m_strChosen + QStringLiteral(" is open. Close it first."), QMessageBox::Ok);
+            m_bChoiceFails = true;
+        }
     }
 
     void switchTab()
@@ -223,7 +227,7 @@ private:
             return answer == No;
         }
         if (document.bTemp) {
-            chooseFile();
+            chooseFile(document);
             if (!m_bChoiceFails)
                 m_model.savedAs(document, m_strChosen);
             return !m_bChoiceFails;
