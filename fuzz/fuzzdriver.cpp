@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *pData, std::size_t nSi
 
 namespace {
 
-constexpr std::array<std::string_view, 15> s_seeds {
+constexpr std::array<std::string_view, 18> s_seeds {
     R"(F{"type":3,"id":0})",
     R"(F{"type":4})",
     R"(F{"type":6,"id":1,"object":"target","method":"add","args":[1,2]})",
@@ -26,15 +26,18 @@ constexpr std::array<std::string_view, 15> s_seeds {
     R"(F{"type":9,"object":"target","property":1,"value":{"x":-1.5e-7}})",
     R"(F{"type":10,"id":6,"object":"target","signal":0,"args":[],"data":""})",
     R"(F[1,"two",{"three":[]}])",
+    R"(A{"updates":{"windows":{"latest-version":"3.1.10","download-url":"https://k.example/a/Setup.exe"}}})",
+    R"(A{"updates":{"windows":{"latest-version":"4","open-url":"http://k.example/","changelog":"com1.txt"}}})",
+    R"(A{"updates":{"windows":{"latest-version":"4","verification":{"sha256":"00","signature":"AA=="}}}})",
     "H127.0.0.1:4711\nqrc:\n",
     "Hlocalhost:4711\nhttp://a\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
     "H[::1]:4711\nnull\na=b&key=%30123456789abcdefghijklmnopqrstuvwxyz_-ABCDE&key=",
 };
 
-constexpr std::array<std::string_view, 26> s_words {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1",
+constexpr std::array<std::string_view, 32> s_words {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1",
     "0", "2147483648", "9223372036854775808", "1e999", "\\u0000", "\\ud800", "\xFF", "\n",
     "\"type\":", "\"object\":\"target\"", "\"__QObject*__\"", "\"deleteLater\"", "\"destroyed\"",
-    "key=", "%00", "qrc:"};
+    "key=", "%00", "qrc:", "\"windows\":", "\"latest-version\":", "/../", "\\u202e", ".99999999999.", "aux."};
 
 class Mutator
 {
