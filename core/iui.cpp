@@ -45,15 +45,26 @@ QString breakable(const QString &strText)
     return strResult;
 }
 
+// What the text takes in one line; a label that wraps says less.
+int naturalWidth(QLabel *pLabel)
+{
+    const bool bWraps = pLabel->wordWrap();
+    pLabel->setWordWrap(false);
+    const int nWidth = pLabel->sizeHint().width();
+    pLabel->setWordWrap(bWraps);
+    return nWidth;
+}
+
 void widenLabel(QLabel *pLabel)
 {
     const int nCap = pLabel->screen() ? pLabel->screen()->availableSize().width() * 2 / 3 : 640;
-    if (pLabel->sizeHint().width() > nCap) {
+    const int nWidth = naturalWidth(pLabel);
+    if (nWidth > nCap) {
         if (pLabel->textFormat() == Qt::PlainText)
             pLabel->setText(breakable(pLabel->text()));
         pLabel->setWordWrap(true);
     }
-    pLabel->setMinimumWidth(qMin(pLabel->sizeHint().width(), nCap));
+    pLabel->setMinimumWidth(qMin(nWidth, nCap));
 }
 
 // At high scales the box would otherwise clip its own buttons and texts.

@@ -6,7 +6,12 @@
 #include <QWidget>
 
 /// Base of a page of the preferences dialog, its parent. A page fills its controls when it is first shown,
-/// and writes or restores them when the dialog says so; each override calls the base last.
+/// and writes or restores them when the dialog says so; each override calls the base last. Its window title is
+/// that of the page.
+///
+/// Plug-ins put their pages into the framework's pool, from which the dialog takes them when it is made:
+/// PluginManager::objects<IOptionPage>(). It becomes their parent. The plug-in deletes what is left of them when
+/// it goes, since their code goes with it.
 class CORE_EXPORT IOptionPage : public QWidget
 {
     Q_OBJECT

@@ -6,6 +6,18 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <displayscale.h>
+
+namespace {
+
+// A long one from its beginning.
+void showAddress(QLineEdit *pEdit, const QString &strUrl)
+{
+    pEdit->setText(strUrl);
+    pEdit->setCursorPosition(0);
+}
+
+} // namespace
 
 UpdatesPage::UpdatesPage()
     : m_pAutomatic(new QCheckBox(tr("&Look for a new version once a day"), this))
@@ -27,6 +39,7 @@ QLineEdit *UpdatesPage::addAddress(const QString &strLabel, const char *pName)
     auto *pEdit = new QLineEdit(this);
     pEdit->setObjectName(QLatin1String(pName));
     pEdit->setAccessibleName(QString(strLabel).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    pEdit->setMinimumWidth(DisplayScale::proportional(DisplayScale::logicalDpi(this), 320));
     static_cast<QFormLayout *>(layout())->addRow(strLabel, pEdit);
     connect(pEdit, &QLineEdit::textEdited, this, &UpdatesPage::onEdited);
     return pEdit;
@@ -48,9 +61,9 @@ void UpdatesPage::showEvent(QShowEvent *pEvent)
 void UpdatesPage::initValues()
 {
     m_pAutomatic->setChecked(UpdateSettings::isAutomatic());
-    m_pFeed->setText(UpdateSettings::feedUrl());
-    m_pReport->setText(UpdateSettings::reportUrl());
-    m_pSuggestion->setText(UpdateSettings::suggestionUrl());
+    showAddress(m_pFeed, UpdateSettings::feedUrl());
+    showAddress(m_pReport, UpdateSettings::reportUrl());
+    showAddress(m_pSuggestion, UpdateSettings::suggestionUrl());
     IOptionPage::initValues();
 }
 

@@ -193,6 +193,28 @@ private slots:
                     "<h3>Congratulations! You are running the latest version of &lt;Kelpa&gt;</h3>"));
     }
 
+    void headingOfABoxIsNotCut()
+    {
+        TestServer server;
+        server.body(QStringLiteral("/"), feed(QStringLiteral("1"), QString()));
+        Updater updater;
+        updater.setUrl(server.url(QStringLiteral("/")));
+        updater.setNotifyOnFinish(true);
+        int nWanted = -1;
+        int nWidth = 0;
+        QTimer::singleShot(0, &updater, [&] {
+            QTRY_VERIFY(QApplication::activeModalWidget() && QApplication::activeModalWidget()->isVisible());
+            QWidget *pBox = QApplication::activeModalWidget();
+            const auto *pHeading = pBox->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+            nWidth = pHeading->width();
+            nWanted = pHeading->sizeHint().width();
+            pBox->close();
+        });
+        updater.checkForUpdates(false);
+        QTRY_VERIFY(nWanted > 0);
+        QVERIFY2(nWidth >= nWanted, qPrintable(QStringLiteral("%1 of %2").arg(nWidth).arg(nWanted)));
+    }
+
     void customFeedIsHandedOverUnread()
     {
         TestServer server;
