@@ -202,14 +202,17 @@ private slots:
         updater.setNotifyOnFinish(true);
         int nWanted = -1;
         int nWidth = 0;
-        QTimer::singleShot(0, &updater, [&] {
-            QTRY_VERIFY(QApplication::activeModalWidget() && QApplication::activeModalWidget()->isVisible());
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, &updater, [&] {
             QWidget *pBox = QApplication::activeModalWidget();
+            if (!pBox || !pBox->isVisible())
+                return;
             const auto *pHeading = pBox->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
             nWidth = pHeading->width();
             nWanted = pHeading->sizeHint().width();
             pBox->close();
         });
+        timer.start(1);
         updater.checkForUpdates(false);
         QTRY_VERIFY(nWanted > 0);
         QVERIFY2(nWidth >= nWanted, qPrintable(QStringLiteral("%1 of %2").arg(nWidth).arg(nWanted)));
