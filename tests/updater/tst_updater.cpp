@@ -199,6 +199,7 @@ private slots:
         server.body(QStringLiteral("/"), feed(QStringLiteral("1"), QString()));
         Updater updater;
         updater.setUrl(server.url(QStringLiteral("/")));
+        updater.setModuleVersion(QStringLiteral("1"));
         updater.setNotifyOnFinish(true);
         int nWanted = -1;
         int nWidth = 0;
