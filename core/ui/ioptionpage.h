@@ -9,10 +9,6 @@
 /// fills its controls by initValues() when it is first shown, and writes or restores them when the dialog
 /// says so; each override calls the base last. After a change by the user it calls setChanged() and emits
 /// dataChanged().
-///
-/// Plug-ins put their pages into the framework's pool, from which the dialog takes them when it is made:
-/// PluginManager::objects<IOptionPage>(). It becomes their parent. The plug-in deletes what is left of them when
-/// it goes, since their code goes with it.
 class CORE_EXPORT IOptionPage : public QWidget
 {
     Q_OBJECT

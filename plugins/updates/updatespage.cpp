@@ -51,13 +51,6 @@ void UpdatesPage::onEdited()
     emit dataChanged();
 }
 
-void UpdatesPage::showEvent(QShowEvent *pEvent)
-{
-    if (!m_bConfigInitialized)
-        initValues();
-    IOptionPage::showEvent(pEvent);
-}
-
 void UpdatesPage::initValues()
 {
     m_pAutomatic->setChecked(UpdateSettings::isAutomatic());

@@ -6,7 +6,7 @@
 class QCheckBox;
 class QLineEdit;
 
-/// The page "Updates" of the preferences. It lies in the framework's pool until a dialog takes it over.
+/// The page "Updates" of the preferences.
 class UpdatesPage : public IOptionPage
 {
     Q_OBJECT
@@ -19,9 +19,6 @@ public:
     void saveChanges() override;
     void discardChanges() override;
 
-protected:
-    void showEvent(QShowEvent *pEvent) override;
-
 private:
     [[nodiscard]] QLineEdit *addAddress(const QString &strLabel, const char *pName);
     void onEdited();
@@ -30,4 +27,13 @@ private:
     QLineEdit *m_pFeed;
     QLineEdit *m_pReport;
     QLineEdit *m_pSuggestion;
+};
+
+/// Hands the page to the preferences dialog.
+class UpdatesPageFactory : public IOptionPageFactory
+{
+    Q_OBJECT
+
+public:
+    [[nodiscard]] IOptionPage *createPage() override { return new UpdatesPage; }
 };

@@ -8,6 +8,7 @@
 #include "updatespage.h"
 
 #include <QAction>
+#include <QPointer>
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
@@ -19,11 +20,7 @@ using ExtensionSystem::PluginManager;
 
 UpdatesPlugin::UpdatesPlugin() = default;
 
-// The code of the page goes with this library, so the page must not outlive it.
-UpdatesPlugin::~UpdatesPlugin()
-{
-    delete m_pPage;
-}
+UpdatesPlugin::~UpdatesPlugin() = default;
 
 bool UpdatesPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
@@ -33,8 +30,8 @@ bool UpdatesPlugin::initialize(const QStringList &arguments, QString *errorStrin
         return false;
     }
     m_pCheck = std::make_unique<UpdateCheck>(nullptr);
-    m_pPage = new UpdatesPage;
-    PluginManager::addObject(m_pPage);
+    m_pPages = std::make_unique<UpdatesPageFactory>();
+    PluginManager::addObject(m_pPages.get());
     serve("Help.CheckUpdates", tr("Check Updates..."), [this] { m_pCheck->checkNow(); });
     serve("Help.About", tr("About"), [this] { showAbout(); });
     serve("Help.ReportProblem", tr("Report a Problem"), [] { Feedback::open(UpdateSettings::reportUrl()); });
@@ -66,7 +63,7 @@ ExtensionSystem::IPlugin::ShutdownFlag UpdatesPlugin::aboutToShutdown()
 {
     for (const auto &[strId, pAction] : std::as_const(m_commands))
         ActionManager::unregisterAction(pAction, strId);
-    PluginManager::removeObject(m_pPage);
+    PluginManager::removeObject(m_pPages.get());
     m_pCheck.reset();
     return SynchronousShutdown;
 }

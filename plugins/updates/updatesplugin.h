@@ -3,14 +3,14 @@
 
 #include <extensionsystem/iplugin.h>
 
-#include <QPointer>
+#include <QList>
 
 #include <functional>
 #include <memory>
 
 class QAction;
 class UpdateCheck;
-class UpdatesPage;
+class UpdatesPageFactory;
 
 /// Serves the commands of the Help menu that concern the program itself: updates, about, problems and
 /// suggestions.
@@ -32,6 +32,6 @@ private:
     void showAbout();
 
     std::unique_ptr<UpdateCheck> m_pCheck;
-    QPointer<UpdatesPage> m_pPage; ///< until a dialog takes it over it belongs to the plug-in
+    std::unique_ptr<UpdatesPageFactory> m_pPages;
     QList<std::pair<QString, QAction *>> m_commands; ///< that the plug-in had to make
 };

@@ -307,7 +307,8 @@ private slots:
             QStringLiteral("--load"), QStringLiteral("updates"), QStringLiteral("--new-instance")});
         QVERIFY(!exitCode);
         QTRY_COMPARE(up.size(), 1);
-        QVERIFY(PluginManager::object<IOptionPage>());
+        const std::unique_ptr<IOptionPage> pPage(PluginManager::object<IOptionPageFactory>()->createPage());
+        QCOMPARE(pPage->windowTitle(), QStringLiteral("Updates"));
         QTRY_VERIFY(ICore::getMainWindow()->getNotificationBar()->accessibleName().contains(
             QStringLiteral("once a day")));
 
