@@ -146,7 +146,7 @@ void UpdateCheck::onEnded(const QString &strUrl)
     if (state == State::Background)
         return announce();
     KPNotificationBar *pBar = ICore::getMainWindow() ? ICore::getMainWindow()->getNotificationBar() : nullptr;
-    if (pBar && pBar->accessibleName() == tr("Looking for a new version..."))
+    if (pBar && pBar->text() == tr("Looking for a new version..."))
         pBar->hide();
     // The box shall not run inside a signal of the network.
     QMetaObject::invokeMethod(this, &UpdateCheck::answer, Qt::QueuedConnection);

@@ -42,7 +42,7 @@ struct Program
 
     QTimer *timer(const char *pName) { return check.findChild<QTimer *>(QLatin1String(pName)); }
     KPNotificationBar *bar() { return window.getNotificationBar(); }
-    QString told() { return bar()->isHidden() ? QString() : bar()->accessibleName(); }
+    QString told() { return bar()->isHidden() ? QString() : bar()->text(); }
     void startAgain() { check.start(); }
 
     TestProgram program;
@@ -309,8 +309,8 @@ private slots:
         QTRY_COMPARE(up.size(), 1);
         const std::unique_ptr<IOptionPage> pPage(PluginManager::object<IOptionPageFactory>()->createPage());
         QCOMPARE(pPage->windowTitle(), QStringLiteral("Updates"));
-        QTRY_VERIFY(ICore::getMainWindow()->getNotificationBar()->accessibleName().contains(
-            QStringLiteral("once a day")));
+        QTRY_VERIFY(
+            ICore::getMainWindow()->getNotificationBar()->text().contains(QStringLiteral("once a day")));
 
         const auto trigger = [](const char *pId) {
             ActionManager::getAction(QLatin1String(pId))->getAction()->trigger();
