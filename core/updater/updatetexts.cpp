@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -67,7 +68,9 @@ QString UpdateTexts::size(qint64 nBytes)
 
 QString UpdateTexts::duration(double fSeconds)
 {
-    const auto rounded = [fSeconds](double fUnit) { return static_cast<qint64>(fSeconds / fUnit + 0.5); };
+    const auto rounded = [fSeconds](double fUnit) {
+        return static_cast<qint64>(std::floor(fSeconds / fUnit + 0.5));
+    };
     if (fSeconds > 7200) {
         const qint64 n = rounded(3600);
         return n > 1 ? Downloader::tr("About %1 hours").arg(n) : Downloader::tr("About one hour");
@@ -85,7 +88,8 @@ double UpdateTexts::estimatedSeconds(qint64 nReceived, qint64 nTotal, qint64 nEl
     if (nElapsedSeconds == 0 || nReceived < 1)
         return -1;
     const qint64 nSpeed = qMax<qint64>(1, nReceived / qMax<qint64>(1, nElapsedSeconds));
-    return static_cast<double>(nTotal / nSpeed);
+    const qint64 nSeconds = nTotal / nSpeed;
+    return static_cast<double>(nSeconds);
 }
 
 QString UpdateTexts::safeFileName(const QString &strName)
