@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::array<std::string_view, 22> s_seeds {
+constexpr std::array<std::string_view, 25> s_seeds {
     R"(F{"type":3,"id":0})",
     R"(F{"type":4})",
     R"(F{"type":6,"id":1,"object":"target","method":"add","args":[1,2]})",
@@ -28,6 +28,9 @@ constexpr std::array<std::string_view, 22> s_seeds {
     R"(F{"type":9,"object":"target","property":1,"value":{"x":-1.5e-7}})",
     R"(F{"type":10,"id":6,"object":"target","signal":0,"args":[],"data":""})",
     R"(F[1,"two",{"three":[]}])",
+    R"(A{"updates":{"windows":{"latest-version":"3.1.10","download-url":"https://k.example/a/Setup.exe"}}})",
+    R"(A{"updates":{"windows":{"latest-version":"4","open-url":"http://k.example/","changelog":"com1.txt"}}})",
+    R"(A{"updates":{"windows":{"latest-version":"4","verification":{"sha256":"00","signature":"AA=="}}}})",
     "H127.0.0.1:4711\nqrc:\n",
     "Hlocalhost:4711\nhttp://a\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
     "Hlocalhost:4711\n-\n",
@@ -41,10 +44,11 @@ constexpr std::array<std::string_view, 22> s_seeds {
     "H[::1]:4711\nnull\na=b&key=%30123456789abcdefghijklmnopqrstuvwxyz_-ABCDE&key=",
 };
 
-constexpr std::array<std::string_view, 31> s_words {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1",
+constexpr std::array<std::string_view, 37> s_words {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1",
     "0", "2147483648", "9223372036854775808", "1e999", "\\u0000", "\\ud800", "\xFF", "\n",
     "\"type\":", "\"object\":\"target\"", "\"__QObject*__\"", "\"deleteLater\"", "\"destroyed\"",
-    "key=", "%00", "qrc:", "-", "%6Bey=", ":4711", "\x81\x80\0\0\0\0"sv, "\x7F\xFF\xFF\xFF"};
+    "key=", "%00", "qrc:", "-", "%6Bey=", ":4711", "\x81\x80\0\0\0\0"sv, "\x7F\xFF\xFF\xFF",
+    "\"windows\":", "\"latest-version\":", "/../", "\\u202e", ".99999999999.", "aux."};
 
 class Mutator
 {
