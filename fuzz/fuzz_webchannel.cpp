@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a client sends: text frames into a transport with a channel behind it, and handshakes into the policy.
+#include "fuzzseeds.h"
+
 #include <webchannel/clientpolicy.h>
 #include <webchannel/websockettransport.h>
 
@@ -12,6 +14,29 @@
 #include <memory>
 
 namespace {
+
+constexpr std::string_view s_inputs[] = {
+    R"(F{"type":3,"id":0})",
+    R"(F{"type":4})",
+    R"(F{"type":6,"id":1,"object":"target","method":"add","args":[1,2]})",
+    R"(F{"type":6,"id":2,"object":"target","method":"echo","args":["a\u0000\ud83d\ude00\ud800"]})",
+    R"(F{"type":6,"id":3,"object":"target","method":"map","args":[{"a":{"b":[null,true,1e9]}}]})",
+    R"(F{"type":6,"id":4,"object":"target","method":"child","args":[]})",
+    R"(F{"type":6,"id":5,"object":"target","method":5,"args":[]})",
+    R"(F{"type":7,"object":"target","signal":5})",
+    R"(F{"type":8,"object":"target","signal":5})",
+    R"(F{"type":9,"object":"target","property":1,"value":{"x":-1.5e-7}})",
+    R"(F{"type":10,"id":6,"object":"target","signal":0,"args":[],"data":""})",
+    R"(F[1,"two",{"three":[]}])",
+    "H127.0.0.1:4711\nqrc:\n",
+    "Hlocalhost:4711\nhttp://a\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
+    "H[::1]:4711\nnull\na=b&key=%30123456789abcdefghijklmnopqrstuvwxyz_-ABCDE&key=",
+};
+
+constexpr std::string_view s_words[] = {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1", "0",
+    "2147483648", "9223372036854775808", "1e999", "\\u0000", "\\ud800", "\xFF", "\n",
+    "\"type\":", "\"object\":\"target\"", "\"__QObject*__\"", "\"deleteLater\"", "\"destroyed\"",
+    "key=", "%00", "qrc:"};
 
 class Target : public QObject
 {
@@ -77,6 +102,8 @@ void fuzzFrame(const QByteArray &input)
 }
 
 } // namespace
+
+const FuzzSeeds fuzzSeeds = {s_inputs, s_words};
 
 extern "C" int LLVMFuzzerInitialize(int *pCount, char ***pArguments)
 {

@@ -6,16 +6,17 @@ namespace {
 constexpr QLatin1Char s_mark('$');
 constexpr QLatin1String s_unit("px");
 
-// The number in "12px". The unit may stand anywhere, and more than once.
-int numberOf(QStringView token)
+// The number in "12px", the first unit of which is at `nUnit`. Units may stand anywhere.
+int numberOf(QStringView token, qsizetype nUnit)
 {
+    if (nUnit + s_unit.size() == token.size())
+        return token.first(nUnit).toInt();
     QString strNumber;
-    qsizetype nDone = 0;
-    for (qsizetype nUnit = token.indexOf(s_unit); nUnit >= 0; nUnit = token.indexOf(s_unit, nDone)) {
-        strNumber += token.sliced(nDone, nUnit - nDone);
-        nDone = nUnit + s_unit.size();
+    for (; nUnit >= 0; nUnit = token.indexOf(s_unit)) {
+        strNumber += token.first(nUnit);
+        token = token.sliced(nUnit + s_unit.size());
     }
-    strNumber += token.sliced(nDone);
+    strNumber += token;
     return strNumber.toInt();
 }
 
@@ -33,12 +34,14 @@ QString StyleSheetTokens::resolve(const QString &strSheet, int nDPI)
         nDone = nOpen + 1;
         const qsizetype nClose = sheet.indexOf(s_mark, nDone);
         const QStringView token = nClose < 0 ? QStringView() : sheet.sliced(nDone, nClose - nDone);
-        if (!token.contains(s_unit)) {
+        const qsizetype nUnit = token.indexOf(s_unit);
+        if (nUnit < 0) {
             nOpen = nClose; // it may begin the next token
             continue;
         }
         // Not DisplayScale::proportional(): a number in a file may be as large as it likes.
-        strResult += QStringLiteral("%1px").arg(static_cast<qint64>(nDPI) * numberOf(token) / 96);
+        strResult += QString::number(static_cast<qint64>(nDPI) * numberOf(token, nUnit) / 96);
+        strResult += s_unit;
         nDone = nClose + 1;
         nOpen = sheet.indexOf(s_mark, nDone);
     }
