@@ -73,8 +73,19 @@ MainWindow::MainWindow(QWidget *pParent)
     createManagers();
     createMdiArea();
     createTitleBar();
-    connect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
+    initActions();
+    createToolBars();
+    connectEvents();
+    // Not in percent: the first check after the start always finds a change, and plug-ins hear the scale.
     m_nDisplayScale = DisplayScale::logicalDpi(this) / 96;
+}
+
+void MainWindow::connectEvents()
+{
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
+    connect(&m_dpiCheckTimer, &QTimer::timeout, this, &MainWindow::onTimerDPICheck);
+    connect(this, &MainWindow::dpiChanged, this, &MainWindow::onDPIChanged);
+    watchScreen();
 }
 
 void MainWindow::startServer()
@@ -109,6 +120,7 @@ void MainWindow::createManagers()
 
 void MainWindow::createMdiArea()
 {
+    connect(m_pEditorManager, &EditorManager::editorActivated, this, &MainWindow::updateSaveAsMenu);
     m_pMdiArea = new IMainMdiArea(this);
     m_pMdiArea->setViewMode(QMdiArea::TabbedView);
     m_pMdiArea->setDocumentMode(true);
@@ -142,6 +154,8 @@ MainWindow::~MainWindow()
 
     disconnect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     disconnect(m_pClientWrapper, &WebSocketClientWrapper::clientConnected, m_pChannel, nullptr);
+    m_dpiCheckTimer.stop();
+    disconnect(&m_dpiCheckTimer, nullptr, this, nullptr);
     disconnect(this, &MainWindow::dpiChanged, this, nullptr);
     const auto objects = m_pChannel->registeredObjects();
     for (QObject *pObject : objects)
@@ -165,7 +179,6 @@ bool MainWindow::init(QString *pErrorString)
 
 void MainWindow::extensionsInitialized()
 {
-    initActions();
     show();
     if (IsFirstRun())
         setWindowState(Qt::WindowMaximized);
@@ -174,6 +187,8 @@ void MainWindow::extensionsInitialized()
 }
 
 void MainWindow::aboutToShutdown() { }
+
+void MainWindow::activationChangeFiltered() { }
 
 bool MainWindow::IsFirstRun()
 {

@@ -5,10 +5,16 @@
 #include <ui/kpnotificationbar.h>
 #include <ui/kpstyledframe.h>
 
+#include <QList>
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 
+#include <map>
+
+class ActionContainer;
 class ActionManager;
+struct CommandRow;
 class ContextManager;
 class DocumentManager;
 class EditorManager;
@@ -20,6 +26,7 @@ class IMainMdiArea;
 class IMainMenuWidget;
 class IOptionsDlg;
 class QMdiSubWindow;
+class QToolBar;
 class QWebChannel;
 class QWebSocketServer;
 class WebSocketClientWrapper;
@@ -62,6 +69,7 @@ public:
     /// What a page of another origin than "qrc:" appends to the server's URL, as "?key=" and this text.
     [[nodiscard]] QString getServerKey() const;
     [[nodiscard]] IMainMdiArea *getMdiArea() const { return m_pMdiArea; }
+    [[nodiscard]] QToolBar *getFileToolbar() const { return m_pFileToolbar; }
     [[nodiscard]] KPNotificationBar *getNotificationBar();
 
     /// As KPNotificationBar::show(), and its end.
@@ -84,6 +92,8 @@ public:
 signals:
     void updateWindowFilePath(const QString &fileName);
     void updateModified(bool isModified);
+
+    /// The display scale is `nDPI` percent now.
     void dpiChanged(int nDPI);
 
     /// Every plug-in is there and the window is shown.
@@ -101,6 +111,9 @@ public slots:
     /// factory knows its suffix, and the document stays with the caller.
     bool loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile);
 
+    /// Makes the menu of recent projects follow the stored list.
+    void updateRecentFileActions();
+
     /// Brings the window to the front; a minimised one is restored.
     void raiseUp();
     void openFilesPassedAsArguments();
@@ -108,41 +121,82 @@ public slots:
     void fileOpen();
     void fileSaveAs();
     void fileClose();
+
+    /// Opens the project of the sending action; one that is gone may be removed from the list.
+    void recentFileOpen();
     void fileSave();
     void fileExit();
+    void languageChanged(QAction *pAction);
 
     /// Makes the context of the widget that has the focus the current one; menus with the focus change
     /// nothing.
     void updateFocusWidget(QWidget *old, QWidget *now);
+    void onPreferences();
+    void onHelpContents();
+    void updateSaveAsMenu();
+
+    /// Enables the Save command; `bDisabled` is whether the active undo stack is clean.
+    void onEnabledSaveActionChanged(bool bDisabled);
     void updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow);
+
+    /// Does nothing; plug-ins connect to it by name.
+    void activationChangeFiltered();
 
     /// The sender, a document, leaves every registry and is deleted, and its editor with it.
     void onDocumentRequestClosing(bool bDeleteLater);
+    void onDPIChanged();
+    void onScreenChanged();
 
 protected:
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
     void closeEvent(QCloseEvent *pEvent) override;
+    bool event(QEvent *pEvent) override;
+    void moveEvent(QMoveEvent *pEvent) override;
+    void resizeEvent(QResizeEvent *pEvent) override;
+    bool nativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult) override;
     void changeEvent(QEvent *pEvent) override;
     [[nodiscard]] bool isStyledFrameTitleBar(int x, int y) const override;
+
+private slots:
+    void onTimerDPICheck();
 
 private:
     void startServer();
     void createManagers();
     void createMdiArea();
     void createTitleBar();
+    void connectEvents();
+
     void initActions();
+    void createCommand(const CommandRow &row);
+    void insertSubMenu(const QString &strId, ActionContainer *pParent);
+    void createRecentCommands();
+    void createLanguageMenu(ActionContainer *pViewMenu);
+    void createToolBars();
+    void reloadIcons();
+    void enableCommand(const char *pId, bool bEnabled);
+
     bool closeDocuments(const QList<QPointer<IDocument>> &documents);
     [[nodiscard]] static IDocumentFactory *selectDocumentFactory();
     bool createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICreateDocumentDlg *pDialog);
     void attachNew(IDocumentFactory *pFactory, IDocument *pDoc);
     bool handleDrop(QDropEvent *pEvent);
     void updateWelcomeWidget();
+    void addRecent(const QString &strPath);
+
+    void startDpiCheck();
+    void watchScreen();
+    void fixAutoHideTaskbar();
 
     QWebSocketServer *m_pServer = nullptr;
-    WebSocketClientWrapper *m_pClientWrapper = nullptr;
     QWebChannel *m_pChannel = nullptr;
+    WebSocketClientWrapper *m_pClientWrapper = nullptr;
     IMainMdiArea *m_pMdiArea = nullptr;
     IMainMenuWidget *m_pTitleBar = nullptr;
+    QToolBar *m_pFileToolbar = nullptr;
+    std::map<QString, QAction *> m_actions; // the core's own, by command id
+    QAction *m_pCurrentLanguage = nullptr;
+    QList<QAction *> m_recentActions;
     DocumentManager *m_pDocumentManager = nullptr;
     EditorManager *m_pEditorManager = nullptr;
     ActionManager *m_pActionManager = nullptr;
@@ -150,4 +204,7 @@ private:
     ICore *m_pCore = nullptr;
     QPointer<IOptionsDlg> m_pOptionsDlg;
     int m_nDisplayScale = 0;
+    QTimer m_dpiCheckTimer;
+    QMetaObject::Connection m_screenScale;
+    std::map<QString, QString> m_themedIcons; // icon name by command id
 };

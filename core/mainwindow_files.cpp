@@ -135,7 +135,7 @@ bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
     if (!pFactory)
         return false;
     if (bAddToRecentFile)
-        IRecentFilesManager::getInstance()->addFile(pDoc->getFileName());
+        addRecent(pDoc->getFileName());
     IEditor *pEditor = pFactory->createEditor();
     pEditor->setDocument(pDoc);
     DocumentManager::addDocument(pDoc);
@@ -175,7 +175,7 @@ bool MainWindow::createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICr
     const QString strPath = pDialog->getFilePath();
     if (strPath.isEmpty())
         return false;
-    IRecentFilesManager::getInstance()->addFile(strPath);
+    addRecent(strPath);
     pDoc->setFileName(strPath);
     if (pDoc->createContent(nFirst, nSecond, nThird, pDialog->getFlag()))
         attachNew(pFactory, pDoc);
@@ -191,6 +191,7 @@ void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
     pEditor->setDocument(pDoc);
     DocumentManager::addDocument(pDoc);
     EditorManager::addEditor(pEditor);
+    enableCommand("File.Save", true);
     makeStackActive(pDoc);
     connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
     EditorManager::activateEditor(pEditor);
@@ -207,18 +208,18 @@ void MainWindow::fileOpen()
         loadFile(strPath);
 }
 
+// Dialogs run inside the calls below, and whatever happens meanwhile may take the document away.
 void MainWindow::fileSave()
 {
-    IDocument *pDoc = activeDocument();
+    const QPointer<IDocument> pDoc = activeDocument();
     if (!pDoc)
         return;
     if (pDoc->isTempDocument())
         fileSaveAs();
-    else
-        pDoc->save();
+    else if (pDoc->save())
+        enableCommand("File.Save", false);
 }
 
-// Dialogs run inside these two, and whatever happens meanwhile may take the document away.
 void MainWindow::fileSaveAs()
 {
     const QPointer<IDocument> pDoc = activeDocument();
@@ -226,11 +227,15 @@ void MainWindow::fileSaveAs()
         return;
     const QString strOldName = pDoc->getFileName();
     const bool bWasTemp = pDoc->isTempDocument();
-    if (!pDoc->saveAs() || !pDoc)
+    const bool bSaved = pDoc->saveAs();
+    if (!pDoc)
         return;
-    if (bWasTemp)
+    if (bSaved && bWasTemp)
         IRecentFilesManager::getInstance()->removeFile(strOldName);
-    IRecentFilesManager::getInstance()->addFile(pDoc->getFileName());
+    if (bSaved)
+        addRecent(pDoc->getFileName());
+    if (bSaved || bWasTemp)
+        enableCommand("File.Save", !bSaved);
 }
 
 void MainWindow::fileClose()
@@ -263,6 +268,13 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
     delete pDoc;
     emit updateWindowFilePath(QString());
     updateWelcomeWidget();
+    updateSaveAsMenu();
+}
+
+void MainWindow::addRecent(const QString &strPath)
+{
+    IRecentFilesManager::getInstance()->addFile(strPath);
+    updateRecentFileActions();
 }
 
 void MainWindow::updateWelcomeWidget()

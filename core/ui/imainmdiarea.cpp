@@ -2,6 +2,7 @@
 #include "ui/imainmdiarea.h"
 
 #include "icore.h"
+#include "irecentfilesmanager.h"
 #include "mainwindow.h"
 
 IMainMdiArea::IMainMdiArea(QWidget *pParent)
@@ -13,3 +14,11 @@ IMainMdiArea::IMainMdiArea(QWidget *pParent)
 }
 
 IMainMdiArea::~IMainMdiArea() = default;
+
+void IMainMdiArea::removeFile(const QString &strFile)
+{
+    IRecentFilesManager::getInstance()->removeFile(strFile);
+    if (MainWindow *pMainWindow = ICore::getMainWindow())
+        pMainWindow->updateRecentFileActions();
+    emit resetRecentFiles();
+}

@@ -21,6 +21,10 @@ public:
     [[nodiscard]] QWidget *getWelcomeWidget() const { return m_pWelcomeWidget; }
     void setWelcomeWidget(QWidget *pWidget) { m_pWelcomeWidget = pWidget; }
 
+public slots:
+    /// Takes the path out of the list of recent projects, and out of menu and page.
+    void removeFile(const QString &strFile);
+
 signals:
     /// The list of recent projects is to be fetched again.
     void resetRecentFiles();

@@ -38,3 +38,17 @@ void IOptionPage::setNeedInitConfig2UI()
 {
     m_bConfigInitialized = false;
 }
+
+void IOptionPage::showEvent(QShowEvent *pEvent)
+{
+    if (!m_bConfigInitialized)
+        initValues();
+    QWidget::showEvent(pEvent);
+}
+
+IOptionPageFactory::IOptionPageFactory(QObject *pParent)
+    : QObject(pParent)
+{
+}
+
+IOptionPageFactory::~IOptionPageFactory() = default;

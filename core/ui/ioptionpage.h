@@ -5,8 +5,10 @@
 
 #include <QWidget>
 
-/// Base of a page of the preferences dialog, its parent. A page fills its controls when it is first shown,
-/// and writes or restores them when the dialog says so; each override calls the base last.
+/// Base of a page of the preferences dialog, its parent. Its window title names it in the dialog. A page
+/// fills its controls by initValues() when it is first shown, and writes or restores them when the dialog
+/// says so; each override calls the base last. After a change by the user it calls setChanged() and emits
+/// dataChanged().
 class CORE_EXPORT IOptionPage : public QWidget
 {
     Q_OBJECT
@@ -34,6 +36,23 @@ signals:
     void dataChanged();
 
 protected:
+    void showEvent(QShowEvent *pEvent) override;
+
     bool m_bChanged = false;
     bool m_bConfigInitialized = false;
+};
+
+/// Makes a plug-in's page of the preferences dialog. Plug-ins put one into the framework's pool: the dialog
+/// asks each of them when it is first opened, in pool order.
+class CORE_EXPORT IOptionPageFactory : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(IOptionPageFactory)
+
+public:
+    explicit IOptionPageFactory(QObject *pParent = nullptr);
+    ~IOptionPageFactory() override;
+
+    /// The caller owns the page; null for none.
+    [[nodiscard]] virtual IOptionPage *createPage() = 0;
 };

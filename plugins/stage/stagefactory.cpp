@@ -4,6 +4,7 @@
 #include "stagedocument.h"
 #include "stageeditor.h"
 #include "stagenewdialog.h"
+#include "stageoptionsdlg.h"
 
 #include <icore.h>
 #include <mainwindow.h>
@@ -34,7 +35,7 @@ QStringList StageFactory::getSupportedSuffixes()
 
 IOptionsDlg *StageFactory::createOptionsDialog()
 {
-    return nullptr;
+    return new StageOptionsDlg(ICore::getMainWindow());
 }
 
 ICreateDocumentDlg *StageFactory::createNewDocumentDialog()

@@ -9,7 +9,24 @@
 
 #include <extensionsystem/pluginmanager.h>
 
+#include <QSettings>
+
 using ExtensionSystem::PluginManager;
+
+namespace {
+
+// With this group in the store the program knows that it has run before.
+const QString s_geometry = QStringLiteral("Designer/Geometry");
+const QString s_state = QStringLiteral("Designer/State");
+
+void saveWindow()
+{
+    QSettings *pSettings = ICore::settings(QSettings::UserScope);
+    pSettings->setValue(s_geometry, ICore::getMainWindow()->saveGeometry());
+    pSettings->setValue(s_state, ICore::getMainWindow()->saveState());
+}
+
+} // namespace
 
 StagePlugin::StagePlugin() = default;
 
@@ -34,4 +51,14 @@ bool StagePlugin::initialize(const QStringList &arguments, QString *errorString)
     m_pToolBar = new StageToolBar(pMainWindow);
     pMainWindow->addToolBar(m_pToolBar);
     return true;
+}
+
+// Every tool bar is there, and the window is not shown yet.
+void StagePlugin::extensionsInitialized()
+{
+    if (const QSettings *pSettings = ICore::settings(QSettings::UserScope)) {
+        ICore::getMainWindow()->restoreGeometry(pSettings->value(s_geometry).toByteArray());
+        ICore::getMainWindow()->restoreState(pSettings->value(s_state).toByteArray());
+        connect(ICore::getInstance(), &ICore::aboutToSaveSettings, this, saveWindow);
+    }
 }

@@ -10,7 +10,8 @@
 class StageFactory;
 class StageToolBar;
 
-/// Brings the project format "kelpa" into the program: its factory and its tool bar.
+/// Brings the project format "kelpa" into the program: its factory and its tool bar. It also keeps place and
+/// tool bars of the main window from one start to the next.
 class StagePlugin : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
@@ -22,6 +23,7 @@ public:
     ~StagePlugin() override;
 
     bool initialize(const QStringList &arguments, QString *errorString) override;
+    void extensionsInitialized() override;
 
 private:
     std::unique_ptr<StageFactory> m_pFactory;

@@ -4,6 +4,9 @@
 #include "stageeditor.h"
 #include "stageview.h"
 
+#include <actionmanager/actioncontainer.h>
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
 #include <document/documentmanager.h>
 #include <document/editormanager.h>
 #include <document/idocument.h>
@@ -21,21 +24,7 @@
 
 namespace {
 
-const QString s_coreImages = QStringLiteral(":/core/images/");
 const QString s_stageImages = QStringLiteral(":/stage/images/");
-
-struct FileAction
-{
-    const char *pText;
-    const char *pIcon;
-    const char *pShortcut;
-    void (MainWindow::*pSlot)();
-};
-constexpr std::array<FileAction, 3> fileActions = {{
-    {QT_TRANSLATE_NOOP("StageToolBar", "&New..."), "new", "Ctrl+N", &MainWindow::fileNew},
-    {QT_TRANSLATE_NOOP("StageToolBar", "&Open..."), "open", "Ctrl+O", &MainWindow::fileOpen},
-    {QT_TRANSLATE_NOOP("StageToolBar", "&Save"), "save", "Ctrl+S", &MainWindow::fileSave},
-}};
 
 struct ElementAction
 {
@@ -55,9 +44,18 @@ constexpr std::array<ElementAction, 4> elementActions = {{
     {QT_TRANSLATE_NOOP("StageToolBar", "Add &Image..."), "image", StageElement::Type::Image, 0, 0, ""},
 }};
 
-void setIcon(QAction *pAction, const char *pIcon, const QString &strFolder)
+const QString s_undo = QStringLiteral("Edit.Undo");
+const QString s_redo = QStringLiteral("Edit.Redo");
+
+QAction *registerUndo(QAction *pAction, const QString &strId, QKeySequence::StandardKey key,
+    const QString &strDescription, MainWindow *pMainWindow)
 {
-    pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, strFolder));
+    ContextAction *pCommand = ActionManager::registerAction(pAction, strId, pMainWindow, false);
+    pCommand->setDefaultKeySequence(QKeySequence(key));
+    pCommand->setDescription(strDescription);
+    if (ActionContainer *pMenu = ActionManager::getActionContainer(QStringLiteral("MenuBar.Edit")))
+        pMenu->insertAction(pCommand, ActionManager::getAction(QStringLiteral("Edit.Preferences")));
+    return pCommand->getAction();
 }
 
 // Asks for a file and takes the image's own size, or one that fits when that is unknown or large.
@@ -85,11 +83,10 @@ StageToolBar::StageToolBar(MainWindow *pMainWindow)
     setObjectName(QStringLiteral("StageToolBar"));
     setAccessibleName(windowTitle());
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    addFileActions(pMainWindow);
-    addSeparator();
-    addUndoActions();
-    addSeparator();
+    addUndoCommands(pMainWindow);
     addElementActions();
+    loadIcons();
+    connect(pMainWindow, &MainWindow::dpiChanged, this, &StageToolBar::loadIcons);
     if (const EditorManager *pManager = EditorManager::getInstance()) {
         connect(pManager, &EditorManager::editorActivated, this, &StageToolBar::setEditor);
         connect(pManager, &EditorManager::editorDeactivated, this, [this] { setEditor(nullptr); });
@@ -97,31 +94,25 @@ StageToolBar::StageToolBar(MainWindow *pMainWindow)
     setEditor(EditorManager::activeEditor());
 }
 
-StageToolBar::~StageToolBar() = default;
-
-void StageToolBar::addFileActions(MainWindow *pMainWindow)
+StageToolBar::~StageToolBar()
 {
-    for (const FileAction &row : fileActions) {
-        QAction *pAction = addAction(tr(row.pText));
-        pAction->setShortcut(QKeySequence(QLatin1String(row.pShortcut)));
-        setIcon(pAction, row.pIcon, s_coreImages);
-        connect(pAction, &QAction::triggered, pMainWindow, row.pSlot);
-        m_pSave = pAction; // the last of them
-    }
+    ActionManager::unregisterAction(m_pUndo, s_undo);
+    ActionManager::unregisterAction(m_pRedo, s_redo);
 }
 
-void StageToolBar::addUndoActions()
+void StageToolBar::addUndoCommands(MainWindow *pMainWindow)
 {
     QUndoGroup *pGroup = DocumentManager::getUndoGroup();
     if (!pGroup)
         return;
-    QAction *pUndo = pGroup->createUndoAction(this, tr("&Undo"));
-    pUndo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Z")));
-    setIcon(pUndo, "undo", s_stageImages);
-    QAction *pRedo = pGroup->createRedoAction(this, tr("&Redo"));
-    pRedo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
-    setIcon(pRedo, "redo", s_stageImages);
-    addActions({pUndo, pRedo});
+    m_pUndo = pGroup->createUndoAction(this, tr("&Undo"));
+    m_pRedo = pGroup->createRedoAction(this, tr("&Redo"));
+    addAction(registerUndo(m_pUndo, s_undo, QKeySequence::Undo, tr("Undo the last change"), pMainWindow));
+    addAction(
+        registerUndo(m_pRedo, s_redo, QKeySequence::Redo, tr("Redo the last change undone"), pMainWindow));
+    addSeparator();
+    if (ActionContainer *pMenu = ActionManager::getActionContainer(QStringLiteral("MenuBar.Edit")))
+        pMenu->insertSeparator(ActionManager::getAction(QStringLiteral("Edit.Preferences")));
 }
 
 // The view itself takes the Delete key, so that it still deletes letters elsewhere.
@@ -129,18 +120,30 @@ void StageToolBar::addElementActions()
 {
     for (const ElementAction &row : elementActions) {
         QAction *pAction = addAction(tr(row.pText));
-        setIcon(pAction, row.pIcon, s_stageImages);
         connect(pAction, &QAction::triggered, this, [this, type = row.type] { addElement(type); });
         m_addActions.append(pAction);
     }
     m_pDelete = addAction(tr("&Delete"));
     m_pDelete->setToolTip(tr("Delete (Del)"));
-    setIcon(m_pDelete, "delete", s_stageImages);
     connect(m_pDelete, &QAction::triggered, this, [this] {
         auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
         if (pEditor && pEditor->getView())
             pEditor->getView()->deleteSelected();
     });
+}
+
+void StageToolBar::loadIcons()
+{
+    const auto load = [](QAction *pAction, const char *pIcon) {
+        pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, s_stageImages));
+    };
+    for (const auto &[strId, pIcon] : {std::pair {s_undo, "undo"}, std::pair {s_redo, "redo"}}) {
+        if (const ContextAction *pCommand = ActionManager::getAction(strId))
+            load(pCommand->getAction(), pIcon);
+    }
+    for (int i = 0; i < static_cast<int>(elementActions.size()); ++i)
+        load(m_addActions.at(i), elementActions.at(static_cast<std::size_t>(i)).pIcon);
+    load(m_pDelete, "delete");
 }
 
 void StageToolBar::setEditor(IEditor *pEditor)
@@ -159,10 +162,8 @@ void StageToolBar::setEditor(IEditor *pEditor)
 
 void StageToolBar::refresh()
 {
-    const IDocument *pDocument = m_pEditor ? m_pEditor->getDocument() : nullptr;
     const auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
     const StageView *pView = pEditor ? pEditor->getView() : nullptr;
-    m_pSave->setEnabled(pDocument && pDocument->isModified());
     for (QAction *pAction : std::as_const(m_addActions))
         pAction->setEnabled(pView);
     m_pDelete->setEnabled(pView && !pView->selectedElements().isEmpty());

@@ -10,7 +10,8 @@ class IEditor;
 class MainWindow;
 class StageEditor;
 
-/// The commands on projects and on the stage of the active editor. The main window owns it. GUI thread only.
+/// What can be done on the stage of the active editor, and the commands "Edit.Undo" and "Edit.Redo", which
+/// live as long as the bar. The main window owns it. GUI thread only.
 class StageToolBar : public QToolBar
 {
     Q_OBJECT
@@ -21,15 +22,16 @@ public:
     ~StageToolBar() override;
 
 private:
-    void addFileActions(MainWindow *pMainWindow);
-    void addUndoActions();
+    void addUndoCommands(MainWindow *pMainWindow);
     void addElementActions();
+    void loadIcons();
     void setEditor(IEditor *pEditor);
     void refresh();
     void addElement(StageElement::Type type);
 
     QPointer<IEditor> m_pEditor;
-    QAction *m_pSave = nullptr;
+    QAction *m_pUndo = nullptr;
+    QAction *m_pRedo = nullptr;
     QAction *m_pDelete = nullptr;
     QList<QAction *> m_addActions;
 };

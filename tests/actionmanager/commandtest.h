@@ -14,9 +14,17 @@
 
 #include <memory>
 
-/// A program with a main window and nothing else.
+/// A program with a main window, whose own commands are taken away.
 struct Program : TestProgram
 {
+    Program()
+    {
+        for (ContextAction *pCommand : ActionManager::getActions()) {
+            QAction *pAction = static_cast<ProxyAction *>(pCommand->getAction())->action();
+            ActionManager::unregisterAction(pAction, pCommand->getId());
+        }
+    }
+
     std::unique_ptr<MainWindow> pWindow = std::make_unique<MainWindow>(nullptr);
 
     MainWindow *window() const { return pWindow.get(); }

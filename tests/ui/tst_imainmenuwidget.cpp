@@ -64,10 +64,10 @@ private slots:
         m_pProgram = std::make_unique<TestProgram>();
         m_pWindow = std::make_unique<Window>();
         m_pTitleBar = m_pWindow->findChild<IMainMenuWidget *>();
-        m_pMenuBar = new QMenuBar(m_pWindow.get());
+        m_pMenuBar = m_pTitleBar->findChild<QMenuBar *>();
+        m_pMenuBar->clear();
         for (const char *pTitle : {"&File", "&Edit", "&Help"})
             m_pMenuBar->addMenu(QString::fromLatin1(pTitle))->addAction(QStringLiteral("Entry"));
-        m_pTitleBar->setMenuBar(m_pMenuBar);
         m_pWindow->setGeometry(100, 100, 800, 600);
         showAndWait();
     }

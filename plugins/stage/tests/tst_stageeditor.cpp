@@ -63,7 +63,8 @@ struct Program : TestProgram
     [[nodiscard]] QTabBar *tabs() const { return window->getMdiArea()->findChild<QTabBar *>(); }
     [[nodiscard]] QAction *action(const char *pText) const
     {
-        for (QAction *pAction : toolBar->actions()) {
+        const auto actions = window->getFileToolbar()->actions() + toolBar->actions();
+        for (QAction *pAction : actions) {
             if (pAction->text().remove(QLatin1Char('&')).startsWith(QLatin1String(pText)))
                 return pAction;
         }

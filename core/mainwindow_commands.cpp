@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: MIT
+// Menus, commands and the file tool bar: what there is stands in tables, one loop builds it.
+#include "mainwindow.h"
+
+#include "actionmanager/actioncontainer.h"
+#include "actionmanager/actionmanager.h"
+#include "actionmanager/contextaction.h"
+#include "actionmanager/contextmanager.h"
+#include "appearance/ilanguagemanager.h"
+#include "document/documentmanager.h"
+#include "document/editormanager.h"
+#include "document/idocument.h"
+#include "document/ieditor.h"
+#include "iui.h"
+#include "ui/imainmenuwidget.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUndoGroup>
+
+enum class Entry { Command, SubMenu, Separator };
+
+/// One entry of the menus, or a command without one.
+struct CommandRow
+{
+    const char *pMenu; // null: in no menu
+    Entry entry;
+    const char *pId = nullptr;
+    const char *pText = nullptr;
+    QKeySequence::StandardKey standardKey = QKeySequence::UnknownKey;
+    const char *pKeys = nullptr; // where the platform has no standard
+    const char *pDescription = nullptr;
+    const char *pIcon = nullptr;
+    bool bEnabled = true;
+    const char *pSlot = nullptr; // null: a plug-in connects it
+};
+
+namespace {
+
+using Key = QKeySequence::StandardKey;
+
+Q_LOGGING_CATEGORY(lcCommands, "kelpa.core.commands")
+
+const QString s_menuBar = QStringLiteral("Kelpa.MenuBar");
+const QString s_languageMenu = QStringLiteral("View.Language");
+const QString s_recentMenu = QStringLiteral("File.Recent_Projects");
+const QString s_saveAsMenu = QStringLiteral("File.SaveAs");
+const QString s_coreImages = QStringLiteral(":/core/images/");
+const QString s_designerImages = QStringLiteral(":/designer/images/");
+constexpr int s_menuIcon = 2;
+
+struct MenuRow
+{
+    const char *pId;
+    const char *pTitle;
+    bool bTopLevel;
+};
+
+constexpr MenuRow s_menus[] = {
+    {"MenuBar.File", QT_TRANSLATE_NOOP("MainWindow", "&File"), true},
+    {"File.Recent_Projects", QT_TRANSLATE_NOOP("MainWindow", "Recent Projects"), false},
+    {"File.SaveAs", QT_TRANSLATE_NOOP("MainWindow", "Save As"), false},
+    {"MenuBar.Edit", QT_TRANSLATE_NOOP("MainWindow", "&Edit"), true},
+    {"MenuBar.View", QT_TRANSLATE_NOOP("MainWindow", "&View"), true},
+    {"View.Language", QT_TRANSLATE_NOOP("MainWindow", "Language"), false},
+    {"MenuBar.Help", QT_TRANSLATE_NOOP("MainWindow", "&Help"), true},
+};
+
+// The id of "File.New" can be translated: plug-ins that look the command up pass it through tr() as well.
+constexpr CommandRow s_entries[] = {
+    {"MenuBar.File", Entry::Command, QT_TRANSLATE_NOOP("MainWindow", "File.New"),
+        QT_TRANSLATE_NOOP("MainWindow", "&New"), Key::New, nullptr,
+        QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true, SLOT(fileNew())},
+    {"MenuBar.File", Entry::Command, "File.Open_Project", QT_TRANSLATE_NOOP("MainWindow", "&Open Project"),
+        Key::Open, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Open an existing project"), "open", true,
+        SLOT(fileOpen())},
+    {"MenuBar.File", Entry::SubMenu, "File.Recent_Projects"},
+    {"MenuBar.File", Entry::Separator},
+    {"MenuBar.File", Entry::Command, "File.Save", QT_TRANSLATE_NOOP("MainWindow", "&Save"), Key::Save,
+        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project"), "save", false,
+        SLOT(fileSave())},
+    {"File.SaveAs", Entry::Command, "File.SaveAs.Project", QT_TRANSLATE_NOOP("MainWindow", "Other Project"),
+        Key::SaveAs, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project as a new one"),
+        nullptr, false, SLOT(fileSaveAs())},
+    {"MenuBar.File", Entry::SubMenu, "File.SaveAs"},
+    {"MenuBar.File", Entry::Command, "File.Close", QT_TRANSLATE_NOOP("MainWindow", "&Close"), Key::Close,
+        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Close the current project"), nullptr, false,
+        SLOT(fileClose())},
+    {"MenuBar.File", Entry::Separator},
+    {"MenuBar.File", Entry::Command, "File.Preview_Current_Scene_In_Browser",
+        QT_TRANSLATE_NOOP("MainWindow", "Preview Current Scene in Browser"), Key::UnknownKey, "Ctrl+F5"},
+    {nullptr, Entry::Command, "File.Preview_Project",
+        QT_TRANSLATE_NOOP("MainWindow", "Preview Project in Browser")},
+    {"MenuBar.File", Entry::Command, "File.Preview_Project_In_Browser",
+        QT_TRANSLATE_NOOP("MainWindow", "Preview Project in Browser"), Key::UnknownKey, "F5"},
+    {"MenuBar.File", Entry::Separator},
+    {"MenuBar.File", Entry::Command, "File.Export_To_HTML5",
+        QT_TRANSLATE_NOOP("MainWindow", "Export to HTML5"), Key::UnknownKey, "Ctrl+Alt+E"},
+    {"MenuBar.File", Entry::Command, "File.Export_To_Video",
+        QT_TRANSLATE_NOOP("MainWindow", "Export to Video")},
+    {"MenuBar.File", Entry::Separator},
+    // The same default as "File.SaveAs.Project": users of existing shortcut lists expect it here.
+    {"MenuBar.File", Entry::Command, "File.Exit", QT_TRANSLATE_NOOP("MainWindow", "E&xit"), Key::SaveAs,
+        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Quit the program"), nullptr, true, SLOT(fileExit())},
+    {"MenuBar.Edit", Entry::Command, "Edit.Preferences", QT_TRANSLATE_NOOP("MainWindow", "&Preferences"),
+        Key::Preferences, nullptr, nullptr, "preferences", true, SLOT(onPreferences())},
+    {"MenuBar.View", Entry::SubMenu, "View.Language"},
+    {"MenuBar.Help", Entry::Command, "Help.About", QT_TRANSLATE_NOOP("MainWindow", "About")},
+    {"MenuBar.Help", Entry::Command, "Help.Help_Contents", QT_TRANSLATE_NOOP("MainWindow", "Help Contents"),
+        Key::UnknownKey, "F1", nullptr, nullptr, true, SLOT(onHelpContents())},
+    {"MenuBar.Help", Entry::Command, "Help.ReportProblem",
+        QT_TRANSLATE_NOOP("MainWindow", "Report a Problem")},
+    {"MenuBar.Help", Entry::Command, "Help.ProvideSuggestion",
+        QT_TRANSLATE_NOOP("MainWindow", "Provide a Suggestion")},
+    {"MenuBar.Help", Entry::Command, "Help.CheckUpdates",
+        QT_TRANSLATE_NOOP("MainWindow", "Check Updates...")},
+};
+
+constexpr const char *s_fileToolbar[] = {"File.New", "File.Open_Project", "File.Save", nullptr,
+    "File.Preview_Project", "File.Export_To_HTML5", "File.Export_To_Video"};
+
+QKeySequence defaultKeys(const CommandRow &row)
+{
+    return row.pKeys ? QKeySequence(QLatin1String(row.pKeys)) : QKeySequence(row.standardKey);
+}
+
+QAction *commandAction(const QString &strId)
+{
+    const ContextAction *pCommand = ActionManager::getAction(strId);
+    return pCommand ? pCommand->getAction() : nullptr;
+}
+
+} // namespace
+
+void MainWindow::initActions()
+{
+    ActionContainer *pMenuBar = ActionManager::createMenuBarContainer(s_menuBar);
+    m_pTitleBar->setMenuBar(pMenuBar->getMenuBar());
+    for (const MenuRow &row : s_menus) {
+        ActionContainer *pMenu = ActionManager::createMenuContainer(QLatin1String(row.pId), tr(row.pTitle));
+        if (row.bTopLevel)
+            pMenuBar->insertMenu(pMenu);
+    }
+    createRecentCommands();
+    for (const CommandRow &row : s_entries) {
+        ActionContainer *pMenu = ActionManager::getActionContainer(QLatin1String(row.pMenu));
+        if (row.entry == Entry::Command)
+            createCommand(row);
+        else if (row.entry == Entry::SubMenu)
+            insertSubMenu(QLatin1String(row.pId), pMenu);
+        else
+            pMenu->insertSeparator(static_cast<ContextAction *>(nullptr));
+    }
+    ActionManager::getActionContainer(s_saveAsMenu)->getMenu()->setEnabled(false);
+    connect(DocumentManager::getUndoGroup(), &QUndoGroup::cleanChanged, this,
+        &MainWindow::onEnabledSaveActionChanged);
+    connect(this, &MainWindow::dpiChanged, this, &MainWindow::reloadIcons, Qt::DirectConnection);
+}
+
+void MainWindow::createCommand(const CommandRow &row)
+{
+    // The first row's id is translated, every other id stands as it is.
+    const QString strId = &row == s_entries ? tr(row.pId) : QString::fromLatin1(row.pId);
+    auto *pAction = new QAction(tr(row.pText), this);
+    pAction->setEnabled(row.bEnabled);
+    if (row.pIcon) {
+        pAction->setIcon(IUi::getIcon(QLatin1String(row.pIcon), s_menuIcon, s_coreImages));
+        m_themedIcons.emplace(strId, QLatin1String(row.pIcon));
+    }
+    if (row.pSlot)
+        connect(pAction, SIGNAL(triggered()), this, row.pSlot);
+    m_actions.emplace(QLatin1String(row.pId), pAction);
+
+    ContextAction *pCommand = ActionManager::registerAction(pAction, strId, this, false);
+    pCommand->setDefaultKeySequence(defaultKeys(row));
+    if (row.pDescription)
+        pCommand->setDescription(tr(row.pDescription));
+    if (row.pMenu)
+        ActionManager::getActionContainer(QLatin1String(row.pMenu))->insertAction(pCommand);
+}
+
+void MainWindow::insertSubMenu(const QString &strId, ActionContainer *pParent)
+{
+    if (strId == s_languageMenu) {
+        createLanguageMenu(pParent);
+        return;
+    }
+    pParent->insertMenu(ActionManager::getActionContainer(strId));
+    if (strId == s_recentMenu)
+        updateRecentFileActions();
+}
+
+void MainWindow::createLanguageMenu(ActionContainer *pViewMenu)
+{
+    ActionContainer *pContainer = ActionManager::getActionContainer(s_languageMenu);
+    pContainer->getMenu()->setIcon(IUi::getIcon(QStringLiteral("language"), s_menuIcon, s_coreImages));
+    pViewMenu->insertMenu(pContainer);
+
+    auto *pGroup = new QActionGroup(this);
+    pGroup->setExclusive(true);
+    const QString strCurrent = ILanguageManager::getInstance().getCurrentLangId();
+    QAction *pFallback = nullptr;
+    for (const LanguageInfo *pInfo : ILanguageManager::getInstance().getLanguages()) {
+        auto *pAction =
+            new QAction(QStringLiteral("%1 (%2)").arg(pInfo->nativeLanguage, pInfo->country), this);
+        pAction->setCheckable(true);
+        pAction->setData(pInfo->id);
+        pContainer->getMenu()->addAction(pAction);
+        pGroup->addAction(pAction);
+        if (pInfo->id == QLatin1String("en_US"))
+            pFallback = pAction;
+        if (pInfo->id == strCurrent)
+            m_pCurrentLanguage = pAction;
+    }
+    if (!m_pCurrentLanguage)
+        m_pCurrentLanguage = pFallback;
+    if (m_pCurrentLanguage)
+        m_pCurrentLanguage->setChecked(true);
+    connect(pGroup, &QActionGroup::triggered, this, &MainWindow::languageChanged);
+}
+
+// The mark stays at the language in which the program runs: a choice takes effect at the next start.
+void MainWindow::languageChanged(QAction *pAction)
+{
+    const QString strId = pAction->data().toString();
+    ILanguageManager &manager = ILanguageManager::getInstance();
+    if (strId != manager.getCurrentLangId()) {
+        IUi::information(this, QStringLiteral("Kelpa Studio"),
+            manager.saveLanguage(strId) ? tr("The language change will take effect from the next run.")
+                                        : tr("Failed to change language."),
+            QMessageBox::Ok, QMessageBox::Ok);
+    }
+    pAction->setChecked(false);
+    if (m_pCurrentLanguage)
+        m_pCurrentLanguage->setChecked(true);
+}
+
+void MainWindow::createToolBars()
+{
+    m_pFileToolbar = addToolBar(tr("File"));
+    m_pFileToolbar->setObjectName(QStringLiteral("m_pFileToolbar"));
+    for (const char *pId : s_fileToolbar) {
+        if (!pId)
+            m_pFileToolbar->addSeparator();
+        else if (QAction *pAction = commandAction(QLatin1String(pId)))
+            m_pFileToolbar->addAction(pAction);
+    }
+    QAction *pPreview = commandAction(QStringLiteral("File.Preview_Project"));
+    auto *pMenu = new QMenu(this);
+    pMenu->addAction(commandAction(QStringLiteral("File.Preview_Project_In_Browser")));
+    pMenu->addAction(commandAction(QStringLiteral("File.Preview_Current_Scene_In_Browser")));
+    pPreview->setMenu(pMenu);
+    if (auto *pButton = qobject_cast<QToolButton *>(m_pFileToolbar->widgetForAction(pPreview)))
+        pButton->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void MainWindow::reloadIcons()
+{
+    IUi::clearIconCache();
+    for (const auto &[strId, strIcon] : m_themedIcons) {
+        if (QAction *pAction = commandAction(strId))
+            pAction->setIcon(IUi::getIcon(strIcon, s_menuIcon, s_designerImages));
+        else
+            qCDebug(lcCommands) << strId << strIcon;
+    }
+}
+
+void MainWindow::onDPIChanged()
+{
+    if (ActionContainer *pContainer = ActionManager::getActionContainer(s_languageMenu))
+        pContainer->getMenu()->setIcon(IUi::getIcon(QStringLiteral("language"), s_menuIcon, s_coreImages));
+}
+
+void MainWindow::onEnabledSaveActionChanged(bool bDisabled)
+{
+    const IEditor *pEditor = EditorManager::activeEditor();
+    const IDocument *pDoc = pEditor ? pEditor->getDocument() : nullptr;
+    const bool bHasFile = pDoc && !pDoc->isTempDocument() && !pDoc->isOpenAsBackup();
+    enableCommand("File.Save", bHasFile ? !bDisabled : pDoc != nullptr);
+}
+
+void MainWindow::updateSaveAsMenu()
+{
+    const IEditor *pEditor = EditorManager::activeEditor();
+    const bool bDocument = pEditor && pEditor->getDocument();
+    ActionManager::getActionContainer(s_saveAsMenu)->getMenu()->setEnabled(bDocument);
+    enableCommand("File.SaveAs.Project", bDocument);
+    enableCommand("File.Close", bDocument);
+}
+
+void MainWindow::enableCommand(const char *pId, bool bEnabled)
+{
+    m_actions.at(QLatin1String(pId))->setEnabled(bEnabled);
+}
+
+void MainWindow::updateFocusWidget(QWidget *old, QWidget *now)
+{
+    Q_UNUSED(old)
+    if (qobject_cast<QMenuBar *>(now) || qobject_cast<QMenu *>(now))
+        return;
+    QWidget *pFocus = QApplication::focusWidget();
+    if (!pFocus)
+        return;
+    const Context context = ContextManager::getActiveContext(pFocus);
+    if (!context.id.isEmpty())
+        ActionManager::setContext(context.widget);
+}

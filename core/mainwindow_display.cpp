@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+// The main window and the screen it is on: display scale, task bar, native messages; and the help document.
+#include "mainwindow.h"
+
+#include "appearance/ilanguagemanager.h"
+#include "displayscale.h"
+#include "document/idocumentfactory.h"
+#include "icore.h"
+#include "ui/imainmenuwidget.h"
+#include "ui/ioptionsdlg.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+#include <QUrl>
+#include <QWindow>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcWindow, "kelpa.core.window")
+
+constexpr int s_dpiCheckMs = 200;
+
+QString helpFile(const QString &strLanguage)
+{
+    return QDir(ICore::resourcePath())
+        .absoluteFilePath(QStringLiteral("%1_help_%2.pdf").arg(QStringLiteral("Kelpa"), strLanguage));
+}
+
+void tell(const QString &strText)
+{
+    QMessageBox box;
+    box.setText(strText);
+    box.exec();
+}
+
+#ifdef Q_OS_WIN
+// Applies the window's rectangle once more, so that the frame is worked out anew for the new monitor.
+void refreshNativeFrame(const QWidget *pWindow)
+{
+    const HWND hWindow = reinterpret_cast<HWND>(pWindow->winId());
+    RECT rect;
+    if (GetWindowRect(hWindow, &rect)) {
+        SetWindowPos(hWindow, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+            SWP_FRAMECHANGED | SWP_NOMOVE);
+    }
+}
+
+bool isDpiChangeMessage(const QByteArray &eventType, const void *pMessage)
+{
+    constexpr UINT nDpiChanged = 0x02E0; // WM_DPICHANGED
+    return eventType == "windows_generic_MSG" && static_cast<const MSG *>(pMessage)->message == nDpiChanged;
+}
+#else
+// Elsewhere the toolkit's own notifications of screen and scale do it.
+void refreshNativeFrame(const QWidget *) { }
+
+bool isDpiChangeMessage(const QByteArray &, const void *)
+{
+    return false;
+}
+#endif
+
+// A task bar that hides itself reserves nothing: a window as large as the screen would keep it hidden.
+bool coversUnreservedScreen(const QWidget *pWindow)
+{
+    const QScreen *pScreen = pWindow->screen();
+    return pScreen && pScreen->geometry() == pScreen->availableGeometry()
+        && pWindow->frameGeometry() == pScreen->availableGeometry();
+}
+
+} // namespace
+
+void MainWindow::onHelpContents()
+{
+    QString strFile = helpFile(ILanguageManager::getInstance().getCurrentLangNoCountry());
+    if (!QFileInfo::exists(strFile))
+        strFile = helpFile(QStringLiteral("en"));
+    if (!QFileInfo::exists(strFile)) {
+        qCInfo(lcWindow, "Help file not found: %s", qUtf8Printable(strFile));
+        tell(tr("Help document is missing."));
+    } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(strFile))) {
+        qCInfo(lcWindow, "Failed to open help file: %s", qUtf8Printable(strFile));
+        tell(tr("Could not open help file."));
+    }
+}
+
+void MainWindow::onPreferences()
+{
+    if (IOptionsDlg *pDialog = getOptionsDialog())
+        pDialog->showDialog();
+}
+
+void MainWindow::onTimerDPICheck()
+{
+    m_dpiCheckTimer.stop();
+    const int nDPI = DisplayScale::logicalDpi(ICore::getMainWindow());
+    const int nScale = DisplayScale::percent(nDPI);
+    if (nScale == m_nDisplayScale)
+        return;
+    const int nMargin = nDPI / 96;
+    setContentsMargins(nMargin, nMargin, nMargin, nMargin);
+    m_nDisplayScale = nScale;
+    emit dpiChanged(nScale);
+}
+
+void MainWindow::startDpiCheck()
+{
+    m_dpiCheckTimer.start(s_dpiCheckMs);
+}
+
+// The native window comes with the first show, and may be replaced later.
+void MainWindow::watchScreen()
+{
+    if (!windowHandle())
+        return;
+    connect(
+        windowHandle(), &QWindow::screenChanged, this, &MainWindow::onScreenChanged, Qt::UniqueConnection);
+    disconnect(m_screenScale);
+    m_screenScale = connect(screen(), &QScreen::logicalDotsPerInchChanged, this, &MainWindow::startDpiCheck);
+}
+
+void MainWindow::onScreenChanged()
+{
+    watchScreen();
+    refreshNativeFrame(this);
+    startDpiCheck();
+}
+
+bool MainWindow::event(QEvent *pEvent)
+{
+    if (pEvent->type() == QEvent::WinIdChange || pEvent->type() == QEvent::Show)
+        watchScreen();
+    return KPStyledFrame<QMainWindow>::event(pEvent);
+}
+
+bool MainWindow::nativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult)
+{
+    if (isDpiChangeMessage(eventType, pMessage))
+        startDpiCheck();
+    return KPStyledFrame<QMainWindow>::nativeEvent(eventType, pMessage, pResult);
+}
+
+void MainWindow::moveEvent(QMoveEvent *pEvent)
+{
+    KPStyledFrame<QMainWindow>::moveEvent(pEvent);
+    fixAutoHideTaskbar();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *pEvent)
+{
+    KPStyledFrame<QMainWindow>::resizeEvent(pEvent);
+    fixAutoHideTaskbar();
+}
+
+void MainWindow::fixAutoHideTaskbar()
+{
+    if (!coversUnreservedScreen(this))
+        return;
+    QTimer::singleShot(0, this, [this] {
+        if (!coversUnreservedScreen(this))
+            return;
+        const QSize available = screen()->availableGeometry().size();
+        resize(available.width(), available.height() - 1);
+        setWindowState(windowState() | Qt::WindowMaximized);
+    });
+}

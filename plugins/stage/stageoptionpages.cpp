@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "stageoptionpages.h"
+
+#include <appearance/ilanguagemanager.h>
+#include <document/documentmanager.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStyledItemDelegate>
+
+namespace {
+
+constexpr int s_minIntervalSeconds = 10;
+constexpr int s_maxIntervalSeconds = 24 * 60 * 60;
+constexpr int s_maxBreakpoint = 100000; // pixels, beyond any stage
+
+// Lets only positions be typed.
+class PositionDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget *createEditor(
+        QWidget *pParent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QWidget *pEditor = QStyledItemDelegate::createEditor(pParent, option, index);
+        if (auto *pSpin = qobject_cast<QSpinBox *>(pEditor))
+            pSpin->setRange(1, s_maxBreakpoint);
+        return pEditor;
+    }
+};
+
+void addBreakpoint(QListWidget *pList, int nValue, bool bEnabled)
+{
+    auto *pItem = new QListWidgetItem(pList);
+    pItem->setFlags(pItem->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
+    pItem->setData(Qt::EditRole, nValue);
+    pItem->setCheckState(bEnabled ? Qt::Checked : Qt::Unchecked);
+}
+
+DocumentManager::Breakpoints breakpointsOf(const QListWidget *pList)
+{
+    DocumentManager::Breakpoints breakpoints;
+    for (int i = 0; i < pList->count(); ++i) {
+        const QListWidgetItem *pItem = pList->item(i);
+        breakpoints.append({pItem->data(Qt::EditRole).toInt(), pItem->checkState() == Qt::Checked});
+    }
+    return breakpoints;
+}
+
+} // namespace
+
+StageOptionPage::StageOptionPage(const QString &strTitle)
+{
+    setWindowTitle(strTitle);
+    setAccessibleName(strTitle);
+}
+
+StageOptionPage::~StageOptionPage() = default;
+
+void StageOptionPage::initValues()
+{
+    m_bFilling = true;
+    fill();
+    m_bFilling = false;
+    IOptionPage::initValues();
+}
+
+void StageOptionPage::discardChanges()
+{
+    initValues();
+    IOptionPage::discardChanges();
+}
+
+void StageOptionPage::markChanged()
+{
+    if (m_bFilling)
+        return;
+    setChanged(true);
+    emit dataChanged();
+}
+
+GeneralOptionPage::GeneralOptionPage()
+    : StageOptionPage(tr("General"))
+    , m_pLanguage(new QComboBox(this))
+{
+    auto *pLayout = new QFormLayout(this);
+    pLayout->addRow(tr("&Language:"), m_pLanguage);
+    m_pLanguage->setObjectName(QStringLiteral("language"));
+    m_pLanguage->setAccessibleName(tr("Language"));
+    auto *pNote = new QLabel(tr("Another language takes effect at the next start."), this);
+    pNote->setWordWrap(true);
+    pLayout->addRow(pNote);
+    const auto languages = ILanguageManager::getInstance().getLanguages();
+    for (const LanguageInfo *pInfo : languages) {
+        m_pLanguage->addItem(
+            QStringLiteral("%1 (%2)").arg(pInfo->nativeLanguage, pInfo->nativeCountry), pInfo->id);
+    }
+    connect(m_pLanguage, &QComboBox::currentIndexChanged, this, &GeneralOptionPage::markChanged);
+}
+
+GeneralOptionPage::~GeneralOptionPage() = default;
+
+void GeneralOptionPage::fill()
+{
+    const QString strSaved = ILanguageManager::getInstance().getSaveLangId();
+    const int nIndex = m_pLanguage->findData(strSaved);
+    m_pLanguage->setCurrentIndex(qMax(0, nIndex));
+}
+
+void GeneralOptionPage::saveChanges()
+{
+    ILanguageManager::getInstance().saveLanguage(m_pLanguage->currentData().toString());
+    StageOptionPage::saveChanges();
+}
+
+BackupOptionPage::BackupOptionPage()
+    : StageOptionPage(tr("Backup"))
+    , m_pEnable(new QCheckBox(tr("&Back up open projects automatically"), this))
+    , m_pInterval(new QSpinBox(this))
+{
+    m_pEnable->setObjectName(QStringLiteral("backupEnable"));
+    m_pInterval->setObjectName(QStringLiteral("backupInterval"));
+    m_pInterval->setRange(s_minIntervalSeconds, s_maxIntervalSeconds);
+    m_pInterval->setSuffix(tr(" s", "seconds"));
+    m_pInterval->setAccessibleName(tr("Seconds between two backups"));
+    auto *pLayout = new QFormLayout(this);
+    pLayout->addRow(m_pEnable);
+    pLayout->addRow(tr("&Interval:"), m_pInterval);
+    connect(m_pEnable, &QCheckBox::toggled, m_pInterval, &QSpinBox::setEnabled);
+    connect(m_pEnable, &QCheckBox::toggled, this, &BackupOptionPage::markChanged);
+    connect(m_pInterval, &QSpinBox::valueChanged, this, &BackupOptionPage::markChanged);
+}
+
+BackupOptionPage::~BackupOptionPage() = default;
+
+void BackupOptionPage::fill()
+{
+    m_pEnable->setChecked(DocumentManager::isAutobackupEnabled());
+    m_pInterval->setEnabled(m_pEnable->isChecked());
+    m_pInterval->setValue(DocumentManager::getAutobackupTimeout());
+}
+
+void BackupOptionPage::saveChanges()
+{
+    DocumentManager::setAutoBackupEnabled(m_pEnable->isChecked());
+    DocumentManager::setAutobackupTimeout(m_pInterval->value());
+    DocumentManager::saveSettings();
+    const auto apply =
+        m_pEnable->isChecked() ? DocumentManager::startWaitingBackup : DocumentManager::stopWaitingBackup;
+    for (IDocument *pDocument : DocumentManager::getDocuments())
+        apply(pDocument);
+    StageOptionPage::saveChanges();
+}
+
+EditingOptionPage::EditingOptionPage()
+    : StageOptionPage(tr("Editing"))
+    , m_pPasteSvg(new QCheckBox(tr("&Paste SVG as freeform shapes"), this))
+{
+    m_pPasteSvg->setObjectName(QStringLiteral("pasteSvg"));
+    auto *pLists = new QHBoxLayout;
+    QWidget *pPanel = nullptr;
+    m_pHorizontal = createList(tr("Horizontal breakpoints"), &pPanel);
+    pLists->addWidget(pPanel);
+    m_pVertical = createList(tr("Vertical breakpoints"), &pPanel);
+    pLists->addWidget(pPanel);
+    auto *pReset = new QPushButton(tr("Restore &Defaults"), this);
+    pReset->setAccessibleName(tr("Restore the default breakpoints"));
+    pReset->setAutoDefault(false);
+    auto *pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(m_pPasteSvg);
+    pLayout->addLayout(pLists);
+    pLayout->addWidget(pReset, 0, Qt::AlignLeft);
+    connect(m_pPasteSvg, &QCheckBox::toggled, this, &EditingOptionPage::markChanged);
+    connect(pReset, &QPushButton::clicked, this, [this] { fillBreakpoints(true); });
+}
+
+EditingOptionPage::~EditingOptionPage() = default;
+
+QListWidget *EditingOptionPage::createList(const QString &strTitle, QWidget **ppPanel)
+{
+    auto *pBox = new QGroupBox(strTitle, this);
+    auto *pList = new QListWidget(pBox);
+    pList->setAccessibleName(tr("%1, in pixels").arg(strTitle));
+    pList->setItemDelegate(new PositionDelegate(pList));
+    auto *pAdd = new QPushButton(tr("Add"), pBox);
+    auto *pRemove = new QPushButton(tr("Remove"), pBox);
+    auto *pLayout = new QGridLayout(pBox);
+    pLayout->addWidget(pList, 0, 0, 1, 2);
+    pLayout->addWidget(pAdd, 1, 0);
+    pLayout->addWidget(pRemove, 1, 1);
+    for (QPushButton *pButton : {pAdd, pRemove}) {
+        pButton->setAutoDefault(false);
+        pButton->setAccessibleName(QStringLiteral("%1: %2").arg(strTitle, pButton->text()));
+    }
+    connect(pAdd, &QPushButton::clicked, this, [pList] {
+        addBreakpoint(pList, 800, true);
+        pList->setCurrentRow(pList->count() - 1);
+        pList->editItem(pList->currentItem());
+    });
+    connect(pRemove, &QPushButton::clicked, this, [pList] { delete pList->currentItem(); });
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(pList->model(), signal, this, &EditingOptionPage::markChanged);
+    connect(pList, &QListWidget::itemChanged, this, &EditingOptionPage::markChanged);
+    *ppPanel = pBox;
+    return pList;
+}
+
+void EditingOptionPage::fill()
+{
+    m_pPasteSvg->setChecked(DocumentManager::isPasteSvgAsFreeform());
+    fillBreakpoints(false);
+}
+
+void EditingOptionPage::fillBreakpoints(bool bReset)
+{
+    DocumentManager::Breakpoints horizontal, vertical;
+    DocumentManager::initBreakpoints(horizontal, vertical, bReset);
+    m_pHorizontal->clear();
+    for (const auto &[nValue, bEnabled] : std::as_const(horizontal))
+        addBreakpoint(m_pHorizontal, nValue, bEnabled);
+    m_pVertical->clear();
+    for (const auto &[nValue, bEnabled] : std::as_const(vertical))
+        addBreakpoint(m_pVertical, nValue, bEnabled);
+}
+
+void EditingOptionPage::saveChanges()
+{
+    DocumentManager::setPasteSvgAsFreeform(m_pPasteSvg->isChecked());
+    DocumentManager::setHBreakpoints(breakpointsOf(m_pHorizontal));
+    DocumentManager::setVBreakpoints(breakpointsOf(m_pVertical));
+    DocumentManager::saveSettings();
+    StageOptionPage::saveChanges();
+}

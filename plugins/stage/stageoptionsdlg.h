@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ui/ioptionsdlg.h>
+
+class QDialogButtonBox;
+class QListWidget;
+class QStackedWidget;
+
+/// The preferences: a list of pages, its own and those of other plug-ins. Nothing is written before Apply or
+/// OK. The main window keeps it; GUI thread only.
+class StageOptionsDlg : public IOptionsDlg
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StageOptionsDlg)
+
+public:
+    explicit StageOptionsDlg(QWidget *pParent);
+    ~StageOptionsDlg() override;
+
+    void showDialog() override;
+    void addPage(IOptionPage *pPage) override;
+    void onApply() override;
+    void onCancel() override;
+    void onOK() override;
+    void onPageChanged(int nPage) override;
+    [[nodiscard]] int currentPage() override;
+    void setCurrentPage(int nPage) override;
+    [[nodiscard]] bool hasChanges() override;
+
+    void reject() override;
+
+private:
+    void addPages();
+    void updateButtons();
+
+    QListWidget *m_pList;
+    QStackedWidget *m_pStack;
+    QDialogButtonBox *m_pButtons;
+};
