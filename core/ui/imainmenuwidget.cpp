@@ -270,7 +270,9 @@ void IMainMenuWidget::onDPIChanged()
     dressButton("closeButton", tr("Close"), QStringLiteral("close"));
     static_cast<IconLabel *>(m_pIconLabel)
         ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
-    m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
+    // When it is shown, the menu bar does that by itself.
+    if (m_pMenuBar->isVisible())
+        m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
 }
 
 void IMainMenuWidget::showMinimized()
@@ -370,8 +372,13 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
     case QEvent::Resize:
         m_pTitleText->setGeometry(m_pMenuBar->rect());
         return false;
-    case QEvent::FontChange:
     case QEvent::StyleChange:
+        // The bar would measure the buttons, and so dress them in a style that is not the last one yet.
+        if (!m_pMenuBar->testAttribute(Qt::WA_WState_Polished))
+            return true;
+        Q_FALLTHROUGH();
+    case QEvent::Polish:
+    case QEvent::FontChange:
         onDPIChanged();
         return false;
     case QEvent::ToolTip: {

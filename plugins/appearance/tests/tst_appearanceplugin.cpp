@@ -17,7 +17,7 @@ using ExtensionSystem::PluginManager;
 namespace {
 
 // Watches what is told that its style has changed although it was dressed already. Scroll areas dress their
-// scroll bars to measure them as soon as they are made.
+// scroll bars, and the boxes these lie in, to measure them as soon as they are made.
 class Restyled : public QObject
 {
 public:
@@ -26,8 +26,11 @@ public:
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override
     {
         const auto *pWidget = qobject_cast<QWidget *>(pWatched);
-        if (pWidget && !pWidget->inherits("QScrollBar") && pEvent->type() == QEvent::StyleChange
-            && pWidget->testAttribute(Qt::WA_WState_Polished))
+        if (pEvent->type() != QEvent::StyleChange || !pWidget
+            || !pWidget->testAttribute(Qt::WA_WState_Polished))
+            return false;
+        const QWidget *pParent = pWidget->parentWidget();
+        if (!pWidget->inherits("QScrollBar") && !(pParent && pParent->inherits("QAbstractScrollArea")))
             names.append(QString("%1 %2").arg(pWidget->metaObject()->className(), pWidget->objectName()));
         return false;
     }
