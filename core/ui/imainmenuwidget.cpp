@@ -156,7 +156,9 @@ void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
     createButtons();
     m_pTitleText = new TitleText(this);
     m_pTitleText->setGeometry(m_pMenuBar->rect());
-    m_pTitleText->show();
+    // Otherwise it comes up with the menu bar, and is not dressed before.
+    if (m_pMenuBar->isVisible())
+        m_pTitleText->show();
     m_pMenuBar->installEventFilter(this);
     createShortcuts();
     onDPIChanged();
@@ -377,7 +379,7 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
         if (!m_pMenuBar->testAttribute(Qt::WA_WState_Polished))
             return true;
         Q_FALLTHROUGH();
-    case QEvent::Polish:
+    case QEvent::Show:
     case QEvent::FontChange:
         onDPIChanged();
         return false;

@@ -31,7 +31,9 @@ public:
             return false;
         const QWidget *pParent = pWidget->parentWidget();
         if (!pWidget->inherits("QScrollBar") && !(pParent && pParent->inherits("QAbstractScrollArea")))
-            names.append(QString("%1 %2").arg(pWidget->metaObject()->className(), pWidget->objectName()));
+            names.append(QString("%1 \"%2\" in %3")
+                             .arg(pWidget->metaObject()->className(), pWidget->objectName(),
+                                 pParent ? pParent->metaObject()->className() : "nothing"));
         return false;
     }
 
