@@ -47,7 +47,8 @@ private slots:
         QVERIFY(QFile::copy(KELPA_EXAMPLES "/card.kelpa", m_strProject));
 
         m_survey.setFolder(environment("KELPA_SHOTS", ""));
-        m_survey.setName(environment("KELPA_THEME", "Dark") + '-' + environment("QT_FONT_DPI", "96"));
+        m_survey.setName(environment("KELPA_LANGUAGE", "test") + '-' + environment("KELPA_THEME", "Dark")
+            + '-' + environment("QT_FONT_DPI", "96"));
         m_pManager = std::make_unique<PluginManager>();
         connect(m_pManager.get(), &PluginManager::aboutToLoadPlugins, this, &tst_Windows::installLanguage);
         const auto exitCode =
