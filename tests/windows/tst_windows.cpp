@@ -156,6 +156,26 @@ private slots:
         QCOMPARE(faults.join("; "), QString());
     }
 
+    // The two commands that share their keys have none that works.
+    void helpNamesTheKeys()
+    {
+        QFile file(KELPA_HELP "/en.md");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString strHelp = QString::fromUtf8(file.readAll());
+        QMultiMap<QString, QString> ids;
+        const auto commands = ActionManager::getActions();
+        for (const ContextAction *pCommand : commands) {
+            const QKeySequence keys = pCommand->getAction()->shortcut();
+            if (!keys.isEmpty())
+                ids.insert(keys.toString(QKeySequence::PortableText), pCommand->getId());
+        }
+        QVERIFY(ids.size() > 5);
+        for (const QString &strKeys : ids.uniqueKeys()) {
+            if (ids.count(strKeys) == 1)
+                QVERIFY2(strHelp.contains(strKeys), qPrintable(ids.value(strKeys) + ": " + strKeys));
+        }
+    }
+
     // Last: it turns everything round.
     void rightToLeftMirrorsWithoutOverlap()
     {
