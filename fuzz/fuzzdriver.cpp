@@ -27,7 +27,7 @@ public:
         std::string text(pick(fuzzSeeds.inputs));
         for (std::size_t n = below(8); n > 0; --n)
             mutate(text);
-        if (below(100000) == 0)
+        if (below(4000) == 0 && text.front() == 'F')
             text.append(1100000, ' ');
         return text;
     }

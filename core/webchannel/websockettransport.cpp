@@ -16,7 +16,7 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
     , m_socket(socket)
 {
     connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived);
-    connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::deleteLater);
+    connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected);
     connect(&m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed);
 }
 
@@ -50,6 +50,14 @@ WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
     return result;
 }
 
+// What the client sent before it left still counts.
+void WebSocketTransport::onDisconnected()
+{
+    m_bClientGone = true;
+    if (m_waiting.isEmpty())
+        deleteLater();
+}
+
 // The socket pauses, so that what waits here stays little.
 void WebSocketTransport::parseWaiting()
 {
@@ -68,10 +76,12 @@ void WebSocketTransport::onParsed()
 {
     const QString strMessage = m_waiting.dequeue();
     const Parsed parsed = m_parsing.result();
-    if (m_waiting.isEmpty())
-        ClientLimits::resume(m_socket);
-    else
+    if (!m_waiting.isEmpty())
         parseWaiting();
+    else if (m_bClientGone)
+        deleteLater();
+    else
+        ClientLimits::resume(m_socket);
     handle(strMessage, parsed);
 }
 

@@ -12,8 +12,9 @@
 class QWebSocket;
 
 /// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
-/// socket with it when it is deleted; both go when the client disconnects. GUI thread only; a message of more
-/// than a million characters is parsed beside it, and until it is the client waits.
+/// socket with it when it is deleted; both go when the client has disconnected and its messages are handled.
+/// GUI thread only; a message of more than a million characters is parsed beside it, and until it is the
+/// client waits.
 class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
 {
     Q_OBJECT
@@ -41,6 +42,7 @@ private:
     void handle(const QString &strMessage, const Parsed &parsed);
     void parseWaiting();
     void onParsed();
+    void onDisconnected();
     [[nodiscard]] bool mayWarn();
     void reportUnlogged();
 
@@ -49,4 +51,5 @@ private:
     QFutureWatcher<Parsed> m_parsing;
     QElapsedTimer m_warningPeriod;
     int m_nWarnings = 0;
+    bool m_bClientGone = false;
 };
