@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a feed says, and what the program makes of its versions, addresses and names.
+#include "fuzzseeds.h"
+
 #include <updater/appcast.h>
 #include <updater/updatetexts.h>
 
@@ -10,6 +12,16 @@
 #include <cstdlib>
 
 namespace {
+
+// The first byte only stands for the way in.
+constexpr std::string_view s_inputs[] = {
+    R"(A{"updates":{"windows":{"latest-version":"3.1.10","download-url":"https://k.example/a/Setup.exe"}}})",
+    R"(A{"updates":{"windows":{"latest-version":"4","open-url":"http://k.example/","changelog":"com1.txt"}}})",
+    R"(A{"updates":{"windows":{"latest-version":"4","verification":{"sha256":"00","signature":"AA=="}}}})",
+};
+constexpr std::string_view s_words[] = {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1", "1e999",
+    "\\u0000", "\\ud800", "\xFF", "\n", "\"windows\":", "\"latest-version\":", "/../", "\\u202e",
+    ".99999999999.", "aux."};
 
 void require(bool bHolds)
 {
@@ -25,6 +37,8 @@ void requireSafe(const QString &strName)
 }
 
 } // namespace
+
+const FuzzSeeds fuzzSeeds = {s_inputs, s_words};
 
 extern "C" int LLVMFuzzerInitialize(int *pCount, char ***pArguments)
 {
