@@ -5,19 +5,24 @@
 #include "clientpolicy.h"
 
 #include <QJsonObject>
+#include <QPointer>
 #include <QPromise>
 #include <QThreadPool>
 #include <QWebSocket>
 
 #include <memory>
 
+// Queued: what is called may run an event loop for a dialog, in which a client that leaves takes its socket
+// along. Neither the socket nor the watcher can do without themselves in their own signals.
 WebSocketTransport::WebSocketTransport(QWebSocket *socket)
     : QWebChannelAbstractTransport(socket)
     , m_socket(socket)
 {
-    connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived);
+    connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived,
+        Qt::QueuedConnection);
     connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::deleteLater);
-    connect(&m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed);
+    connect(
+        &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
 }
 
 WebSocketTransport::~WebSocketTransport()
@@ -34,12 +39,12 @@ void WebSocketTransport::sendMessage(const QJsonObject &message)
 
 void WebSocketTransport::textMessageReceived(const QString &message)
 {
-    if (m_waiting.isEmpty() && message.size() <= ClientPolicy::CharactersParsedAtOnce) {
-        handle(message, parse(message));
-        return;
-    }
     m_waiting.enqueue(message);
-    if (m_waiting.size() == 1)
+    if (m_waiting.size() > 1)
+        setPaused(true);
+    else if (message.size() <= ClientPolicy::CharactersParsedAtOnce)
+        workOff(parse(message));
+    else
         parseWaiting();
 }
 
@@ -50,10 +55,9 @@ WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
     return result;
 }
 
-// The socket pauses, so that what waits here stays little.
 void WebSocketTransport::parseWaiting()
 {
-    ClientLimits::pause(m_socket);
+    setPaused(true);
     auto promise = std::make_shared<QPromise<Parsed>>();
     promise->start();
     m_parsing.setFuture(promise->future());
@@ -63,16 +67,31 @@ void WebSocketTransport::parseWaiting()
     });
 }
 
-// Handling comes last: whoever gets the message may delete this transport or run an event loop.
 void WebSocketTransport::onParsed()
 {
-    const QString strMessage = m_waiting.dequeue();
-    const Parsed parsed = m_parsing.result();
+    workOff(m_parsing.result());
+}
+
+// Whoever gets the message may delete this transport.
+void WebSocketTransport::workOff(const Parsed &parsed)
+{
+    const QPointer<WebSocketTransport> pThis(this);
+    handle(QString(m_waiting.constFirst()), parsed);
+    if (!pThis)
+        return;
+    m_waiting.dequeue();
     if (m_waiting.isEmpty())
-        ClientLimits::resume(m_socket);
+        setPaused(false);
     else
         parseWaiting();
-    handle(strMessage, parsed);
+}
+
+// So that what waits here stays little.
+void WebSocketTransport::setPaused(bool bPaused)
+{
+    if (bPaused != m_bPaused)
+        bPaused ? ClientLimits::pause(m_socket) : ClientLimits::resume(m_socket);
+    m_bPaused = bPaused;
 }
 
 void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
