@@ -33,6 +33,19 @@ QString inQuotes(const QString &strPath)
     return QLatin1Char('"') + QDir::toNativeSeparators(strPath) + QLatin1Char('"');
 }
 
+// A full disk may take a beginning first; only the next attempt names the reason.
+bool writeAll(QFile *pFile, const QByteArray &content)
+{
+    qint64 nDone = 0;
+    while (nDone < content.size()) {
+        const qint64 nWritten = pFile->write(content.constData() + nDone, content.size() - nDone);
+        if (nWritten <= 0)
+            return false;
+        nDone += nWritten;
+    }
+    return true;
+}
+
 } // namespace
 
 Downloader::Downloader(QWidget *pParent)
@@ -255,7 +268,7 @@ bool Downloader::takeData()
         fail(tr("Cannot write %1: another program has changed it.").arg(inQuotes(partPath())));
         return false;
     }
-    if (!bOpen || file.write(arrived) != arrived.size()) {
+    if (!bOpen || !writeAll(&file, arrived)) {
         fail(tr("Cannot write %1: %2.").arg(inQuotes(partPath()), file.errorString()));
         return false;
     }

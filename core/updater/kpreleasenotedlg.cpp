@@ -62,13 +62,14 @@ void KPReleaseNoteDlg::setReleaseNotes(const QString &strNotes)
     m_pView->load(QUrl(strNotes));
 }
 
-// The page that stands in for a failed one finishes too, and means nothing.
+// Only the first end counts: the page in place of a failed one finishes too, and so does a link that leads
+// outside.
 void KPReleaseNoteDlg::onLoadFinished(bool bOk)
 {
     if (!m_bLoading)
         return;
     m_pDeadline->stop();
-    m_bLoading = bOk;
+    m_bLoading = false;
     if (bOk)
         m_pUi->m_pBtnUpdate->setEnabled(true);
     else

@@ -42,5 +42,5 @@ private:
     const std::unique_ptr<Ui::KPReleaseNoteUI> m_pUi;
     WebView *m_pView = nullptr;
     QTimer *m_pDeadline;
-    bool m_bLoading = false; ///< a URL, whose end decides about "Update"
+    bool m_bLoading = false; ///< a URL; its end decides about "Update"
 };

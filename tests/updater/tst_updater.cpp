@@ -33,6 +33,12 @@ Downloader *visibleDownloader()
     return nullptr;
 }
 
+// Progress is told ten times a second, so what comes at once is not told.
+void writeLater(QTcpSocket *pSocket)
+{
+    QTimer::singleShot(200, pSocket, [pSocket] { pSocket->write(QByteArray(500, 'a')); });
+}
+
 } // namespace
 
 class tst_Updater : public QObject
@@ -40,6 +46,8 @@ class tst_Updater : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QGuiApplication::setQuitOnLastWindowClosed(false); }
+
     void wholeRoadEndsWithTheInstallerOpenedAndTheProgramLeft()
     {
         TestHome home;
@@ -275,11 +283,13 @@ private slots:
         QPointer<QTcpSocket> pSocket;
         server.on(QStringLiteral("/known"), [&](QTcpSocket *p) {
             pSocket = p;
-            p->write("HTTP/1.1 200 OK\r\nContent-Length: 5000\r\n\r\n" + QByteArray(1500, 'a'));
+            p->write("HTTP/1.1 200 OK\r\nContent-Length: 5000\r\n\r\n" + QByteArray(1000, 'a'));
+            writeLater(p);
         });
         server.on(QStringLiteral("/unknown"), [&](QTcpSocket *p) {
             pSocket = p;
-            p->write("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(1500, 'a'));
+            p->write("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(1000, 'a'));
+            writeLater(p);
         });
         Downloader downloader;
         downloader.setFileName(QStringLiteral("x"));
