@@ -105,6 +105,7 @@ QJsonObject commands()
 QString server()
 {
     QUrl url = ICore::getMainWindow()->getServer()->serverUrl();
+    url.setPath(QStringLiteral("/"));
     url.setQuery(QStringLiteral("key=") + ICore::getMainWindow()->getServerKey());
     return url.toString(QUrl::FullyEncoded);
 }

@@ -152,10 +152,11 @@ void WelcomeWidget::showList()
     takeFocus();
 }
 
-// Only from what has no use for keys itself.
+// A window that comes up gives the focus to some button. Menus and dialogs keep theirs.
 void WelcomeWidget::takeFocus()
 {
     const QWidget *pFocus = QApplication::focusWidget();
-    if (m_pContent && isVisible() && (!pFocus || pFocus == window() || pFocus == m_pArea || pFocus == this))
+    if (m_pContent && isVisible() && !QApplication::activePopupWidget()
+        && (!pFocus || pFocus->window() == window()))
         m_pContent->setFocus();
 }
