@@ -60,8 +60,9 @@ void EngineView::onLoaded(bool bOk)
 
 void EngineView::setPageData(const QJsonObject &pageData)
 {
-    const QString strSource = QStringLiteral("window.pageData = %1;")
-                                  .arg(QString::fromUtf8(QJsonDocument(pageData).toJson(QJsonDocument::Compact)));
+    const QString strSource =
+        QStringLiteral("window.pageData = %1;")
+            .arg(QString::fromUtf8(QJsonDocument(pageData).toJson(QJsonDocument::Compact)));
     QWebEngineScript script;
     script.setSourceCode(strSource);
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);

@@ -69,6 +69,17 @@ QString mixed(const QColor &first, const QColor &second, double fSecond)
         .name();
 }
 
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+// For what the engine draws by itself, such as scroll bars.
+QString scheme(const QPalette &palette)
+{
+    return isDark(palette) ? QStringLiteral("dark") : QStringLiteral("light");
+}
+
 // The shades between are those of the two colours that every theme has.
 QJsonObject colours(const QPalette &palette)
 {
@@ -80,7 +91,7 @@ QJsonObject colours(const QPalette &palette)
         {QStringLiteral("text"), text.name()},
         {QStringLiteral("muted"), mixed(text, window, 0.3)},
         {QStringLiteral("line"), mixed(window, text, 0.16)},
-        {QStringLiteral("surface"), mixed(window, text, window.lightness() < 128 ? 0.06 : 0.035)},
+        {QStringLiteral("surface"), mixed(window, text, isDark(palette) ? 0.06 : 0.035)},
         {QStringLiteral("hover"), mixed(window, text, 0.12)},
         {QStringLiteral("highlight"), highlight.name()},
         {QStringLiteral("highlight-text"), palette.color(QPalette::HighlightedText).name()},
@@ -129,6 +140,7 @@ QJsonObject WelcomePage::data(const QWidget &widget)
         {QStringLiteral("server"), server()},
         {QStringLiteral("texts"), texts()},
         {QStringLiteral("direction"), widget.isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr")},
+        {QStringLiteral("scheme"), scheme(widget.palette())},
         {QStringLiteral("colours"), colours(widget.palette())},
         {QStringLiteral("font"), font.family()},
         {QStringLiteral("commands"), commands()},

@@ -52,6 +52,7 @@ function applyData()
 {
     const data = window.pageData;
     document.documentElement.dir = data.direction;
+    document.documentElement.style.colorScheme = data.scheme;
     for (const [name, value] of Object.entries(data.colours))
         document.documentElement.style.setProperty("--" + name, value);
     document.documentElement.style.setProperty("--font", JSON.stringify(data.font));
