@@ -8,6 +8,7 @@
 #include "icore.h"
 #include "ui/imainmenuwidget.h"
 #include "ui/ioptionsdlg.h"
+#include "ui/nativescreen.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -18,10 +19,6 @@
 #include <QTimer>
 #include <QUrl>
 #include <QWindow>
-
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
 
 namespace {
 
@@ -41,33 +38,6 @@ void tell(const QString &strText)
     box.setText(strText);
     box.exec();
 }
-
-#ifdef Q_OS_WIN
-// Applies the window's rectangle once more, so that the frame is worked out anew for the new monitor.
-void refreshNativeFrame(const QWidget *pWindow)
-{
-    const HWND hWindow = reinterpret_cast<HWND>(pWindow->winId());
-    RECT rect;
-    if (GetWindowRect(hWindow, &rect)) {
-        SetWindowPos(hWindow, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
-            SWP_FRAMECHANGED | SWP_NOMOVE);
-    }
-}
-
-bool isDpiChangeMessage(const QByteArray &eventType, const void *pMessage)
-{
-    constexpr UINT nDpiChanged = 0x02E0; // WM_DPICHANGED
-    return eventType == "windows_generic_MSG" && static_cast<const MSG *>(pMessage)->message == nDpiChanged;
-}
-#else
-// Elsewhere the toolkit's own notifications of screen and scale do it.
-void refreshNativeFrame(const QWidget *) { }
-
-bool isDpiChangeMessage(const QByteArray &, const void *)
-{
-    return false;
-}
-#endif
 
 // A task bar that hides itself reserves nothing: a window as large as the screen would keep it hidden.
 bool coversUnreservedScreen(const QWidget *pWindow)
@@ -131,7 +101,7 @@ void MainWindow::watchScreen()
 void MainWindow::onScreenChanged()
 {
     watchScreen();
-    refreshNativeFrame(this);
+    NativeScreen::refreshFrame(this);
     startDpiCheck();
 }
 
@@ -144,7 +114,7 @@ bool MainWindow::event(QEvent *pEvent)
 
 bool MainWindow::nativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult)
 {
-    if (isDpiChangeMessage(eventType, pMessage))
+    if (NativeScreen::isScaleChange(eventType, pMessage))
         startDpiCheck();
     return KPStyledFrame<QMainWindow>::nativeEvent(eventType, pMessage, pResult);
 }

@@ -196,7 +196,9 @@ void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
     connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
     EditorManager::activateEditor(pEditor);
     emit pDoc->aboutToOpen();
-    pDoc->save();
+    // The history alone would tell that there is nothing to save.
+    if (!pDoc->save())
+        enableCommand("File.Save", true);
     startBackup(pDoc);
 }
 
@@ -267,6 +269,9 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
         pDoc->cleanTempDir();
     delete pDoc;
     emit updateWindowFilePath(QString());
+    if (!EditorManager::activeEditor())
+        emit updateModified(false);
+    updateRecentFileActions(); // a temporary project that was not kept, or got a name, changed the list
     updateWelcomeWidget();
     updateSaveAsMenu();
 }

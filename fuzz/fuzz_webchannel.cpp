@@ -1,14 +1,22 @@
 // SPDX-License-Identifier: MIT
-// What a client sends: text frames into a transport with a channel behind it, and handshakes into the policy.
+// What a client sends: text messages into a transport with a channel behind it, bytes behind a handshake over
+// a real socket, and handshakes into the policy.
 #include <webchannel/clientpolicy.h>
+#include <webchannel/websocketclientwrapper.h>
 #include <webchannel/websockettransport.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QPointer>
+#include <QTcpSocket>
+#include <QUrl>
 #include <QWebChannel>
 #include <QWebSocket>
+#include <QWebSocketServer>
 
 #include <cstdint>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 
 namespace {
@@ -38,12 +46,30 @@ struct Program
     {
         channel.registerObject(QStringLiteral("target"), &target);
         channel.connectTo(new WebSocketTransport(&socket));
+        QObject::connect(&wrapper, &WebSocketClientWrapper::clientConnected, &channel,
+            [this](WebSocketTransport *pClient) {
+                channel.connectTo(pClient);
+                pLast = pClient;
+            });
+        server.listen(QHostAddress::LocalHost);
     }
 
     Target target;
     QWebChannel channel;
     QWebSocket socket;
+    QWebSocketServer server {QStringLiteral("KPServer"), QWebSocketServer::NonSecureMode};
+    WebSocketClientWrapper wrapper {&server};
+    QPointer<WebSocketTransport> pLast;
 };
+
+Program &program()
+{
+    static std::unique_ptr<Program> s_pProgram;
+    static int s_nInputs = 0;
+    if (s_nInputs++ % 1000 == 0)
+        s_pProgram = std::make_unique<Program>();
+    return *s_pProgram;
+}
 
 void require(bool bHolds)
 {
@@ -51,29 +77,77 @@ void require(bool bHolds)
         std::abort();
 }
 
-// The first three lines are a host, an origin and a query.
+// Not the policy's own arithmetic: the three names in any case, each with the port behind it.
+bool isOwnHost(const QByteArray &host)
+{
+    const QString strHost = QString::fromLatin1(host);
+    return QStringList {"127.0.0.1:4711", "localhost:4711", "[::1]:4711"}.contains(
+        strHost, Qt::CaseInsensitive);
+}
+
+// Walks the pairs of the query by hand; the names of the fields may be escaped too.
+bool carriesKeyOnce(const QByteArray &query, const QByteArray &key)
+{
+    int nFields = 0;
+    bool bRight = false;
+    for (const QByteArray &pair : query.split('&')) {
+        const qsizetype nEqual = pair.indexOf('=');
+        if (QByteArray::fromPercentEncoding(nEqual < 0 ? pair : pair.left(nEqual)) != "key")
+            continue;
+        ++nFields;
+        bRight = nEqual >= 0 && QByteArray::fromPercentEncoding(pair.mid(nEqual + 1)) == key;
+    }
+    return nFields == 1 && bRight;
+}
+
+// The lines are a host, an origin and a query. A lone "-" is no origin at all.
 void fuzzHandshake(const QByteArray &input)
 {
     static const QByteArray s_key = "0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE";
     const QList<QByteArray> lines = input.split('\n');
-    const ClientPolicy::Handshake handshake {
-        lines.value(1), lines.constFirst(), QString::fromUtf8(lines.value(2))};
-    const bool bAccepted = ClientPolicy::judge(handshake, 4711, s_key) == ClientPolicy::Verdict::Accept;
-    require(!bAccepted || handshake.host.endsWith(":4711"));
-    require(!bAccepted || *handshake.origin == "qrc:"
-        || QByteArray::fromPercentEncoding(handshake.strQuery.toUtf8()).contains(s_key));
+    ClientPolicy::Handshake handshake {lines.value(1), lines.constFirst(), {}};
+    if (handshake.origin == "-")
+        handshake.origin.reset();
+    const QUrl url(QStringLiteral("ws://a/?") + QString::fromLatin1(lines.value(2)));
+    handshake.strQuery = url.query(QUrl::FullyEncoded);
+    const bool bOwnOrigin = !handshake.origin || *handshake.origin == "qrc:";
+    const bool bExpected =
+        isOwnHost(handshake.host) && (bOwnOrigin || carriesKeyOnce(handshake.strQuery.toLatin1(), s_key));
+    require((ClientPolicy::judge(handshake, 4711, s_key) == ClientPolicy::Verdict::Accept) == bExpected);
 }
 
-void fuzzFrame(const QByteArray &input)
+void fuzzMessage(const QByteArray &input)
 {
-    static std::unique_ptr<Program> s_pProgram;
-    static int s_nInputs = 0;
-    if (s_nInputs++ % 1000 == 0)
-        s_pProgram = std::make_unique<Program>();
     const QString strText = QString::fromUtf8(input);
-    emit s_pProgram->socket.textMessageReceived(strText);
-    if (strText.size() > ClientPolicy::CharactersParsedAtOnce)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    emit program().socket.textMessageReceived(strText);
+    QCoreApplication::processEvents(strText.size() > ClientPolicy::CharactersParsedAtOnce
+            ? QEventLoop::WaitForMoreEvents
+            : QEventLoop::AllEvents);
+}
+
+void waitUntil(const std::function<bool()> &isDone)
+{
+    const QDeadlineTimer end(10000);
+    while (!isDone()) {
+        require(!end.hasExpired());
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+}
+
+// A client of its own, that leaves behind its bytes. Nothing of it may stay.
+void fuzzBytes(const QByteArray &input)
+{
+    Program &current = program();
+    const QByteArray host = "127.0.0.1:" + QByteArray::number(current.server.serverPort());
+    QTcpSocket client;
+    client.connectToHost(QHostAddress::LocalHost, current.server.serverPort());
+    client.write("GET / HTTP/1.1\r\nHost: " + host
+        + "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
+          "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n\r\n");
+    waitUntil([&] { return client.bytesAvailable() > 0 && current.pLast; });
+    client.write(input);
+    client.disconnectFromHost();
+    waitUntil([&] { return !current.pLast && client.state() == QAbstractSocket::UnconnectedState; });
 }
 
 } // namespace
@@ -91,8 +165,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *pData, std::size_t nSi
     const QByteArray input(reinterpret_cast<const char *>(pData), static_cast<qsizetype>(nSize));
     if (input.startsWith('H'))
         fuzzHandshake(input.mid(1));
+    else if (input.startsWith('B'))
+        fuzzBytes(input.mid(1));
     else
-        fuzzFrame(input.mid(1));
+        fuzzMessage(input.mid(1));
     return 0;
 }
 

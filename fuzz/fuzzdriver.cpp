@@ -13,7 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *pData, std::size_t nSi
 
 namespace {
 
-constexpr std::array<std::string_view, 15> s_seeds {
+using namespace std::string_view_literals;
+
+constexpr std::array<std::string_view, 22> s_seeds {
     R"(F{"type":3,"id":0})",
     R"(F{"type":4})",
     R"(F{"type":6,"id":1,"object":"target","method":"add","args":[1,2]})",
@@ -28,13 +30,21 @@ constexpr std::array<std::string_view, 15> s_seeds {
     R"(F[1,"two",{"three":[]}])",
     "H127.0.0.1:4711\nqrc:\n",
     "Hlocalhost:4711\nhttp://a\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
+    "Hlocalhost:4711\n-\n",
+    "HLOCALHOST:4711\nqrc:\nkey=",
+    "Hevil.example:4711\n-\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
+    "B\x81\x91\0\0\0\0{\"type\":3,\"id\":0}\x89\x83\0\0\0\0abc"sv,
+    "B\x01\x88\0\0\0\0{\"type\":\x80\x82\0\0\0\0"
+    "4}\x88\x82\0\0\0\0\x03\xE8"sv,
+    "B\x81\xFE\0\x11\0\0\0\0{\"type\":3,\"id\":0}\x82\x83\0\0\0\0abc"sv,
+    "B\x81\xFF\0\0\0\0\0\0\0\x11\1\2\3\4{\"type\":3,\"id\":0}"sv,
     "H[::1]:4711\nnull\na=b&key=%30123456789abcdefghijklmnopqrstuvwxyz_-ABCDE&key=",
 };
 
-constexpr std::array<std::string_view, 26> s_words {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1",
+constexpr std::array<std::string_view, 31> s_words {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1",
     "0", "2147483648", "9223372036854775808", "1e999", "\\u0000", "\\ud800", "\xFF", "\n",
     "\"type\":", "\"object\":\"target\"", "\"__QObject*__\"", "\"deleteLater\"", "\"destroyed\"",
-    "key=", "%00", "qrc:"};
+    "key=", "%00", "qrc:", "-", "%6Bey=", ":4711", "\x81\x80\0\0\0\0"sv, "\x7F\xFF\xFF\xFF"};
 
 class Mutator
 {
@@ -49,7 +59,7 @@ public:
         std::string text(pick(s_seeds));
         for (std::size_t n = below(8); n > 0; --n)
             mutate(text);
-        if (below(100000) == 0)
+        if (below(4000) == 0 && text.front() == 'F')
             text.append(1100000, ' ');
         return text;
     }

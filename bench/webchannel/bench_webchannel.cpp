@@ -203,47 +203,59 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs)
-            if (run.run_type == Run::RT_Iteration)
+            if (run.run_type == Run::RT_Iteration && run.iterations > 0 && !run.error_occurred)
                 m_times[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
         ConsoleReporter::ReportRuns(runs);
     }
 
-    /// The throughput of the first as a part of the second's; 0 if one did not run.
-    [[nodiscard]] double ratio(const std::string &first, const std::string &second)
+    /// The throughput of the first as a part of the second's, by the medians or the fastest repetitions; 0 if
+    /// one did not run.
+    [[nodiscard]] double ratio(const std::string &first, const std::string &second, bool bFastest)
     {
-        return m_times.count(first) && m_times.count(second) ? median(second) / median(first) : 0;
+        return m_times.count(first) && m_times.count(second) ? time(second, bFastest) / time(first, bFastest)
+                                                             : 0;
     }
 
 private:
-    double median(const std::string &name)
+    double time(const std::string &name, bool bFastest)
     {
         std::vector<double> &times = m_times[name];
         std::sort(times.begin(), times.end());
-        return times[times.size() / 2];
+        return times[bFastest ? 0 : times.size() / 2];
     }
 
     std::map<std::string, std::vector<double>> m_times;
 };
 
-// The bound divided by the slack; no slack, no bound.
-bool check(Ratios &ratios, double slack)
+struct Comparison
+{
+    int nKind;
+    int nBase;
+    bool bBound;
+};
+constexpr Comparison s_comparisons[] {{1, 0, true}, {3, 2, true}, {3, 0, false}};
+
+// The bound divided by the slack; no slack, no bound. In a short run the fastest repetitions tell most: what
+// else the machine does slows the others. What did not run is only right if it was left out.
+bool check(Ratios &ratios, double slack, bool bAllRan)
 {
     constexpr double Bound = 0.95;
     bool bGood = true;
+    int nCompared = 0;
     for (const auto &[size, nSize] : s_sizes) {
-        const auto compare = [&, &size = size](int nKind, int nBase, bool bBound) {
-            const double ratio =
-                ratios.ratio(s_kinds[nKind].first + ", " + size, s_kinds[nBase].first + ", " + size);
-            const bool bHolds = !bBound || slack == 0 || ratio == 0 || ratio >= Bound / slack;
-            std::printf("%s %s: %.3f of the throughput of %s at %s\n", bHolds ? "ok  " : "FAIL",
-                s_kinds[nKind].first.c_str(), ratio, s_kinds[nBase].first.c_str(), size.c_str());
+        for (const Comparison &pair : s_comparisons) {
+            const std::string &kind = s_kinds[pair.nKind].first, &base = s_kinds[pair.nBase].first;
+            const double ratio = ratios.ratio(kind + ", " + size, base + ", " + size, slack != 1);
+            if (ratio <= 0 && !bAllRan)
+                continue;
+            ++nCompared;
+            const bool bHolds = ratio > 0 && (!pair.bBound || slack == 0 || ratio >= Bound / slack);
+            std::printf("%s %s: %.3f of the throughput of %s at %s\n", bHolds ? "ok  " : "FAIL", kind.c_str(),
+                ratio, base.c_str(), size.c_str());
             bGood = bGood && bHolds;
-        };
-        compare(1, 0, true);
-        compare(3, 2, true);
-        compare(3, 0, false);
+        }
     }
-    return bGood;
+    return bGood && nCompared > 0;
 }
 
 double residentKiB()
@@ -313,9 +325,9 @@ int main(int argc, char *argv[])
                 ->Unit(benchmark::kMillisecond);
     const double memory = memoryPerClient(Kind::Channel);
     Ratios ratios;
-    benchmark::RunSpecifiedBenchmarks(&ratios);
+    const bool bAllRan = benchmark::RunSpecifiedBenchmarks(&ratios) == s_sizes.size() * s_kinds.size();
     std::printf("Memory per client at %d clients: %.1f KiB\n", Clients, memory);
-    const bool bGood = check(ratios, qEnvironmentVariable("KELPA_BENCH_SLACK", "1").toDouble());
+    const bool bGood = check(ratios, qEnvironmentVariable("KELPA_BENCH_SLACK", "1").toDouble(), bAllRan);
     return bGood ? 0 : 1;
 }
 

@@ -336,6 +336,28 @@ void IMainMenuWidget::paintEvent(QPaintEvent *pEvent)
 {
     Q_UNUSED(pEvent)
     const QStyleOptionTitleBar option = titleBarOption();
+    QStylePainter painter(this);
+    // A menu bar that is not opaque lets the strip be seen, but not the title a second time.
+    if (m_pMenuBar && m_pMenuBar->isVisible()) {
+        QStyleOptionTitleBar untitled = option;
+        untitled.text.clear();
+        untitled.icon = QIcon();
+        painter.setClipRect(m_pMenuBar->geometry());
+        painter.drawComplexControl(QStyle::CC_TitleBar, untitled);
+        painter.setClipRegion(QRegion(rect()).subtracted(m_pMenuBar->geometry()));
+    }
+    painter.drawComplexControl(QStyle::CC_TitleBar, option);
+    drawTitle(painter, option);
+    painter.setClipping(false);
+
+    QStyleOption rest;
+    rest.initFrom(this);
+    rest.rect.setTop(option.rect.height());
+    painter.drawPrimitive(QStyle::PE_Widget, rest);
+}
+
+void IMainMenuWidget::drawTitle(QStylePainter &painter, const QStyleOptionTitleBar &option) const
+{
     const int nHeight = option.rect.height();
     const int nSide = nHeight - 3;
     const QPixmap pixmap = option.icon.pixmap(QSize(nSide, nSide));
@@ -345,20 +367,9 @@ void IMainMenuWidget::paintEvent(QPaintEvent *pEvent)
     };
     const int nAlign =
         int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute);
-
-    QStylePainter painter(this);
-    // Under a menu bar that is not opaque the title would be seen twice.
-    if (m_pMenuBar && m_pMenuBar->isVisible())
-        painter.setClipRegion(QRegion(rect()).subtracted(m_pMenuBar->geometry()));
-    painter.drawComplexControl(QStyle::CC_TitleBar, option);
     painter.drawItemPixmap(place(3, 3, nSide, nSide), nAlign, pixmap);
     painter.drawItemText(place(nTextX, 0, width() - 10 - nHeight, nHeight), nAlign, palette(), isEnabled(),
         option.text, QPalette::Text);
-
-    QStyleOption rest;
-    rest.initFrom(this);
-    rest.rect.setTop(nHeight);
-    painter.drawPrimitive(QStyle::PE_Widget, rest);
 }
 
 // The menu bar fills the row and would keep every mouse event to itself.

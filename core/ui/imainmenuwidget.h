@@ -11,6 +11,7 @@ class MainWindow;
 class QLabel;
 class QMenuBar;
 class QStyleOptionTitleBar;
+class QStylePainter;
 class QVBoxLayout;
 
 /// The top strip of the frameless main window: one row of icon, menus, title and window buttons, and the
@@ -71,6 +72,7 @@ private:
     void openFirstMenu();
     void openWindowMenu(const QPoint &globalPosition, bool bByKeyboard);
     bool passMouseEvent(QMouseEvent *pEvent);
+    void drawTitle(QStylePainter &painter, const QStyleOptionTitleBar &option) const;
     [[nodiscard]] int menuTitleHeight() const;
     [[nodiscard]] int stripHeight() const;
     [[nodiscard]] QStyleOptionTitleBar titleBarOption() const;

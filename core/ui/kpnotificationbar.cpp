@@ -7,18 +7,39 @@
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <QPointer>
 
-namespace {
-
-// Screen readers read an alert out when it comes up.
-QAccessibleInterface *createAlert(const QString &strClass, QObject *pObject)
+// Screen readers read an alert out when it comes up. Its texts are those that are shown: setting them as
+// properties of the widget would report a new name beside each alert, and the message be read twice.
+class KPNotificationBar::Alert : public QAccessibleWidget
 {
-    if (strClass != QLatin1String(KPNotificationBar::staticMetaObject.className()))
-        return nullptr;
-    return new QAccessibleWidget(static_cast<QWidget *>(pObject), QAccessible::AlertMessage);
-}
+public:
+    explicit Alert(KPNotificationBar *pBar)
+        : QAccessibleWidget(pBar, QAccessible::AlertMessage)
+        , m_pMessage(pBar->m_pUi->m_pMessageLabel)
+        , m_pKind(pBar->m_pUi->m_pIconLabel)
+    {
+    }
 
-} // namespace
+    static QAccessibleInterface *create(const QString &strClass, QObject *pObject)
+    {
+        const bool bBar = strClass == QLatin1String(staticMetaObject.className());
+        return bBar ? new Alert(static_cast<KPNotificationBar *>(pObject)) : nullptr;
+    }
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name && m_pMessage)
+            return m_pMessage->text();
+        if (kind == QAccessible::Description && m_pKind)
+            return m_pKind->accessibleName();
+        return QAccessibleWidget::text(kind);
+    }
+
+private:
+    QPointer<QLabel> m_pMessage;
+    QPointer<QLabel> m_pKind;
+};
 
 KPNotificationBar::KPNotificationBar(QWidget *pParent)
     : QFrame(pParent)
@@ -31,7 +52,7 @@ KPNotificationBar::KPNotificationBar(QWidget *pParent)
     connect(m_pUi->m_pCloseButton, &QToolButton::clicked, this, &KPNotificationBar::hide);
     connect(m_pUi->m_pButton, &QPushButton::clicked, this, &KPNotificationBar::buttonClicked);
     // Installing it again changes nothing.
-    QAccessible::installFactory(createAlert);
+    QAccessible::installFactory(Alert::create);
 }
 
 KPNotificationBar::~KPNotificationBar() = default;
@@ -42,6 +63,7 @@ void KPNotificationBar::show(const QString &text, Type type, const QString &butt
     const int nIcon = DisplayScale::wholeFactor(DisplayScale::logicalDpi(), 16);
     m_pUi->m_pIconLabel->setPixmap(
         IUi::getPixmap(bWarning ? QStringLiteral("warning") : QStringLiteral("info"), 2, false));
+    m_pUi->m_pIconLabel->setAccessibleName(bWarning ? tr("Warning") : tr("Information"));
     m_pUi->m_pMessageLabel->setText(text);
     m_pUi->m_pMessageLabel->setVisible(!text.isEmpty());
     m_pUi->m_pButton->setText(buttonText);
@@ -50,18 +72,14 @@ void KPNotificationBar::show(const QString &text, Type type, const QString &butt
     m_pUi->m_pCloseButton->setVisible(closable);
     disconnect(this, &KPNotificationBar::buttonClicked, nullptr, nullptr);
     QFrame::show();
-    announce(text, type);
+    announce();
 }
 
 // Once for each message, also when the bar was visible already; the focus stays where it is.
-void KPNotificationBar::announce(const QString &strText, Type type)
+void KPNotificationBar::announce()
 {
-    const QString strKind = type == Warning ? tr("Warning") : tr("Information");
-    m_pUi->m_pIconLabel->setAccessibleName(strKind);
-    setAccessibleName(strText);
-    setAccessibleDescription(strKind);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent event(this, strText);
+    QAccessibleAnnouncementEvent event(this, m_pUi->m_pMessageLabel->text());
 #else
     QAccessibleEvent event(this, QAccessible::Alert);
 #endif

@@ -38,7 +38,9 @@ protected:
     void keyPressEvent(QKeyEvent *pEvent) override;
 
 private:
-    void announce(const QString &strText, Type type);
+    class Alert;
+
+    void announce();
 
     const std::unique_ptr<Ui::KPNotificationBar> m_pUi;
 };

@@ -11,7 +11,8 @@
 
 namespace {
 
-// Of a header that comes twice Qt gives the first value as the origin and the last one as the header.
+// Of a header that comes twice Qt gives the first value as the origin and the last one as the header. One
+// without a value it leaves out.
 std::optional<QByteArray> originOf(const QWebSocket &socket)
 {
     const QByteArray first = socket.origin().toLatin1();

@@ -20,7 +20,8 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
 {
     connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived,
         Qt::QueuedConnection);
-    connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::deleteLater);
+    connect(
+        socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
     connect(
         &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
 }
@@ -55,6 +56,14 @@ WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
     return result;
 }
 
+// What the client sent before it left still counts.
+void WebSocketTransport::onDisconnected()
+{
+    m_bClientGone = true;
+    if (m_waiting.isEmpty())
+        deleteLater();
+}
+
 void WebSocketTransport::parseWaiting()
 {
     setPaused(true);
@@ -80,10 +89,12 @@ void WebSocketTransport::workOff(const Parsed &parsed)
     if (!pThis)
         return;
     m_waiting.dequeue();
-    if (m_waiting.isEmpty())
-        setPaused(false);
-    else
+    if (!m_waiting.isEmpty())
         parseWaiting();
+    else if (m_bClientGone)
+        deleteLater();
+    else
+        setPaused(false);
 }
 
 // So that what waits here stays little.

@@ -12,9 +12,9 @@
 class QWebSocket;
 
 /// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
-/// socket with it when it is deleted; both go when the client disconnects. GUI thread only; a message of more
-/// than a million characters is parsed beside it. A client's next message waits until the one before is
-/// worked off, also while that shows a dialog.
+/// socket with it when it is deleted; both go when the client has disconnected and its messages are handled.
+/// GUI thread only; a message of more than a million characters is parsed beside it. A client's next message
+/// waits until the one before is worked off, also while that shows a dialog.
 class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
 {
     Q_OBJECT
@@ -44,6 +44,7 @@ private:
     void onParsed();
     void workOff(const Parsed &parsed);
     void setPaused(bool bPaused);
+    void onDisconnected();
     [[nodiscard]] bool mayWarn();
     void reportUnlogged();
 
@@ -53,4 +54,5 @@ private:
     QFutureWatcher<Parsed> m_parsing;
     QElapsedTimer m_warningPeriod;
     int m_nWarnings = 0;
+    bool m_bClientGone = false;
 };

@@ -46,11 +46,6 @@ StageDocument::StageDocument()
 
 StageDocument::~StageDocument() = default;
 
-bool StageDocument::isModified() const
-{
-    return m_bNeverSaved || IDocument::isModified();
-}
-
 void StageDocument::cleanTempDir()
 {
     removeBackup();
@@ -63,10 +58,8 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
         IUi::information(nullptr, s_title,
             tr("Could not create project %1.\nA stage of %2 by %3 pixels with %4 frames per second is not "
                "possible.")
-                .arg(QDir::toNativeSeparators(getFileName()))
-                .arg(nFirst)
-                .arg(nSecond)
-                .arg(nThird));
+                .arg(QDir::toNativeSeparators(getFileName()), QString::number(nFirst),
+                    QString::number(nSecond), QString::number(nThird)));
         return false;
     }
     StageProject project;
@@ -75,7 +68,7 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
     project.frameRate = nThird;
     project.responsive = bFlag;
     project.scenes.append(StageScene {tr("Scene 1"), {}, {}});
-    m_bNeverSaved = true;
+    getUndoStack()->resetClean(); // nothing of it is on disk
     m_pModel->setProject(project);
     return true;
 }
@@ -162,7 +155,6 @@ bool StageDocument::saveAsOwn(const QString &strFileName)
         return false;
     const bool bStackTells = !getUndoStack()->isClean();
     removeBackup();
-    m_bNeverSaved = false;
     setIsTempDocument(false);
     setFileName(strFileName);
     getUndoStack()->setClean();

@@ -17,12 +17,10 @@ public:
 
     [[nodiscard]] StageModel *getModel() const { return m_pModel; }
 
-    /// Also true for a new project that was never written.
-    [[nodiscard]] bool isModified() const override;
-
     void cleanTempDir() override;
 
-    /// Width and height in pixels, frames per second, whether the stage follows the width of its page.
+    /// Width and height in pixels, frames per second, whether the stage follows the width of its page. The
+    /// project counts as modified until it is written.
     bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override;
 
     bool open() override;
@@ -52,7 +50,6 @@ private:
     [[nodiscard]] QString backupFileName() const;
 
     StageModel *const m_pModel;
-    bool m_bNeverSaved = false;
     int m_nRevision = 0;
     int m_nBackupRevision = 0;
     QString m_strBackup; ///< the backup this document wrote; empty without one

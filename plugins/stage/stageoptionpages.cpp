@@ -168,8 +168,10 @@ EditingOptionPage::EditingOptionPage()
     auto *pLists = new QHBoxLayout;
     QWidget *pPanel = nullptr;
     m_pHorizontal = createList(tr("Horizontal breakpoints"), &pPanel);
+    m_pHorizontal->setObjectName(QStringLiteral("horizontal"));
     pLists->addWidget(pPanel);
     m_pVertical = createList(tr("Vertical breakpoints"), &pPanel);
+    m_pVertical->setObjectName(QStringLiteral("vertical"));
     pLists->addWidget(pPanel);
     auto *pReset = new QPushButton(tr("Restore &Defaults"), this);
     pReset->setAccessibleName(tr("Restore the default breakpoints"));

@@ -56,6 +56,7 @@ StageView::StageView(IDocument *pDocument, StageModel *pModel, QWidget *pParent)
     setDragMode(RubberBandDrag);
     setTransformationAnchor(AnchorUnderMouse);
     setBackgroundBrush(deskColor);
+    setAcceptDrops(false); // a project dropped on the stage is for the main window
     connect(pModel, &StageModel::reset, this, &StageView::rebuild);
     connect(pModel, &StageModel::elementInserted, this, &StageView::insertItem);
     connect(pModel, &StageModel::elementRemoved, this, &StageView::removeItem);
@@ -291,7 +292,8 @@ void StageView::describeSelection()
     QString strText = tr("%n element(s) selected", nullptr, static_cast<int>(selected.size()));
     if (selected.size() == 1) {
         const StageElement &element = m_items.at(selected.first())->element();
-        strText = tr("%1 selected, at %2, %3").arg(element.id).arg(element.x).arg(element.y);
+        strText = tr("%1 selected, at %2, %3")
+                      .arg(element.id, QString::number(element.x), QString::number(element.y));
     }
     setAccessibleDescription(strText);
     emit elementSelectionChanged();

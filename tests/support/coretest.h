@@ -111,21 +111,21 @@ public:
 
     bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override
     {
-        calls.append(QStringLiteral("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
+        log(QStringLiteral("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
         return bContentSucceeds;
     }
     bool open() override { return bOpenSucceeds && IDocument::open(); }
     using IDocument::save;
     bool save() override
     {
-        calls.append(QStringLiteral("save"));
+        log(QStringLiteral("save"));
         if (bSaveSucceeds)
             stack.setClean();
         return bSaveSucceeds;
     }
     bool saveAs() override
     {
-        calls.append(QStringLiteral("saveAs"));
+        log(QStringLiteral("saveAs"));
         if (!bSaveAsSucceeds)
             return false;
         setFileName(strSaveAsName);
@@ -135,22 +135,29 @@ public:
     }
     bool close() override
     {
-        calls.append(QStringLiteral("close"));
+        log(QStringLiteral("close"));
         return closeAnswer ? *closeAnswer : IDocument::close();
     }
-    void cleanTempDir() override { calls.append(QStringLiteral("cleanTempDir")); }
+    void cleanTempDir() override { log(QStringLiteral("cleanTempDir")); }
     bool saveBackup() override
     {
-        calls.append(QStringLiteral("saveBackup"));
+        log(QStringLiteral("saveBackup"));
         if (onBackup)
             onBackup();
         return true;
     }
 
+    void log(const QString &strCall)
+    {
+        calls.append(strCall);
+        if (pCalls)
+            pCalls->append(strCall);
+    }
     void modify() { stack.push(new QUndoCommand); }
 
     QUndoStack stack;
     QStringList calls;
+    QStringList *pCalls = nullptr; ///< gets a copy that outlives the document
     std::optional<bool> closeAnswer;
     std::function<void()> onBackup;
     QString strSaveAsName;

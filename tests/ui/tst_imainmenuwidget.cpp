@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QStyleOptionTitleBar>
@@ -23,7 +24,7 @@ public:
     using MainWindow::isStyledFrameTitleBar;
 };
 
-// Keeps what was drawn of the title bar.
+// Keeps what was drawn of the title bar, and paints a strip of one colour and its title if it has one.
 class RecordingStyle : public QProxyStyle
 {
 public:
@@ -33,9 +34,14 @@ public:
         if (control == CC_TitleBar)
             option = *qstyleoption_cast<const QStyleOptionTitleBar *>(pOption);
         QProxyStyle::drawComplexControl(control, pOption, pPainter, pWidget);
+        if (control != CC_TitleBar || !strip.isValid())
+            return;
+        pPainter->fillRect(pOption->rect, strip);
+        pPainter->drawText(pOption->rect, Qt::AlignLeft, option.text);
     }
 
     mutable QStyleOptionTitleBar option;
+    QColor strip;
 };
 
 // The columns of `rect` in which something is painted on the background, as the rectangle around them.
@@ -282,6 +288,21 @@ private slots:
         QVERIFY(titleInk().width() < longTitle.width() - 20);
     }
 
+    void stripIsSeenThroughTheMenuBarButTheTitleOnce()
+    {
+        RecordingStyle style;
+        style.strip = Qt::yellow;
+        m_pTitleBar->setStyle(&style);
+        m_pWindow->setWindowFilePath(QString(500, 'm'));
+        const auto stretchOn = [this](const char *pBackground) {
+            m_pMenuBar->setStyleSheet(QStringLiteral("QMenuBar { background: %1; }").arg(pBackground));
+            return m_pTitleBar->grab().toImage().copy(stretchRect());
+        };
+        QCOMPARE(stretchOn("transparent"), stretchOn("yellow"));
+        QVERIFY(stretchOn("transparent") != stretchOn("white"));
+        m_pTitleBar->setStyle(nullptr);
+    }
+
     void buttonsDoWhatTheyAreCalled()
     {
         QAbstractButton *pMaximize = button("maximizeButton");
@@ -320,6 +341,7 @@ private slots:
         QTest::addColumn<int>("dpi");
         QTest::addColumn<int>("icon");
         QTest::newRow("100 percent") << 96 << 16;
+        QTest::newRow("125 percent") << 120 << 16;
         QTest::newRow("148 percent") << 143 << 16;
         QTest::newRow("150 percent") << 144 << 32;
         QTest::newRow("200 percent") << 192 << 32;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The frame on a real window, by the messages that Windows sends to it.
 #include <ui/kpstyledframe.h>
+#include <ui/nativescreen.h>
 
 #include "framerows.h"
 
@@ -238,6 +239,23 @@ private slots:
         position.flags |= SWP_FRAMECHANGED;
         SendMessageW(hWnd(), WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
         QCOMPARE(region(), Rect({0, 0, 640, 480}));
+    }
+
+    void anotherMonitorHasTheFrameWorkedOutAnew()
+    {
+        RECT before, after;
+        GetWindowRect(hWnd(), &before);
+        m_pFrame->answers.clear();
+        NativeScreen::refreshFrame(m_pFrame.get());
+        GetWindowRect(hWnd(), &after);
+        QVERIFY(m_pFrame->answers.contains(WM_NCCALCSIZE));
+        QCOMPARE(fromNative(after), fromNative(before));
+
+        MSG message {hWnd(), 0x02E0, 0, 0, 0, {0, 0}};
+        QVERIFY(NativeScreen::isScaleChange("windows_generic_MSG", &message));
+        QVERIFY(!NativeScreen::isScaleChange("xcb_generic_event_t", &message));
+        message.message = WM_SIZE;
+        QVERIFY(!NativeScreen::isScaleChange("windows_generic_MSG", &message));
     }
 
     // Just before the frame looks nothing is left to paint, so what is there afterwards is the frame's.

@@ -6,6 +6,7 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QJsonArray>
 #include <QTimer>
 
 #include <ctime>
@@ -74,6 +75,20 @@ struct Load
     double memoryMiB = 0;
 };
 
+// What a turn may take: 50 ms, or a few times what parsing a megabyte takes just now. Other programs slow
+// both down, by the caches if not by the processor.
+double turnLimitMs()
+{
+    const QByteArray message = '[' + QByteArray("1,").repeated(500000);
+    double slowest = 0;
+    for (int i = 0; i < 5; ++i) {
+        const double begin = threadMs();
+        if (QJsonDocument::fromJson(message).isNull())
+            slowest = std::max(slowest, threadMs() - begin);
+    }
+    return std::max(50.0, 3 * slowest);
+}
+
 Load runUntil(const std::function<bool()> &isDone)
 {
     Load load;
@@ -106,6 +121,18 @@ bool flood(quint16 nPort, const QByteArray &block, qint64 nSize)
                 return false;
     }
     return true;
+}
+
+// Says goodbye behind the frames and hears the server out.
+void sendAndLeave(quint16 nPort, const QByteArray &frames)
+{
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, nPort);
+    socket.write(handshake("127.0.0.1:" + QByteArray::number(nPort)));
+    socket.waitForReadyRead();
+    socket.write(frames + frame("\x03\xE8", Close));
+    while (socket.waitForReadyRead())
+        socket.readAll();
 }
 
 } // namespace
@@ -180,6 +207,32 @@ private slots:
         QVERIFY(log.lines().constFirst().startsWith(QStringLiteral("Refused a web channel client:")));
         QVERIFY(log.lines().constFirst().size() < 1500);
         QVERIFY(!log.lines().constFirst().contains(program.wrapper.getKey()));
+    }
+
+    // Qt does not show it. No browser sends it, and a program that does could as well leave it out.
+    void originWithoutAValueCountsAsNone_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::newRow("an empty origin") << QByteArray("Origin:\r\n");
+        QTest::newRow("a blank origin") << QByteArray("Origin:  \t\r\n");
+    }
+
+    void originWithoutAValueCountsAsNone()
+    {
+        QFETCH(const QByteArray, line);
+        ChannelServer program;
+        const ChannelLog log;
+        RawClient client(program);
+        client.send(handshake("127.0.0.1:PORT", line));
+        QTRY_COMPARE(program.clients.size(), 1);
+        RawClient rebound(program);
+        rebound.send(handshake("evil.example:PORT", line));
+        QTRY_VERIFY(rebound.isGone());
+        RawClient second(program);
+        second.send(handshake("127.0.0.1:PORT", line + "Origin: http://evil.example\r\n"));
+        QTRY_VERIFY(second.isGone());
+        QCOMPARE(program.clients.size(), 1);
+        QCOMPARE(log.lines().size(), 2);
     }
 
     void brokenHandshakeIsDropped_data()
@@ -291,6 +344,44 @@ private slots:
             QCOMPARE(totals.takeFirst().constFirst().toInt(), nTotal);
     }
 
+    void whatAClientSentBeforeItLeftIsHandled_data()
+    {
+        QTest::addColumn<int>("clients");
+        QTest::newRow("one client") << 1;
+        QTest::newRow("thirty clients at once") << 30;
+    }
+
+    void whatAClientSentBeforeItLeftIsHandled()
+    {
+        QFETCH(const int, clients);
+        ChannelServer program;
+        QMap<QObject *, QList<int>> sent;
+        int nGone = 0;
+        connect(&program.wrapper, &WebSocketClientWrapper::clientConnected, &program.wrapper,
+            [&](WebSocketTransport *pClient) {
+                connect(pClient, &WebSocketTransport::messageReceived, &program.wrapper,
+                    [&sent, pClient](const QJsonObject &message) {
+                        sent[pClient].append(message.value("args").toArray().first().toInt());
+                    });
+                connect(pClient->parent(), &QObject::destroyed, &program.wrapper, [&] { ++nGone; });
+            });
+        QByteArray big = call("add", "[1]");
+        big += QByteArray(2 * ClientPolicy::CharactersParsedAtOnce - big.size(), ' ');
+        const QByteArray frames =
+            frame(big) + frame(call("add", "[2]")) + frame(big) + frame(call("add", "[3]"));
+        std::vector<std::thread> threads;
+        for (int i = 0; i < clients; ++i)
+            threads.emplace_back(sendAndLeave, program.server.serverPort(), frames);
+        const Load load = runUntil([&] { return nGone == clients; });
+        for (std::thread &thread : threads)
+            thread.join();
+        const double limitMs = turnLimitMs() * (clients + 9) / 10;
+        qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
+        QVERIFY2(!IsMeasured || load.turnMs < limitMs, "a turn serves some clients");
+        QCOMPARE(sent.values(), QList<QList<int>>(clients, {1, 2, 1, 3}));
+        QVERIFY(!program.server.findChild<QTcpSocket *>());
+    }
+
     void garbageForEverCostsLittle_data()
     {
         QTest::addColumn<QByteArray>("garbage");
@@ -325,13 +416,15 @@ private slots:
         QFETCH(const bool, staysConnected);
         QFETCH(const int, memoryMiB);
         Load load;
-        for (int i = 0; i < 3 && (i == 0 || load.turnMs >= 50); ++i) {
+        double limitMs = 0;
+        for (int i = 0; i < 3 && load.turnMs >= limitMs; ++i) {
             bool bSentAll = false;
             load = endure(garbage, sizeMiB * qint64(1024) * 1024, &bSentAll);
             QCOMPARE(bSentAll, staysConnected);
+            limitMs = turnLimitMs();
         }
-        qInfo("%.1f ms, %.1f MiB", load.turnMs, load.memoryMiB);
-        QVERIFY(!IsMeasured || load.turnMs < 50);
+        qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
+        QVERIFY(!IsMeasured || load.turnMs < limitMs);
         QVERIFY(!IsMeasured || load.memoryMiB < memoryMiB);
     }
 

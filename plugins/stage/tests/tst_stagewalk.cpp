@@ -1,0 +1,534 @@
+// SPDX-License-Identifier: MIT
+// A long random walk through all that an author can do with projects, in a real main window with real files.
+// After each step the program agrees with a model that knows nothing of how it works.
+#include "stagedocument.h"
+#include "stagemodel.h"
+#include "stageview.h"
+#include "walkmodel.h"
+#include "walkprogram.h"
+
+#include <actionmanager/actioncontainer.h>
+#include <irecentfilesmanager.h>
+
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QLoggingCategory>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMimeData>
+#include <QUndoGroup>
+
+#include <random>
+
+namespace {
+
+constexpr int s_nMostDocuments = 5;
+
+class Walk
+{
+public:
+    explicit Walk(unsigned nSeed)
+        : m_program(nSeed == 1) // to paint takes most of the time
+        , m_random(nSeed)
+    {
+        QDir().mkpath(m_strFolder);
+        const QStringList names = {QStringLiteral("one"), QStringLiteral("one.two"), QStringLiteral("a & b"),
+            QString::fromUtf8("größe"), QString::fromUtf8("日本語"), QStringLiteral("50 %1"),
+            QStringLiteral("x"), QStringLiteral("X"), QStringLiteral("7"), QStringLiteral("8"),
+            QStringLiteral("9"), QStringLiteral("10"), QStringLiteral("11"),
+            QStringLiteral("long").repeated(40)};
+        for (const QString &strName : names)
+            m_paths.append(m_strFolder + QLatin1Char('/') + strName + QStringLiteral(".kelpa"));
+        for (const QString &strPath : std::as_const(m_paths))
+            put(strPath, pick(4));
+        put(m_strFolder + QStringLiteral("/broken.kelpa"), -1);
+        put(m_strFolder + QStringLiteral("/note.txt"), -1);
+    }
+
+    QStringList log;
+
+    // What is wrong after the step; empty when all is well.
+    QString step()
+    {
+        struct Row
+        {
+            int nWeight;
+            void (Walk::*pStep)();
+        };
+        static const Row s_rows[] = {{6, &Walk::makeNew}, {30, &Walk::edit}, {15, &Walk::undo},
+            {10, &Walk::redo}, {12, &Walk::save}, {1, &Walk::saveAs}, {14, &Walk::switchTab},
+            {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent}, {4, &Walk::open}, {2, &Walk::attach},
+            {3, &Walk::changeDisk}};
+        m_answers.clear();
+        m_expected.clear();
+        m_said.clear();
+        int nWeight = 0;
+        for (const Row &row : s_rows)
+            nWeight += row.nWeight;
+        int nDraw = pick(nWeight);
+        const Row *pRow = s_rows;
+        for (; nDraw >= pRow->nWeight; ++pRow)
+            nDraw -= pRow->nWeight;
+        (this->*pRow->pStep)();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return check();
+    }
+
+private:
+    // Steps.
+    void makeNew()
+    {
+        enum How { Fine, Unwritable, NoPath, Rejected, Impossible };
+        const How how = full() ? How(NoPath + pick(3)) : How(qMax(0, pick(12) - 7));
+        const QString strPath = anyPath();
+        say("new", {strPath, QString::number(how)});
+        WalkFactory &factory = m_program.factory;
+        factory.strPath = how == NoPath ? QString() : strPath;
+        factory.nResult = how == Rejected ? QDialog::Rejected : QDialog::Accepted;
+        factory.nWidth = how == Impossible ? 0 : 1;
+        if (how == Impossible)
+            expect(QStringLiteral("Could not create project %1.\n").arg(strPath), QMessageBox::Ok);
+        act([&] {
+            const FolderGone gone(m_strFolder, how == Unwritable);
+            m_program.command("File.New")->trigger();
+        });
+        if (how == NoPath) { // both were left to the factory
+            delete factory.pDialog;
+            delete factory.pDocument;
+        }
+        if (how <= Unwritable || how == Impossible)
+            m_model.addRecent(strPath);
+        if (how <= Unwritable)
+            m_model.attach({strPath, false, false, {{0}}, 0, -1});
+        if (how == Fine)
+            m_model.saved(*m_model.active());
+    }
+
+    void edit()
+    {
+        ModelDocument *pDocument = m_model.active();
+        if (!pDocument)
+            return open();
+        const int nElements = pDocument->elements();
+        StageView *pView = WalkProgram::view();
+        const int nWhat = nElements == 0 ? 0 : pick(3);
+        say("edit", {QString::number(nWhat)});
+        if (nWhat == 0) {
+            pView->addElement({});
+            pDocument->push(nElements + 1);
+        } else if (nWhat == 1) {
+            pView->selectElements({nElements - 1});
+            pView->deleteSelected();
+            pDocument->push(nElements - 1);
+        } else {
+            const int nDistance = pick(2) ? 1 : -1;
+            pView->selectElements({0});
+            pView->moveSelected(nDistance, 0);
+            pDocument->step(nDistance);
+        }
+    }
+
+    void undo() { travel("Edit.Undo", -1); }
+    void redo() { travel("Edit.Redo", 1); }
+    void travel(const char *pCommand, int nBy)
+    {
+        say(pCommand, {});
+        m_program.command(pCommand)->trigger();
+        ModelDocument *pDocument = m_model.active();
+        if (pDocument && pDocument->nIndex + nBy >= 0 && pDocument->nIndex + nBy < pDocument->history.size())
+            pDocument->goTo(pDocument->nIndex + nBy);
+    }
+
+    void save()
+    {
+        ModelDocument *pDocument = m_model.active();
+        if (pDocument && pDocument->bTemp)
+            return saveAsBy("File.Save");
+        const bool bFails = pick(4) == 0;
+        say("save", {QString::number(bFails)});
+        act([&] {
+            const FolderGone gone(m_strFolder, bFails);
+            m_program.command("File.Save")->trigger();
+        });
+        if (!pDocument || !pDocument->canSave() || bFails)
+            return;
+        m_model.saved(*pDocument);
+        pDocument->bSaveDone = true;
+    }
+
+    void saveAs() { saveAsBy("File.SaveAs.Project"); }
+    void saveAsBy(const char *pCommand)
+    {
+        ModelDocument *pDocument = m_model.active();
+        if (pDocument)
+            chooseFile();
+        say(pCommand, {m_strChosen});
+        act([&] { m_program.command(pCommand)->trigger(); });
+        if (!pDocument || m_bChoiceFails)
+            return;
+        m_model.savedAs(*pDocument, m_strChosen);
+        pDocument->bSaveDone = true;
+    }
+
+    // Prepares the answer to the dialog that asks where to save.
+    void chooseFile()
+    {
+        const int nHow = pick(6);
+        m_strChosen = anyPath();
+        if (nHow == 0)
+            m_strChosen.clear();
+        else if (nHow == 1)
+            m_strChosen = m_strFolder + QStringLiteral("/nowhere/z.kelpa");
+        m_bChoiceFails = nHow <= 1;
+        if (m_model.disk.contains(m_strChosen))
+            expect(QFileInfo(m_strChosen).fileName() + QStringLiteral(" already exists."), QMessageBox::Yes);
+    }
+
+    void switchTab()
+    {
+        if (m_model.documents.isEmpty())
+            return open();
+        const int nTab = pick(static_cast<int>(m_model.documents.size()));
+        say("tab", {QString::number(nTab)});
+        m_program.tabs()->setCurrentIndex(nTab);
+        m_model.activate(nTab);
+    }
+
+    void close()
+    {
+        if (m_model.documents.isEmpty())
+            return open();
+        const bool bByTab = pick(2);
+        const int nDocument = bByTab ? pick(static_cast<int>(m_model.documents.size())) : m_model.nActive;
+        const bool bCloses = answerClosing(m_model.documents[nDocument]);
+        act([&] {
+            const FolderGone gone(m_strFolder, m_bSaveFails);
+            if (bByTab)
+                emit m_program.tabs()->tabCloseRequested(nDocument);
+            else
+                m_program.command("File.Close")->trigger();
+        });
+        if (bCloses)
+            m_model.close(nDocument);
+    }
+
+    // Draws the answers, and what they do but for the closing itself. True: it closes.
+    bool answerClosing(ModelDocument &document)
+    {
+        enum Answer { Yes, YesButFails, No, Cancel, BoxClosed };
+        const Answer answer = Answer(pick(5));
+        m_bSaveFails = answer == YesButFails && document.isModified() && !document.bTemp;
+        say("close", {document.path, QString::number(answer)});
+        if (!document.isModified())
+            return true;
+        const QMessageBox::StandardButton buttons[] = {
+            QMessageBox::Yes, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel, QMessageBox::NoButton};
+        expect(QStringLiteral("Save changes made to %1?").arg(document.name()), buttons[answer]);
+        if (answer >= No) {
+            if (answer == No && document.bTemp)
+                m_model.recent.removeOne(document.path);
+            return answer == No;
+        }
+        if (document.bTemp) {
+            chooseFile();
+            if (!m_bChoiceFails)
+                m_model.savedAs(document, m_strChosen);
+            return !m_bChoiceFails;
+        }
+        if (m_bSaveFails)
+            expect(QStringLiteral("Could not save project %1.").arg(document.name()), QMessageBox::Ok);
+        else
+            m_model.saved(document);
+        return !m_bSaveFails;
+    }
+
+    void drop()
+    {
+        const QString strPath = anyFile();
+        if (wouldNotFit(strPath))
+            return close();
+        say("drop", {strPath});
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(strPath), QUrl::fromLocalFile(m_paths.first())});
+        QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QWidget *pTarget = m_program.dropTarget();
+        const bool bOpens = strPath.endsWith(QLatin1String(".kelpa")) && load(strPath);
+        act([&] {
+            QCoreApplication::sendEvent(pTarget, &enter);
+            QCoreApplication::sendEvent(pTarget, &event);
+        });
+        if (event.isAccepted() != bOpens)
+            m_said.append(QStringLiteral("the drop is answered wrongly"));
+    }
+
+    void open()
+    {
+        const QString strPath = anyFile();
+        if (wouldNotFit(strPath))
+            return close();
+        say("open", {strPath});
+        m_program.factory.strPath = strPath;
+        load(strPath);
+        act([&] { m_program.command("File.Open_Project")->trigger(); });
+    }
+
+    void openRecent()
+    {
+        if (m_model.recent.isEmpty())
+            return open();
+        const int nEntry = pick(static_cast<int>(m_model.recent.size()));
+        const QString strPath = m_model.recent.at(nEntry);
+        if (wouldNotFit(strPath))
+            return close();
+        const auto answer = pick(2) ? QMessageBox::Yes : QMessageBox::No;
+        say("recent", {QString::number(nEntry + 1), strPath, QString::number(answer)});
+        const bool bExists = m_model.disk.contains(strPath);
+        if (bExists)
+            load(strPath);
+        else
+            expect(QStringLiteral("The project [%1] no longer exists.").arg(strPath), answer);
+        if (!bExists && answer == QMessageBox::Yes)
+            m_model.recent.removeOne(strPath);
+        act([&] { recentCommand(nEntry)->trigger(); });
+    }
+
+    // As another plug-in brings a project without a file, or one from a backup.
+    void attach()
+    {
+        const QString strPath = anyPath();
+        const bool bTemp = pick(2) || !m_model.disk.contains(strPath);
+        if (full())
+            return close();
+        const bool bRecent = pick(2);
+        auto *pDocument = new StageDocument;
+        pDocument->setFileName(bTemp ? m_program.filePath("Untitled.kelpa") : strPath);
+        say("attach", {pDocument->getFileName(), QString::number(bTemp), QString::number(bRecent)});
+        pDocument->setIsTempDocument(bTemp);
+        pDocument->setOpenAsBackup(!bTemp);
+        if (bTemp)
+            pDocument->createContent(10, 10, 10, false);
+        else
+            pDocument->open();
+        m_program.window->loadOpenedDocument(pDocument, bRecent);
+        if (bRecent)
+            m_model.addRecent(pDocument->getFileName());
+        const int nElements = bTemp ? 0 : m_model.disk.value(strPath);
+        m_model.attach({pDocument->getFileName(), bTemp, !bTemp, {{nElements}}, 0, bTemp ? -1 : 0});
+    }
+
+    void changeDisk()
+    {
+        const QString strPath = anyPath();
+        const int nElements = pick(4);
+        say("disk", {strPath, QString::number(nElements)});
+        if (nElements == 0)
+            m_model.disk.remove(strPath);
+        if (nElements == 0)
+            QFile::remove(strPath);
+        else
+            put(strPath, nElements);
+    }
+
+    // What opening the file does; true: it is shown.
+    bool load(const QString &strPath)
+    {
+        const int nShown = m_model.showing(strPath);
+        if (nShown >= 0) {
+            m_model.activate(nShown);
+        } else if (!strPath.endsWith(QLatin1String(".kelpa"))) {
+            expect(QStringLiteral("Cannot open this file type."), QMessageBox::Ok);
+        } else if (m_model.disk.value(strPath, -1) < 0) {
+            expect(QStringLiteral("Could not open project %1.").arg(strPath), QMessageBox::Ok);
+        } else {
+            m_model.addRecent(strPath);
+            m_model.attach({strPath, false, false, {{m_model.disk.value(strPath)}}});
+            return true;
+        }
+        return nShown >= 0;
+    }
+
+    // Comparing.
+    QString check()
+    {
+        QStringList faults;
+        const auto same = [&](const char *pWhat, const auto &actual, const auto &expected) {
+            if (actual != expected)
+                faults.append(
+                    QStringLiteral("%1: %2, not %3").arg(QLatin1String(pWhat), text(actual), text(expected)));
+        };
+        for (int i = 0; i < qMax(m_said.size(), m_expected.size()); ++i) {
+            if (m_said.value(i).isEmpty() || !m_said.value(i).startsWith(m_expected.value(i))
+                || i >= m_expected.size())
+                same("box", m_said.value(i), m_expected.value(i));
+        }
+        ModelDocument *pActive = m_model.active();
+        same("save", m_program.command("File.Save")->isEnabled(), pActive && pActive->canSave());
+        same("save as", m_program.command("File.SaveAs.Project")->isEnabled(), pActive != nullptr);
+        same("close", m_program.command("File.Close")->isEnabled(), pActive != nullptr);
+        same("undo", m_program.command("Edit.Undo")->isEnabled(), pActive && pActive->nIndex > 0);
+        same("redo", m_program.command("Edit.Redo")->isEnabled(),
+            pActive && pActive->nIndex + 1 < pActive->history.size());
+        same("title", m_program.window->windowTitle(), m_model.title());
+        same("welcome", m_program.welcome.isVisible(), m_model.documents.isEmpty());
+        same("documents", DocumentManager::getDocuments().size(), m_model.documents.size());
+        same("editors", EditorManager::getEditors().size(), m_model.documents.size());
+        same("tabs", m_program.window->getMdiArea()->subWindowList().size(), m_model.documents.size());
+        if (faults.isEmpty())
+            checkDocuments(same);
+        checkRecent(same);
+        return faults.join(QLatin1Char('\n'));
+    }
+
+    void checkDocuments(const auto &same)
+    {
+        const IEditor *pActive = EditorManager::activeEditor();
+        const QUndoStack *pStack = pActive ? pActive->getDocument()->getUndoStack() : nullptr;
+        same("active stack", DocumentManager::getUndoGroup()->activeStack() == pStack, true);
+        same("active editor", EditorManager::getEditors().indexOf(pActive), qsizetype(m_model.nActive));
+        same("active tab", m_program.tabs()->currentIndex(), m_model.nActive);
+        for (int i = 0; i < static_cast<int>(m_model.documents.size()); ++i) {
+            const ModelDocument &document = m_model.documents.at(i);
+            const auto *pEditor = static_cast<StageEditor *>(EditorManager::getEditors().at(i));
+            const auto *pDocument = static_cast<StageDocument *>(pEditor->getDocument());
+            same("modified", pDocument->isModified(), document.isModified());
+            same("path", pDocument->getFileName(), document.path);
+            same("elements", pDocument->getModel()->elementCount(), document.elements());
+            same("history", pDocument->getUndoStack()->index(), document.nIndex);
+            same("mark", pEditor->getSubWindow()->isWindowModified(), document.isModified());
+            same(
+                "tab title", pEditor->getSubWindow()->windowTitle(), document.name() + QStringLiteral("[*]"));
+            same("tab path", pEditor->getSubWindow()->windowFilePath(), document.path);
+        }
+    }
+
+    void checkRecent(const auto &same)
+    {
+        same("recent list", IRecentFilesManager::getInstance()->getRecentFiles(), m_model.recent);
+        const ActionContainer *pMenu =
+            ActionManager::getActionContainer(QStringLiteral("File.Recent_Projects"));
+        same("recent menu", pMenu->getMenu()->isEnabled(), !m_model.recent.isEmpty());
+        for (int i = 0; i < 10; ++i) {
+            const QAction *pAction = recentCommand(i);
+            same("recent entry shown", pAction->isVisible(), i < m_model.recent.size());
+            if (i < m_model.recent.size() && pAction->isVisible()) {
+                same("recent entry", pAction->text(),
+                    QString::number(i + 1) + QStringLiteral(". ") + m_model.recent.at(i));
+                same("recent path", pAction->data().toString(), m_model.recent.at(i));
+            }
+        }
+    }
+
+    template <typename T>
+    static QString text(const T &value)
+    {
+        QString strText;
+        QDebug(&strText) << value;
+        return strText;
+    }
+
+    // Helpers.
+    int pick(int nCount) { return static_cast<int>(m_random() % static_cast<unsigned>(nCount)); }
+    [[nodiscard]] bool full() const { return m_model.documents.size() == s_nMostDocuments; }
+    QString anyPath() { return m_paths.at(pick(static_cast<int>(m_paths.size()))); }
+    QString anyFile()
+    {
+        const QStringList odd = {m_strFolder + QStringLiteral("/broken.kelpa"),
+            m_strFolder + QStringLiteral("/note.txt"), m_strFolder + QStringLiteral("/missing.kelpa")};
+        return pick(6) ? anyPath() : odd.at(pick(3));
+    }
+    [[nodiscard]] bool wouldNotFit(const QString &strPath) const
+    {
+        return full() && m_model.showing(strPath) < 0 && m_model.disk.value(strPath, -1) >= 0;
+    }
+    static QAction *recentCommand(int nEntry)
+    {
+        const QString strId = QStringLiteral("File.Recent_Projects.Project_%1").arg(nEntry + 1);
+        return ActionManager::getAction(strId)->getAction();
+    }
+    void put(const QString &strPath, int nElements)
+    {
+        QFile file(strPath);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(nElements < 0 ? QByteArrayLiteral("?") : projectText(nElements));
+        m_model.disk[strPath] = nElements;
+    }
+    void say(const char *pStep, const QStringList &details)
+    {
+        log.append(QLatin1String(pStep) + QLatin1Char(' ') + details.join(QLatin1Char(' ')));
+    }
+    void expect(const QString &strBox, QMessageBox::StandardButton answer)
+    {
+        m_expected.append(strBox);
+        m_answers.append(answer);
+    }
+
+    // Does it with somebody there who answers boxes and the dialog for a file.
+    void act(const std::function<void()> &step)
+    {
+        const BoxAnswers boxes(m_answers);
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { answerFileDialog(); });
+        timer.start(1);
+        step();
+        // Long words have places to break at.
+        m_said = boxes.texts().replaceInStrings(QString(QChar(0x200B)), QString());
+    }
+    void answerFileDialog() const
+    {
+        auto *pDialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!pDialog || !pDialog->isVisible())
+            return;
+        if (m_strChosen.isEmpty())
+            return pDialog->reject();
+        pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(m_strChosen);
+        QMetaObject::invokeMethod(pDialog, "accept");
+    }
+
+    WalkProgram m_program;
+    Model m_model;
+    std::mt19937 m_random;
+    const QString m_strFolder = m_program.filePath("projects");
+    QStringList m_paths;
+    QList<QMessageBox::StandardButton> m_answers;
+    QStringList m_expected;
+    QStringList m_said;
+    QString m_strChosen;
+    bool m_bChoiceFails = false;
+    bool m_bSaveFails = false;
+};
+
+} // namespace
+
+class tst_StageWalk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("kelpa.*=false")); }
+
+    void theProgramAgreesWithTheModelAfterEachStep_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        for (const unsigned nSeed : {1U, 2U, 3U, 4U, 5U})
+            QTest::addRow("seed %u", nSeed) << nSeed;
+    }
+    void theProgramAgreesWithTheModelAfterEachStep()
+    {
+        QFETCH(unsigned, seed);
+        Walk walk(seed);
+        for (int i = 0; i < 2000; ++i) {
+            const QString strFault = walk.step();
+            QVERIFY2(strFault.isEmpty(),
+                qPrintable(QStringLiteral("seed %1, after step %2:\n%3\nThe steps were:\n%4")
+                               .arg(seed)
+                               .arg(i + 1)
+                               .arg(strFault, walk.log.join(QLatin1Char('\n')))));
+        }
+    }
+};
+
+QTEST_MAIN(tst_StageWalk)
+#include "tst_stagewalk.moc"

@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <icore.h>
+#include <irecentfilesmanager.h>
+#include <mainwindow.h>
+
+#include <QProcess>
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+// A project, what the user answers about it, and whether the save that follows succeeds.
+struct Case
+{
+    const char *pName;
+    bool bModified;
+    bool bTemporary;
+    QMessageBox::StandardButton answer;
+    bool bSaves;
+    bool bCloses;
+};
+
+constexpr Case s_cases[] = {
+    {"saved", false, false, QMessageBox::NoButton, true, true},
+    {"modified, yes", true, false, QMessageBox::Yes, true, true},
+    {"modified, yes, fails", true, false, QMessageBox::Yes, false, false},
+    {"modified, no", true, false, QMessageBox::No, true, true},
+    {"modified, cancel", true, false, QMessageBox::Cancel, true, false},
+    {"temporary, yes", false, true, QMessageBox::Yes, true, true},
+    {"temporary, yes, no name", false, true, QMessageBox::Yes, false, false},
+    {"temporary, no", false, true, QMessageBox::No, true, true},
+    {"temporary, cancel", true, true, QMessageBox::Cancel, true, false},
+};
+
+// What must be left after closing the window with three projects.
+struct Outcome
+{
+    QStringList deleted; // in this order
+    QStringList boxes;
+    QStringList calls; // of the three, in order of opening
+    QStringList recent;
+    bool bClosed = true;
+};
+
+QString pathOf(int nProject)
+{
+    return QStringLiteral("/p/%1.kelpa").arg(nProject);
+}
+
+QString keptPathOf(int nProject)
+{
+    return QStringLiteral("/p/kept%1.kelpa").arg(nProject);
+}
+
+// One project's part of the outcome; false: it refuses.
+bool expectOne(int nProject, const Case &project, QStringList &calls, Outcome &outcome)
+{
+    calls.append("close");
+    if (project.answer != QMessageBox::NoButton)
+        outcome.boxes.append(QStringLiteral("Save changes made to %1?").arg(nProject));
+    if (project.answer == QMessageBox::Yes)
+        calls.append(project.bTemporary ? "saveAs" : "save");
+    if (project.answer == QMessageBox::Yes && !project.bSaves && !project.bTemporary)
+        outcome.boxes.append(QStringLiteral("Could not save project %1.").arg(nProject));
+    if (!project.bCloses)
+        return false;
+    if (project.bTemporary)
+        outcome.recent.removeOne(pathOf(nProject));
+    if (project.bTemporary && project.answer == QMessageBox::Yes)
+        outcome.recent.prepend(keptPathOf(nProject));
+    if (project.bTemporary && project.answer == QMessageBox::No)
+        calls.append("cleanTempDir");
+    outcome.deleted.append(
+        project.bTemporary && project.answer == QMessageBox::Yes ? keptPathOf(nProject) : pathOf(nProject));
+    return true;
+}
+
+Outcome expected(const std::array<Case, 3> &projects)
+{
+    Outcome outcome;
+    outcome.recent = {pathOf(2), pathOf(1), pathOf(0)};
+    std::array<QStringList, 3> calls;
+    for (int i = 2; i >= 0 && outcome.bClosed; --i)
+        outcome.bClosed = expectOne(i, projects.at(std::size_t(i)), calls.at(std::size_t(i)), outcome);
+    for (const QStringList &list : calls)
+        outcome.calls.append(list.join(','));
+    return outcome;
+}
+
+} // namespace
+
+class tst_MainWindowClosing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pFactory = std::make_unique<FakeFactory>();
+    }
+
+    void cleanup()
+    {
+        clear();
+        m_pFactory.reset();
+        m_pWindow.reset();
+        m_pProgram.reset();
+    }
+
+    void everyCombinationOfThreeProjects()
+    {
+        for (const Case &first : s_cases) {
+            for (const Case &second : s_cases) {
+                for (const Case &third : s_cases) {
+                    closeWith({first, second, third});
+                    if (QTest::currentTestFailed()) {
+                        qInfo("with: %s; %s; %s", first.pName, second.pName, third.pName);
+                        return;
+                    }
+                    clear();
+                }
+            }
+        }
+    }
+
+    void aDocumentMayGoInsideItsOwnClosing_data()
+    {
+        QTest::addColumn<int>("moment");
+        QTest::newRow("when it is about to close") << 0;
+        QTest::newRow("when its closing is requested") << 1;
+        QTest::newRow("when its editor is about to be deactivated") << 2;
+        QTest::newRow("when its editor was deactivated") << 3;
+    }
+
+    void aDocumentMayGoInsideItsOwnClosing()
+    {
+        QFETCH(int, moment);
+        QPointer<FakeDocument> pDoomed;
+        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+            const auto kill = [pDoc = QPointer(pDoc)] { delete pDoc; };
+            if (moment == 0)
+                connect(pDoc, &IDocument::aboutToClose, this, kill);
+            else if (moment == 1)
+                connect(pDoc, &IDocument::requestClosing, this, kill);
+            pDoomed = pDoc;
+        };
+        m_pFactory->onEditor = [&](IEditor *pEditor) {
+            if (moment == 2)
+                connect(pEditor, &IEditor::aboutToDeactivate, this, [&] { delete pDoomed; });
+        };
+        QVERIFY(m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
+        m_pFactory->prepare = nullptr;
+        m_pFactory->onEditor = nullptr;
+        if (moment == 3)
+            connect(EditorManager::getInstance(), &EditorManager::editorDeactivated, this,
+                [&] { delete pDoomed; });
+        m_pWindow->show();
+        QVERIFY(m_pWindow->close());
+        QVERIFY(!pDoomed);
+        QVERIFY(DocumentManager::getDocuments().isEmpty());
+        QVERIFY(m_pWindow->loadFile(m_pProgram->write("b.kelpa")));
+    }
+
+    void forcedEndAsksNobodyTwiceAndKeepsTheWorkingFolder()
+    {
+        QVERIFY(m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
+        m_pFactory->documents.first()->closeAnswer = false;
+        QFile working(m_pWindow->getDefaultTempPath() + "/scratch");
+        QVERIFY(working.open(QIODevice::WriteOnly));
+        m_pWindow->forceQuit();
+        QVERIFY(m_pFactory->documents.first().isNull());
+        QVERIFY(EditorManager::getEditors().isEmpty());
+        QVERIFY(working.exists());
+    }
+
+    // Each of two other processes adds five projects while this one adds none: none of the ten is lost.
+    void programsThatWriteAtOnceLoseNoRecentProject()
+    {
+        QProcess first, second;
+        for (QProcess *pProcess : {&first, &second}) {
+            pProcess->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            pProcess->start(QCoreApplication::applicationFilePath(),
+                {"--add-recent", PluginManager::settings()->fileName(),
+                    pProcess == &first ? "first" : "second"});
+        }
+        QVERIFY(first.waitForFinished() && second.waitForFinished());
+        PluginManager::settings()->sync();
+        QStringList files = IRecentFilesManager::getInstance()->getRecentFiles();
+        files.sort();
+        QStringList all;
+        for (const char *pName : {"first", "second"}) {
+            for (int i = 0; i < 5; ++i)
+                all.append(QString("/%1/%2").arg(pName).arg(i));
+        }
+        QCOMPARE(files, all);
+    }
+
+    void aStubbornFileStopsTheRemovalOfTheWorkingFolder()
+    {
+#ifdef Q_OS_UNIX
+        QProcess child;
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        child.start(QCoreApplication::applicationFilePath(), {"--stubborn-file"});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitCode(), 0);
+#endif
+    }
+
+private:
+    void load(int nProject, const Case &project)
+    {
+        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+            pDoc->bSaveSucceeds = pDoc->bSaveAsSucceeds = project.bSaves;
+            pDoc->strSaveAsName = keptPathOf(nProject);
+        };
+        m_pWindow->loadFile(pathOf(nProject));
+        FakeDocument *pDoc = m_pFactory->documents.last();
+        pDoc->setIsTempDocument(project.bTemporary);
+        if (project.bModified)
+            pDoc->modify();
+    }
+
+    void closeWith(const std::array<Case, 3> &projects)
+    {
+        QList<QMessageBox::StandardButton> answers;
+        for (int i = 0; i < 3; ++i) {
+            const Case &project = projects.at(std::size_t(i));
+            load(i, project);
+            QList<QMessageBox::StandardButton> own;
+            if (project.answer != QMessageBox::NoButton)
+                own.append(project.answer);
+            if (!project.bTemporary && !project.bSaves)
+                own.append(QMessageBox::Ok);
+            answers = own + answers;
+        }
+        m_pWindow->show();
+        const BoxAnswers boxes(answers);
+        QStringList calls;
+        std::array<QStringList, 3> log;
+        const auto documents = m_pFactory->documents;
+        for (std::size_t i = 0; i < 3; ++i)
+            documents.at(int(i))->pCalls = &log.at(i);
+        const bool bClosed = m_pWindow->close();
+        for (const QStringList &list : log)
+            calls.append(list.join(','));
+        for (const auto &pDoc : documents) {
+            if (pDoc)
+                pDoc->pCalls = nullptr;
+        }
+
+        const Outcome outcome = expected(projects);
+        QCOMPARE(bClosed, outcome.bClosed);
+        QCOMPARE(m_pWindow->isVisible(), !outcome.bClosed);
+        QCOMPARE(m_pFactory->deleted, outcome.deleted);
+        QCOMPARE(boxes.texts(), outcome.boxes);
+        QCOMPARE(calls, outcome.calls);
+        QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles(), outcome.recent);
+        QCOMPARE(EditorManager::getEditors().size(), 3 - outcome.deleted.size());
+        QCOMPARE(DocumentManager::getDocuments().size(), 3 - outcome.deleted.size());
+    }
+
+    void clear()
+    {
+        const auto documents = DocumentManager::getDocuments();
+        for (IDocument *pDoc : documents)
+            emit pDoc->requestClosing(false);
+        m_pFactory->documents.clear();
+        m_pFactory->editors.clear();
+        m_pFactory->deleted.clear();
+        PluginManager::settings()->clear();
+    }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<MainWindow> m_pWindow;
+    std::unique_ptr<FakeFactory> m_pFactory;
+};
+
+// A program of its own that adds five recent projects to the store.
+static int addRecent(const QString &strStore, const QString &strName)
+{
+    TestProgram program;
+    program.manager.setSettings(std::make_unique<QSettings>(strStore, QSettings::IniFormat));
+    const MainWindow window(nullptr);
+    for (int i = 0; i < 5; ++i)
+        IRecentFilesManager::getInstance()->addFile(QString("/%1/%2").arg(strName).arg(i));
+    return 0;
+}
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+
+// Root may delete everything, so the window runs as somebody else, with a folder that is not theirs.
+static int stubbornFile()
+{
+    const QTemporaryDir temp;
+    qputenv("TMPDIR", temp.path().toLocal8Bit());
+    TestProgram program;
+    MainWindow window(nullptr);
+    const QString strFolder = window.getDefaultTempPath();
+    QDir(strFolder).mkpath("b_locked");
+    for (const char *pName : {"/b_locked/file", "/file"})
+        QFile(strFolder + QLatin1String(pName)).open(QIODevice::WriteOnly);
+    QDir(strFolder).mkpath("a_free");
+    QFile::setPermissions(temp.path(), QFile::Permissions(0x7777));
+    QFile::setPermissions(strFolder, QFile::Permissions(0x7777));
+    QFile::setPermissions(
+        strFolder + "/b_locked", QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    const bool bRoot = geteuid() == 0;
+    if (bRoot && seteuid(65534) != 0)
+        return 1;
+    window.removeDefaultTempDir();
+    if (bRoot && seteuid(0) != 0)
+        return 1;
+    const bool bKept = QFile::exists(strFolder + "/b_locked/file") && QFile::exists(strFolder + "/file");
+    const bool bEarlierGone = !QFile::exists(strFolder + "/a_free");
+    QFile::setPermissions(strFolder + "/b_locked", QFile::Permissions(0x7777));
+    return bKept && bEarlierGone ? 0 : 1;
+}
+#endif
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--add-recent")
+        return addRecent(arguments.value(2), arguments.value(3));
+#ifdef Q_OS_UNIX
+    if (arguments.value(1) == "--stubborn-file")
+        return stubbornFile();
+#endif
+    tst_MainWindowClosing test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_mainwindow_closing.moc"
