@@ -52,6 +52,19 @@ void PlainWebView::setZoomFactor(double fFactor)
     Q_UNUSED(fFactor)
 }
 
+// No script runs here.
+void PlainWebView::setPageData(const QJsonObject &pageData)
+{
+    Q_UNUSED(pageData)
+}
+
+void PlainWebView::setBackground(const QColor &color)
+{
+    QPalette palette = m_pBrowser->palette();
+    palette.setColor(QPalette::Base, color);
+    m_pBrowser->setPalette(palette);
+}
+
 // Like the engine: the signal comes from the event loop.
 void PlainWebView::finishLater(bool bOk)
 {

@@ -17,6 +17,8 @@ public:
     void load(const QUrl &url) override;
     void setHtml(const QString &strHtml) override;
     void setZoomFactor(double fFactor) override;
+    void setPageData(const QJsonObject &pageData) override;
+    void setBackground(const QColor &color) override;
 
 private:
     void finishLater(bool bOk);

@@ -66,14 +66,18 @@ bool RequestFilter::allows(WebAccess access, const QUrl &url)
 {
     static const QStringList s_web {QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("data"),
         QStringLiteral("blob"), QStringLiteral("about")};
-    static const QStringList s_own {QStringLiteral("qrc"), QStringLiteral("ws"), QStringLiteral("wss")};
-    return s_web.contains(url.scheme()) || (access == WebAccess::OwnPages && s_own.contains(url.scheme()));
+    if (access == WebAccess::Web)
+        return s_web.contains(url.scheme());
+    return url.scheme() == QLatin1String("qrc")
+        || (url.scheme() == QLatin1String("ws") && url.host() == QLatin1String("127.0.0.1"));
 }
 
 void RequestFilter::interceptRequest(QWebEngineUrlRequestInfo &info)
 {
-    if (!allows(m_access, info.requestUrl()))
+    const bool bAllowed = allows(m_access, info.requestUrl());
+    if (!bAllowed)
         info.block(true);
+    emit requested(info.requestUrl(), bAllowed);
 }
 
 EnginePage::EnginePage(WebAccess access, QWebEngineProfile *pProfile, QObject *pParent)

@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] static bool allows(WebAccess access, const QUrl &url);
 
+signals:
+    void requested(const QUrl &url, bool bAllowed);
+
 private:
     const WebAccess m_access;
 };

@@ -18,9 +18,14 @@ public:
     void load(const QUrl &url) override;
     void setHtml(const QString &strHtml) override;
     void setZoomFactor(double fFactor) override;
+    void setPageData(const QJsonObject &pageData) override;
+    void setBackground(const QColor &color) override;
 
 private:
+    void onLoaded(bool bOk);
+
     QWebEngineView *m_pView;
+    bool m_bLoaded = false;
 };
 
 class EngineFactory : public QObject, public WebViewFactory
