@@ -101,3 +101,15 @@ function(kelpa_add_test name)
             ENVIRONMENT_MODIFICATION "ASAN_OPTIONS=string_append::strict_string_checks=0")
     endif()
 endfunction()
+
+# kelpa_test_in_memory(<test>): its temporary files lie in memory, in a folder of its own, where the system has
+# such a place. For tests that save thousands of times and would wait for the disk each time.
+function(kelpa_test_in_memory name)
+    if(EXISTS /dev/shm)
+        string(SHA1 id "${CMAKE_BINARY_DIR}/${name}")
+        string(SUBSTRING "${id}" 0 12 id)
+        file(MAKE_DIRECTORY /dev/shm/kelpa-${id})
+        set_property(TEST ${name} APPEND PROPERTY
+            ENVIRONMENT_MODIFICATION "TMPDIR=set:/dev/shm/kelpa-${id}")
+    endif()
+endfunction()

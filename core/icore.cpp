@@ -51,7 +51,9 @@ QString ICore::resourcePath()
 void ICore::saveSettings()
 {
     emit s_pInstance->aboutToSaveSettings();
-    settings(QSettings::UserScope)->sync();
-    settings(QSettings::SystemScope)->sync();
+    for (const QSettings::Scope scope : {QSettings::UserScope, QSettings::SystemScope}) {
+        if (QSettings *pSettings = settings(scope))
+            pSettings->sync();
+    }
     PluginManager::checkSettings();
 }

@@ -3,10 +3,16 @@
 
 #include "icore.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QLockFile>
+#include <QLoggingCategory>
 #include <QSettings>
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcRecent, "kelpa.core.recent")
+
 const QString s_key = QStringLiteral("Kelpa/RecentProjects");
 constexpr int s_lockWaitMs = 1000;
 } // namespace
@@ -30,18 +36,23 @@ void IRecentFilesManager::removeFile(const QString &strPath)
 
 QStringList IRecentFilesManager::getRecentFiles()
 {
-    const QStringList files = ICore::settings(QSettings::UserScope)->value(s_key).toStringList();
+    const QSettings *pSettings = ICore::settings(QSettings::UserScope);
+    const QStringList files = pSettings ? pSettings->value(s_key).toStringList() : QStringList();
     m_nCount = static_cast<int>(qMin<qsizetype>(files.size(), m_nMaxCount));
     return files.first(m_nCount);
 }
 
 // Other instances of the program may write the same store: under a lock, take their list over before
-// changing it. A lock that cannot be had only costs that protection.
+// changing it. A lock that cannot be had only costs that protection. Without a store nothing is kept.
 void IRecentFilesManager::change(const std::function<void(QStringList &)> &edit) const
 {
     QSettings *pSettings = ICore::settings(QSettings::UserScope);
+    if (!pSettings)
+        return;
+    QDir().mkpath(QFileInfo(pSettings->fileName()).path()); // at the very first start there is none
     QLockFile lock(pSettings->fileName() + QStringLiteral(".recent.lock"));
-    lock.tryLock(s_lockWaitMs);
+    if (!lock.tryLock(s_lockWaitMs))
+        qCWarning(lcRecent, "%s: not locked, error %d", qUtf8Printable(pSettings->fileName()), lock.error());
     pSettings->sync();
     QStringList files = pSettings->value(s_key).toStringList();
     edit(files);

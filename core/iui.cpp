@@ -113,7 +113,7 @@ QPixmap IUi::getPixmap(const QString &strName, int nMode, bool bDisabled, const 
     const QString strPath = imagePath(strName, nMode, bDisabled, strFolder);
     QPixmap &pixmap = getInstance()->m_pixmaps[strPath];
     if (pixmap.isNull())
-        pixmap.load(strPath);
+        pixmap.load(strPath, "PNG"); // to find the format out would load libraries for all others
     return pixmap;
 }
 

@@ -10,6 +10,7 @@
 #include "document/idocumentfactory.h"
 #include "document/ieditor.h"
 #include "icore.h"
+#include "lazyicon.h"
 #include "ui/imainmdiarea.h"
 #include "ui/ioptionsdlg.h"
 #include "webchannel/websocketclientwrapper.h"
@@ -37,19 +38,32 @@ namespace {
 
 const QString s_tempFolder = QStringLiteral("%1-%2").arg(QStringLiteral("ORVEN"), QStringLiteral("Kelpa"));
 
-// Removes the folder and all in it; the first failure stops the walk. A link goes as a link, wherever it
-// leads.
+bool isLink(const QFileInfo &entry)
+{
+    return entry.isSymLink() || entry.isJunction();
+}
+
+bool removeRecursively(const QString &strPath);
+
+// A link goes as a link, wherever it leads; on Windows those to folders are folders of a kind.
+bool removeEntry(const QFileInfo &entry)
+{
+    const QString strPath = entry.absoluteFilePath();
+    if (!isLink(entry))
+        return entry.isDir() ? removeRecursively(strPath) : QFile::remove(strPath);
+    return QFile::remove(strPath) || QDir().rmdir(strPath);
+}
+
+// Removes the folder and all in it; the first failure stops the walk.
 bool removeRecursively(const QString &strPath)
 {
     const QDir dir(strPath);
-    if (QFileInfo(strPath).isSymLink() || !dir.exists())
+    if (isLink(QFileInfo(strPath)) || !dir.exists())
         return false;
     const auto entries = dir.entryInfoList(
         QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::DirsFirst);
     for (const QFileInfo &entry : entries) {
-        const bool bFolder = entry.isDir() && !entry.isSymLink();
-        const QString strEntry = entry.absoluteFilePath();
-        if (!(bFolder ? removeRecursively(strEntry) : QFile::remove(strEntry)))
+        if (!removeEntry(entry))
             return false;
     }
     return dir.rmdir(dir.absolutePath());
@@ -126,7 +140,7 @@ void MainWindow::createMdiArea()
     m_pMdiArea->setDocumentMode(true);
     m_pMdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_pMdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_pMdiArea->setWindowIcon(QIcon(QStringLiteral(":/app/images/project_icon.ico")));
+    m_pMdiArea->setWindowIcon(lazyIcon(QStringLiteral(":/app/images/project_icon.ico")));
     m_pMdiArea->setFocusPolicy(Qt::ClickFocus);
     setContentsMargins(1, 1, 1, 1);
     connect(m_pMdiArea, &QMdiArea::subWindowActivated, this, &MainWindow::updateActivatedMdiSubFilePath);
@@ -304,12 +318,13 @@ void MainWindow::closeEvent(QCloseEvent *pEvent)
     QList<QPointer<IDocument>> shown;
     for (const IEditor *pEditor : EditorManager::getEditors())
         shown.prepend(pEditor->getDocument());
-    if (!closeDocuments(shown)) {
-        pEvent->ignore();
-        return;
-    }
-    const auto &rest = DocumentManager::getDocuments();
-    if (!closeDocuments({rest.cbegin(), rest.cend()})) {
+    // Looked at after the first walk: a project that came in meanwhile is asked too.
+    const auto rest = [] {
+        const auto &documents = DocumentManager::getDocuments();
+        return QList<QPointer<IDocument>>(documents.cbegin(), documents.cend());
+    };
+    if (!closeDocuments(shown) || !closeDocuments(rest())) {
+        updateActivatedMdiSubFilePath(m_pMdiArea->activeSubWindow()); // the closed ones left no title
         pEvent->ignore();
         return;
     }

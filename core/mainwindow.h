@@ -26,6 +26,7 @@ class IMainMdiArea;
 class IMainMenuWidget;
 class IOptionsDlg;
 class QMdiSubWindow;
+class QShortcutEvent;
 class QToolBar;
 class QWebChannel;
 class QWebSocketServer;
@@ -173,6 +174,7 @@ private:
     void createRecentCommands();
     void createLanguageMenu(ActionContainer *pViewMenu);
     void createToolBars();
+    bool preferSaveAs(const QShortcutEvent *pEvent);
     void reloadIcons();
     void enableCommand(const char *pId, bool bEnabled);
 

@@ -4,9 +4,7 @@
 
 #include "appearance/ilanguagemanager.h"
 #include "displayscale.h"
-#include "document/idocumentfactory.h"
 #include "icore.h"
-#include "ui/imainmenuwidget.h"
 #include "ui/ioptionsdlg.h"
 #include "ui/nativescreen.h"
 

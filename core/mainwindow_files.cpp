@@ -19,6 +19,7 @@
 #include <QLoggingCategory>
 #include <QMimeData>
 #include <QPointer>
+#include <QShortcutEvent>
 #include <QUndoGroup>
 #include <QUndoStack>
 #include <QUrl>
@@ -78,12 +79,10 @@ bool isProjectFile(const QString &strPath)
     return strSuffix == QLatin1String("kelpa") || strSuffix == QLatin1String("kelpapack");
 }
 
-void makeStackActive(IDocument *pDoc)
+void addStack(const IDocument *pDoc)
 {
-    QUndoStack *pStack = pDoc->getUndoStack();
-    if (pStack)
-        DocumentManager::getUndoGroup()->addStack(pStack);
-    DocumentManager::getUndoGroup()->setActiveStack(pStack);
+    if (pDoc->getUndoStack())
+        DocumentManager::getUndoGroup()->addStack(pDoc->getUndoStack());
 }
 
 void startBackup(IDocument *pDoc)
@@ -118,17 +117,18 @@ bool MainWindow::loadFile(const QString &strFileName)
         IUi::information(this, QStringLiteral("Kelpa Studio"), tr("Cannot open this file type."));
         return false;
     }
-    IDocument *pDoc = pFactory->createDocument();
+    const QPointer<IDocument> pDoc = pFactory->createDocument();
     pDoc->setFileName(strPath);
-    if (!pDoc->open()) {
+    const bool bOpened = pDoc->open() && pDoc && loadOpenedDocument(pDoc, true);
+    if (!bOpened) {
         delete pDoc;
         updateWelcomeWidget();
-        return false;
     }
-    return loadOpenedDocument(pDoc, true);
+    return bOpened;
 }
 
-// Plug-ins see the steps through the signals they cause, here and in attachNew(): both orders stay.
+// Plug-ins see the steps through the signals they cause, here and in attachNew(): both orders stay. A slot of
+// theirs may close the document at once.
 bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
 {
     IDocumentFactory *pFactory = factoryFor(pDoc->getFileName());
@@ -140,14 +140,20 @@ bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
     pEditor->setDocument(pDoc);
     DocumentManager::addDocument(pDoc);
     EditorManager::addEditor(pEditor);
+    addStack(pDoc);
+    const QPointer<IDocument> pOpened = pDoc;
     EditorManager::activateEditor(pEditor);
-    makeStackActive(pDoc);
-    connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
-    emit pDoc->aboutToOpen();
-    startBackup(pDoc);
+    if (pOpened) {
+        DocumentManager::getUndoGroup()->setActiveStack(pDoc->getUndoStack());
+        connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
+        emit pDoc->aboutToOpen();
+    }
+    if (pOpened) {
+        startBackup(pDoc);
+        // Waited for by the start under a virtual display.
+        qCDebug(lcFiles, "Project shown: %s", qUtf8Printable(pDoc->getFileName()));
+    }
     updateWelcomeWidget();
-    // Waited for by the start under a virtual display.
-    qCDebug(lcFiles, "Project shown: %s", qUtf8Printable(pDoc->getFileName()));
     return true;
 }
 
@@ -192,14 +198,18 @@ void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
     DocumentManager::addDocument(pDoc);
     EditorManager::addEditor(pEditor);
     enableCommand("File.Save", true);
-    makeStackActive(pDoc);
+    addStack(pDoc);
+    DocumentManager::getUndoGroup()->setActiveStack(pDoc->getUndoStack());
     connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
+    const QPointer<IDocument> pNew = pDoc;
     EditorManager::activateEditor(pEditor);
-    emit pDoc->aboutToOpen();
+    if (pNew)
+        emit pDoc->aboutToOpen();
     // The history alone would tell that there is nothing to save.
-    if (!pDoc->save())
+    if (pNew && !pDoc->save() && pNew)
         enableCommand("File.Save", true);
-    startBackup(pDoc);
+    if (pNew)
+        startBackup(pDoc);
 }
 
 void MainWindow::fileOpen()
@@ -210,7 +220,8 @@ void MainWindow::fileOpen()
         loadFile(strPath);
 }
 
-// Dialogs run inside the calls below, and whatever happens meanwhile may take the document away.
+// Dialogs run inside the calls below, and whatever happens meanwhile may take the document away, or put
+// another in front.
 void MainWindow::fileSave()
 {
     const QPointer<IDocument> pDoc = activeDocument();
@@ -218,7 +229,7 @@ void MainWindow::fileSave()
         return;
     if (pDoc->isTempDocument())
         fileSaveAs();
-    else if (pDoc->save())
+    else if (pDoc->save() && pDoc == activeDocument())
         enableCommand("File.Save", false);
 }
 
@@ -236,7 +247,7 @@ void MainWindow::fileSaveAs()
         IRecentFilesManager::getInstance()->removeFile(strOldName);
     if (bSaved)
         addRecent(pDoc->getFileName());
-    if (bSaved || bWasTemp)
+    if ((bSaved || bWasTemp) && pDoc == activeDocument())
         enableCommand("File.Save", !bSaved);
 }
 
@@ -278,7 +289,9 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
 
 void MainWindow::addRecent(const QString &strPath)
 {
-    IRecentFilesManager::getInstance()->addFile(strPath);
+    // A relative path, from a command line, would mean another file for a program started elsewhere.
+    const bool bRelative = !strPath.isEmpty() && QDir::isRelativePath(strPath);
+    IRecentFilesManager::getInstance()->addFile(bRelative ? QFileInfo(strPath).absoluteFilePath() : strPath);
     updateRecentFileActions();
 }
 
@@ -287,7 +300,8 @@ void MainWindow::updateWelcomeWidget()
     setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
 }
 
-// Watches the area of documents and the welcome widget for projects dropped on them.
+// Watches the area of documents and the welcome widget for projects dropped on them, and two commands that
+// share their keys.
 bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
     switch (pEvent->type()) {
@@ -300,6 +314,8 @@ bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
         return false;
     case QEvent::Drop:
         return handleDrop(static_cast<QDropEvent *>(pEvent));
+    case QEvent::Shortcut:
+        return preferSaveAs(static_cast<QShortcutEvent *>(pEvent));
     default:
         return KPStyledFrame<QMainWindow>::eventFilter(pWatched, pEvent);
     }

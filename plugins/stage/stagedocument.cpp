@@ -7,6 +7,7 @@
 #include "stagereader.h"
 #include "stagewriter.h"
 
+#include <document/documentmanager.h>
 #include <icore.h>
 #include <iui.h>
 #include <mainwindow.h>
@@ -16,6 +17,8 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <QUndoStack>
+
+#include <algorithm>
 
 Q_LOGGING_CATEGORY(lcStage, "kelpa.stage")
 
@@ -146,7 +149,21 @@ bool StageDocument::saveAs()
                 != QMessageBox::Yes)
             return false;
     }
+    if (isOpenElsewhere(strFileName, this)) {
+        IUi::information(
+            nullptr, s_title, tr("%1 is open. Close it first.").arg(QDir::toNativeSeparators(strFileName)));
+        return false;
+    }
     return saveAsOwn(strFileName);
+}
+
+bool StageDocument::isOpenElsewhere(const QString &strFileName, const IDocument *pExcept)
+{
+    const QString strPath = QFileInfo(strFileName).canonicalFilePath();
+    const auto &documents = DocumentManager::getDocuments();
+    return !strPath.isEmpty() && std::any_of(documents.begin(), documents.end(), [&](const IDocument *pDoc) {
+        return pDoc != pExcept && QFileInfo(pDoc->getFileName()).canonicalFilePath() == strPath;
+    });
 }
 
 bool StageDocument::saveAsOwn(const QString &strFileName)

@@ -17,6 +17,9 @@ public:
 
     [[nodiscard]] StageModel *getModel() const { return m_pModel; }
 
+    /// Whether an open document other than `pExcept` has this file: both would write it.
+    [[nodiscard]] static bool isOpenElsewhere(const QString &strFileName, const IDocument *pExcept);
+
     void cleanTempDir() override;
 
     /// Width and height in pixels, frames per second, whether the stage follows the width of its page. The

@@ -16,8 +16,6 @@ public:
     [[nodiscard]] IDocument *createDocument() override;
     [[nodiscard]] IEditor *createEditor() override;
     [[nodiscard]] QStringList getSupportedSuffixes() override;
-
-    /// Null: there are no preferences yet.
     [[nodiscard]] IOptionsDlg *createOptionsDialog() override;
     [[nodiscard]] ICreateDocumentDlg *createNewDocumentDialog() override;
     [[nodiscard]] QString getOpenFileName() override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "stagenewdialog.h"
 
+#include "stagedocument.h"
 #include "stageformat.h"
 
 #include <iui.h>
@@ -107,6 +108,8 @@ QString StageNewDialog::problem()
         return tr("The folder %1 cannot be written to.").arg(QDir::toNativeSeparators(folder.filePath()));
     if (file.exists() && !file.isFile())
         return tr("%1 is not a file.").arg(QDir::toNativeSeparators(file.filePath()));
+    if (StageDocument::isOpenElsewhere(file.filePath(), nullptr))
+        return tr("%1 is open. Close it first.").arg(QDir::toNativeSeparators(file.filePath()));
     return {};
 }
 

@@ -3,6 +3,7 @@
 
 #include <appearance/ilanguagemanager.h>
 #include <document/documentmanager.h>
+#include <iui.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -112,13 +113,16 @@ void GeneralOptionPage::fill()
 {
     const QString strSaved = ILanguageManager::getInstance().getSaveLangId();
     const int nIndex = m_pLanguage->findData(strSaved);
-    m_pLanguage->setCurrentIndex(qMax(0, nIndex));
+    // Nothing chosen: what is stored is no longer installed.
+    m_pLanguage->setCurrentIndex(strSaved.isEmpty() ? 0 : nIndex);
 }
 
 void GeneralOptionPage::saveChanges()
 {
-    ILanguageManager::getInstance().saveLanguage(m_pLanguage->currentData().toString());
-    StageOptionPage::saveChanges();
+    if (ILanguageManager::getInstance().saveLanguage(m_pLanguage->currentData().toString()))
+        StageOptionPage::saveChanges();
+    else
+        IUi::information(this, QStringLiteral("Kelpa Studio"), tr("Failed to change language."));
 }
 
 BackupOptionPage::BackupOptionPage()
@@ -136,7 +140,10 @@ BackupOptionPage::BackupOptionPage()
     pLayout->addRow(tr("&Interval:"), m_pInterval);
     connect(m_pEnable, &QCheckBox::toggled, m_pInterval, &QSpinBox::setEnabled);
     connect(m_pEnable, &QCheckBox::toggled, this, &BackupOptionPage::markChanged);
-    connect(m_pInterval, &QSpinBox::valueChanged, this, &BackupOptionPage::markChanged);
+    connect(m_pInterval, &QSpinBox::valueChanged, this, [this] {
+        m_bIntervalChanged = true;
+        markChanged();
+    });
 }
 
 BackupOptionPage::~BackupOptionPage() = default;
@@ -146,12 +153,14 @@ void BackupOptionPage::fill()
     m_pEnable->setChecked(DocumentManager::isAutobackupEnabled());
     m_pInterval->setEnabled(m_pEnable->isChecked());
     m_pInterval->setValue(DocumentManager::getAutobackupTimeout());
+    m_bIntervalChanged = false;
 }
 
 void BackupOptionPage::saveChanges()
 {
     DocumentManager::setAutoBackupEnabled(m_pEnable->isChecked());
-    DocumentManager::setAutobackupTimeout(m_pInterval->value());
+    if (m_bIntervalChanged) // one out of the range stays as it is unless the user gave another
+        DocumentManager::setAutobackupTimeout(m_pInterval->value());
     DocumentManager::saveSettings();
     const auto apply =
         m_pEnable->isChecked() ? DocumentManager::startWaitingBackup : DocumentManager::stopWaitingBackup;

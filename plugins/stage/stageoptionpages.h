@@ -64,6 +64,7 @@ private:
 
     QCheckBox *m_pEnable;
     QSpinBox *m_pInterval;
+    bool m_bIntervalChanged = false; ///< since it was filled
 };
 
 class EditingOptionPage : public StageOptionPage

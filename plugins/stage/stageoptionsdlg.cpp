@@ -16,6 +16,23 @@
 
 using ExtensionSystem::PluginManager;
 
+namespace {
+
+// A copy: a page being made may change the pool.
+QList<IOptionPageFactory *> pageFactories()
+{
+    const QReadLocker locker(PluginManager::listLock());
+    QList<IOptionPageFactory *> factories;
+    const auto objects = PluginManager::allObjects();
+    for (QObject *pObject : objects) {
+        if (auto *pFactory = qobject_cast<IOptionPageFactory *>(pObject))
+            factories.append(pFactory);
+    }
+    return factories;
+}
+
+} // namespace
+
 StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     : IOptionsDlg(pParent)
     , m_pList(new QListWidget(this))
@@ -39,7 +56,6 @@ StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     connect(
         m_pButtons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &StageOptionsDlg::onApply);
     addPages();
-    m_pList->setFixedWidth(m_pList->sizeHintForColumn(0) + 4 * m_pList->fontMetrics().averageCharWidth());
     m_pList->setCurrentRow(0);
     updateButtons();
 }
@@ -51,12 +67,8 @@ void StageOptionsDlg::addPages()
     addPage(new GeneralOptionPage);
     addPage(new BackupOptionPage);
     addPage(new EditingOptionPage);
-    const QReadLocker locker(PluginManager::listLock());
-    const auto objects = PluginManager::allObjects();
-    for (QObject *pObject : objects) {
-        if (auto *pFactory = qobject_cast<IOptionPageFactory *>(pObject))
-            addPage(pFactory->createPage());
-    }
+    for (IOptionPageFactory *pFactory : pageFactories())
+        addPage(pFactory->createPage());
 }
 
 void StageOptionsDlg::addPage(IOptionPage *pPage)
@@ -76,6 +88,7 @@ void StageOptionsDlg::showDialog()
         for (IOptionPage *pPage : std::as_const(m_pages))
             pPage->setNeedInitConfig2UI();
         updateButtons();
+        m_pList->setFixedWidth(m_pList->sizeHintForColumn(0) + 4 * m_pList->fontMetrics().averageCharWidth());
     }
     open();
     raise();

@@ -8,7 +8,7 @@
 StageSubWindow::StageSubWindow(QWidget *pParent)
     : QMdiSubWindow(pParent)
 {
-    // Its keys are those of the Close command, and where two have the same neither works.
+    // Its menu has the keys of the command that closes the project: neither would fire.
     const auto actions = systemMenu()->actions();
     for (QAction *pAction : actions)
         pAction->setShortcuts(QList<QKeySequence>());

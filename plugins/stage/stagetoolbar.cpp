@@ -10,6 +10,7 @@
 #include <document/documentmanager.h>
 #include <document/editormanager.h>
 #include <document/idocument.h>
+#include <icore.h>
 #include <iui.h>
 #include <mainwindow.h>
 
@@ -178,11 +179,12 @@ void StageToolBar::addElement(StageElement::Type type)
     element.height = row.nHeight;
     element.fill = QColor(QLatin1String(row.pFill));
     element.text = type == StageElement::Type::Text ? tr("Text") : QString();
-    if (type == StageElement::Type::Image && !chooseImage(window(), element))
+    if (type == StageElement::Type::Image && !chooseImage(ICore::getMainWindow(), element))
         return;
     // The dialog ran an event loop in which the editor may have gone.
     const auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
-    if (pEditor && pEditor->getView() && !pEditor->getView()->addElement(element))
-        static_cast<MainWindow *>(window())->statusBar()->showMessage(
-            tr("The project holds as many elements as it can."));
+    if (!pEditor || !pEditor->getView() || pEditor->getView()->addElement(element))
+        return;
+    if (MainWindow *pMainWindow = ICore::getMainWindow())
+        pMainWindow->statusBar()->showMessage(tr("The project holds as many elements as it can."));
 }

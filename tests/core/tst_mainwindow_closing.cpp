@@ -5,7 +5,9 @@
 #include <irecentfilesmanager.h>
 #include <mainwindow.h>
 
+#include <QElapsedTimer>
 #include <QProcess>
+#include <QUndoGroup>
 
 using ExtensionSystem::PluginManager;
 
@@ -162,22 +164,63 @@ private slots:
         QVERIFY(m_pWindow->close());
         QVERIFY(!pDoomed);
         QVERIFY(DocumentManager::getDocuments().isEmpty());
+        for (const IEditor *pEditor : EditorManager::getEditors())
+            QVERIFY(!pEditor->getDocument());
         QVERIFY(m_pWindow->loadFile(m_pProgram->write("b.kelpa")));
+    }
+
+    void aDocumentMayGoWhileItIsOpened_data()
+    {
+        QTest::addColumn<bool>("create");
+        QTest::addColumn<bool>("activated");
+        QTest::newRow("opened, when it says so") << false << false;
+        QTest::newRow("opened, when its editor becomes active") << false << true;
+        QTest::newRow("new, when it says so") << true << false;
+        QTest::newRow("new, when its editor becomes active") << true << true;
+    }
+
+    void aDocumentMayGoWhileItIsOpened()
+    {
+        QFETCH(bool, create);
+        QFETCH(bool, activated);
+        m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
+        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+            if (!activated)
+                connect(pDoc, &IDocument::aboutToOpen, this, [pDoc = QPointer(pDoc)] { delete pDoc; });
+        };
+        if (activated) {
+            connect(EditorManager::getInstance(), &EditorManager::editorActivated, this,
+                [](IEditor *pEditor) { delete pEditor->getDocument(); });
+        }
+        if (create)
+            m_pWindow->fileNew();
+        else
+            m_pWindow->loadFile(m_pProgram->write("a.kelpa"));
+        QVERIFY(m_pFactory->documents.first().isNull());
+        QVERIFY(DocumentManager::getDocuments().isEmpty());
+        QVERIFY(!DocumentManager::getUndoGroup()->activeStack());
     }
 
     void forcedEndAsksNobodyTwiceAndKeepsTheWorkingFolder()
     {
         QVERIFY(m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
+        QStringList calls;
         m_pFactory->documents.first()->closeAnswer = false;
+        m_pFactory->documents.first()->pCalls = &calls;
         QFile working(m_pWindow->getDefaultTempPath() + "/scratch");
         QVERIFY(working.open(QIODevice::WriteOnly));
-        m_pWindow->forceQuit();
+        m_pWindow->show();
+        QTimer::singleShot(0, m_pWindow.get(), &MainWindow::forceQuit);
+        QTimer::singleShot(5000, this, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(m_pWindow->isVisible());
+        QCOMPARE(calls, QStringList({"close"}));
         QVERIFY(m_pFactory->documents.first().isNull());
         QVERIFY(EditorManager::getEditors().isEmpty());
         QVERIFY(working.exists());
     }
 
-    // Each of two other processes adds five projects while this one adds none: none of the ten is lost.
+    // Each of two other processes adds five projects again and again: in the end none of the ten is lost.
     void programsThatWriteAtOnceLoseNoRecentProject()
     {
         QProcess first, second;
@@ -285,8 +328,11 @@ static int addRecent(const QString &strStore, const QString &strName)
     TestProgram program;
     program.manager.setSettings(std::make_unique<QSettings>(strStore, QSettings::IniFormat));
     const MainWindow window(nullptr);
-    for (int i = 0; i < 5; ++i)
-        IRecentFilesManager::getInstance()->addFile(QString("/%1/%2").arg(strName).arg(i));
+    // Long enough for the two to meet, however late one of them starts.
+    QElapsedTimer time;
+    time.start();
+    for (int i = 0; i < 5 || time.elapsed() < 1500; ++i)
+        IRecentFilesManager::getInstance()->addFile(QString("/%1/%2").arg(strName).arg(i % 5));
     return 0;
 }
 

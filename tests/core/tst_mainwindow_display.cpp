@@ -60,6 +60,7 @@ private slots:
         moveTo(name);
         QTRY_COMPARE(changed.count(), 1);
         QTEST(changed.first().first().toInt(), "percent");
+        QVERIFY(!changed.wait(400));
         QFETCH(int, margin);
         QCOMPARE(m_pWindow->contentsMargins(), QMargins(margin, margin, margin, margin));
         changed.clear();

@@ -90,27 +90,36 @@ private slots:
 
     void cancelChangesNothing_data()
     {
-        QTest::addColumn<bool>("escape");
-        QTest::newRow("by the button") << false;
-        QTest::newRow("by the Escape key") << true;
+        QTest::addColumn<int>("way");
+        QTest::newRow("by the button") << 0;
+        QTest::newRow("by the Escape key") << 1;
+        QTest::newRow("by the window's own button") << 2;
     }
 
     void cancelChangesNothing()
     {
-        QFETCH(bool, escape);
+        QFETCH(int, way);
         const QByteArray before = storedBytes();
         changeEverything();
-        if (escape)
+        if (way == 0)
+            button(QDialogButtonBox::Cancel)->click();
+        else if (way == 1)
             QTest::keyClick(m_pDialog, Qt::Key_Escape);
         else
-            button(QDialogButtonBox::Cancel)->click();
+            m_pDialog->close();
         QVERIFY(!m_pDialog->isVisible());
         PluginManager::settings()->sync();
         QCOMPARE(storedBytes(), before);
         QVERIFY(DocumentManager::isAutobackupEnabled());
         QCOMPARE(DocumentManager::getAutobackupTimeout(), 300);
         m_pWindow->onPreferences();
+        show(0);
+        QCOMPARE(control<QComboBox>("language")->currentIndex(), 0);
+        show(1);
         QCOMPARE(control<QSpinBox>("backupInterval")->value(), 300);
+        show(2);
+        QVERIFY(control<QCheckBox>("pasteSvg")->isChecked());
+        QCOMPARE(control<QListWidget>("vertical")->item(0)->checkState(), Qt::Unchecked);
         QVERIFY(!button(QDialogButtonBox::Apply)->isEnabled());
     }
 
@@ -151,13 +160,16 @@ private slots:
     {
         show(2);
         auto *pList = m_pDialog->findChild<QListWidget *>("horizontal");
-        QCOMPARE(pList->count(), 5);
+        pList->setCurrentRow(1);
         pressIn("horizontal", "Remove");
-        pList->setCurrentRow(0);
-        pressIn("horizontal", "Remove");
-        QVERIFY(pList->count() < 5);
+        pressIn("horizontal", "Add");
+        QTest::keyClicks(pList->findChild<QSpinBox *>(), "900");
+        QTest::keyClick(pList->findChild<QSpinBox *>(), Qt::Key_Return);
+        QTRY_COMPARE(pList->item(4)->data(Qt::EditRole).toInt(), 900);
         button(QDialogButtonBox::Apply)->click();
-        QCOMPARE(DocumentManager::getHBreakpoints().size(), pList->count());
+        QCOMPARE(DocumentManager::getHBreakpoints(),
+            (DocumentManager::Breakpoints {
+                {375, true}, {768, true}, {1024, true}, {1280, true}, {900, true}}));
         for (QAbstractButton *pButton : m_pDialog->findChildren<QAbstractButton *>()) {
             if (pButton->accessibleName() == "Restore the default breakpoints")
                 pButton->click();
@@ -219,8 +231,9 @@ private:
     {
         for (auto *pButton : control<QListWidget>(pList)->parentWidget()->findChildren<QPushButton *>()) {
             if (pButton->text() == strText)
-                pButton->click();
+                return pButton->click();
         }
+        QFAIL("there is no such button");
     }
 
     void changeEverything()
@@ -238,7 +251,11 @@ private:
 
     void expectEverythingChanged()
     {
-        const QSettings stored(PluginManager::settings()->fileName(), QSettings::IniFormat);
+        // A copy, since stores of one file share what they hold.
+        PluginManager::settings()->sync();
+        const QString strCopy = m_pProgram->filePath("copy.ini");
+        QVERIFY(QFile::copy(PluginManager::settings()->fileName(), strCopy));
+        const QSettings stored(strCopy, QSettings::IniFormat);
         QCOMPARE(stored.value("Kelpa/Language").toString(), "fr_FR");
         QCOMPARE(stored.value("Kelpa/AutoBackup.Interval").toInt(), 60);
         QCOMPARE(stored.value("Kelpa/AutoBackup.Enable").toBool(), false);

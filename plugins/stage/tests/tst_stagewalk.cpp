@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 // A long random walk through all that an author can do with projects, in a real main window with real files.
 // After each step the program agrees with a model that knows nothing of how it works.
-#include "stagedocument.h"
-#include "stagemodel.h"
 #include "stageview.h"
-#include "walkmodel.h"
-#include "walkprogram.h"
-
-#include <actionmanager/actioncontainer.h>
-#include <irecentfilesmanager.h>
+#include "walkcheck.h"
 
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QLoggingCategory>
-#include <QMdiSubWindow>
-#include <QMenu>
 #include <QMimeData>
-#include <QUndoGroup>
 
 #include <random>
 
@@ -163,7 +154,7 @@ private:
     {
         ModelDocument *pDocument = m_model.active();
         if (pDocument)
-            chooseFile();
+            chooseFile(*pDocument);
         say(pCommand, {m_strChosen});
         act([&] { m_program.command(pCommand)->trigger(); });
         if (!pDocument || m_bChoiceFails)
@@ -173,7 +164,7 @@ private:
     }
 
     // Prepares the answer to the dialog that asks where to save.
-    void chooseFile()
+    void chooseFile(const ModelDocument &document)
     {
         const int nHow = pick(6);
         m_strChosen = anyPath();
@@ -184,6 +175,10 @@ private:
         m_bChoiceFails = nHow <= 1;
         if (m_model.disk.contains(m_strChosen))
             expect(QFileInfo(m_strChosen).fileName() + QStringLiteral(" already exists."), QMessageBox::Yes);
+        if (m_model.disk.contains(m_strChosen) && m_model.isOpenElsewhere(m_strChosen, document)) {
+            expect(m_strChosen + QStringLiteral(" is open. Close it first."), QMessageBox::Ok);
+            m_bChoiceFails = true;
+        }
     }
 
     void switchTab()
@@ -232,7 +227,7 @@ private:
             return answer == No;
         }
         if (document.bTemp) {
-            chooseFile();
+            chooseFile(document);
             if (!m_bChoiceFails)
                 m_model.savedAs(document, m_strChosen);
             return !m_bChoiceFails;
@@ -292,7 +287,7 @@ private:
             expect(QStringLiteral("The project [%1] no longer exists.").arg(strPath), answer);
         if (!bExists && answer == QMessageBox::Yes)
             m_model.recent.removeOne(strPath);
-        act([&] { recentCommand(nEntry)->trigger(); });
+        act([&] { WalkCheck::recentCommand(nEntry)->trigger(); });
     }
 
     // As another plug-in brings a project without a file, or one from a backup.
@@ -353,80 +348,13 @@ private:
     // Comparing.
     QString check()
     {
-        QStringList faults;
-        const auto same = [&](const char *pWhat, const auto &actual, const auto &expected) {
-            if (actual != expected)
-                faults.append(
-                    QStringLiteral("%1: %2, not %3").arg(QLatin1String(pWhat), text(actual), text(expected)));
-        };
+        WalkCheck check(m_program, m_model);
         for (int i = 0; i < qMax(m_said.size(), m_expected.size()); ++i) {
-            if (m_said.value(i).isEmpty() || !m_said.value(i).startsWith(m_expected.value(i))
-                || i >= m_expected.size())
-                same("box", m_said.value(i), m_expected.value(i));
+            if (i >= m_expected.size() || i >= m_said.size() || !m_said.at(i).startsWith(m_expected.at(i)))
+                check.same("box", m_said.value(i), m_expected.value(i));
         }
-        ModelDocument *pActive = m_model.active();
-        same("save", m_program.command("File.Save")->isEnabled(), pActive && pActive->canSave());
-        same("save as", m_program.command("File.SaveAs.Project")->isEnabled(), pActive != nullptr);
-        same("close", m_program.command("File.Close")->isEnabled(), pActive != nullptr);
-        same("undo", m_program.command("Edit.Undo")->isEnabled(), pActive && pActive->nIndex > 0);
-        same("redo", m_program.command("Edit.Redo")->isEnabled(),
-            pActive && pActive->nIndex + 1 < pActive->history.size());
-        same("title", m_program.window->windowTitle(), m_model.title());
-        same("welcome", m_program.welcome.isVisible(), m_model.documents.isEmpty());
-        same("documents", DocumentManager::getDocuments().size(), m_model.documents.size());
-        same("editors", EditorManager::getEditors().size(), m_model.documents.size());
-        same("tabs", m_program.window->getMdiArea()->subWindowList().size(), m_model.documents.size());
-        if (faults.isEmpty())
-            checkDocuments(same);
-        checkRecent(same);
-        return faults.join(QLatin1Char('\n'));
-    }
-
-    void checkDocuments(const auto &same)
-    {
-        const IEditor *pActive = EditorManager::activeEditor();
-        const QUndoStack *pStack = pActive ? pActive->getDocument()->getUndoStack() : nullptr;
-        same("active stack", DocumentManager::getUndoGroup()->activeStack() == pStack, true);
-        same("active editor", EditorManager::getEditors().indexOf(pActive), qsizetype(m_model.nActive));
-        same("active tab", m_program.tabs()->currentIndex(), m_model.nActive);
-        for (int i = 0; i < static_cast<int>(m_model.documents.size()); ++i) {
-            const ModelDocument &document = m_model.documents.at(i);
-            const auto *pEditor = static_cast<StageEditor *>(EditorManager::getEditors().at(i));
-            const auto *pDocument = static_cast<StageDocument *>(pEditor->getDocument());
-            same("modified", pDocument->isModified(), document.isModified());
-            same("path", pDocument->getFileName(), document.path);
-            same("elements", pDocument->getModel()->elementCount(), document.elements());
-            same("history", pDocument->getUndoStack()->index(), document.nIndex);
-            same("mark", pEditor->getSubWindow()->isWindowModified(), document.isModified());
-            same(
-                "tab title", pEditor->getSubWindow()->windowTitle(), document.name() + QStringLiteral("[*]"));
-            same("tab path", pEditor->getSubWindow()->windowFilePath(), document.path);
-        }
-    }
-
-    void checkRecent(const auto &same)
-    {
-        same("recent list", IRecentFilesManager::getInstance()->getRecentFiles(), m_model.recent);
-        const ActionContainer *pMenu =
-            ActionManager::getActionContainer(QStringLiteral("File.Recent_Projects"));
-        same("recent menu", pMenu->getMenu()->isEnabled(), !m_model.recent.isEmpty());
-        for (int i = 0; i < 10; ++i) {
-            const QAction *pAction = recentCommand(i);
-            same("recent entry shown", pAction->isVisible(), i < m_model.recent.size());
-            if (i < m_model.recent.size() && pAction->isVisible()) {
-                same("recent entry", pAction->text(),
-                    QString::number(i + 1) + QStringLiteral(". ") + m_model.recent.at(i));
-                same("recent path", pAction->data().toString(), m_model.recent.at(i));
-            }
-        }
-    }
-
-    template <typename T>
-    static QString text(const T &value)
-    {
-        QString strText;
-        QDebug(&strText) << value;
-        return strText;
+        check.all();
+        return check.faults.join(QLatin1Char('\n'));
     }
 
     // Helpers.
@@ -442,11 +370,6 @@ private:
     [[nodiscard]] bool wouldNotFit(const QString &strPath) const
     {
         return full() && m_model.showing(strPath) < 0 && m_model.disk.value(strPath, -1) >= 0;
-    }
-    static QAction *recentCommand(int nEntry)
-    {
-        const QString strId = QStringLiteral("File.Recent_Projects.Project_%1").arg(nEntry + 1);
-        return ActionManager::getAction(strId)->getAction();
     }
     void put(const QString &strPath, int nElements)
     {

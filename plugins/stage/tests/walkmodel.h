@@ -8,6 +8,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
+#include <algorithm>
+
 struct ModelDocument
 {
     /// The state after one command; steps of the same element by the keyboard become one command.
@@ -77,6 +80,11 @@ struct Model
             return QStringLiteral("Kelpa Studio");
         return active()->path + QStringLiteral(" - Kelpa Studio")
             + QLatin1String(active()->isModified() ? "*" : "");
+    }
+    [[nodiscard]] bool isOpenElsewhere(const QString &strPath, const ModelDocument &except) const
+    {
+        return std::any_of(documents.begin(), documents.end(),
+            [&](const ModelDocument &document) { return &document != &except && document.path == strPath; });
     }
     void activate(int nDocument)
     {
