@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>Eine andere Sprache gilt ab dem nächsten Start.</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>Die Sprache konnte nicht geändert werden.</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ Eine Bühne von %2 mal %3 Pixeln mit %4 Bildern pro Sekunde ist nicht möglich.<
         <source>%1 exists. Replace it?</source>
         <translation>%1 gibt es schon. Ersetzen?</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 ist geöffnet. Schließen Sie die Datei zuerst.</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ Eine Bühne von %2 mal %3 Pixeln mit %4 Bildern pro Sekunde ist nicht möglich.<
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 ist geöffnet. Schließen Sie die Datei zuerst.</translation>
     </message>
 </context>
 <context>

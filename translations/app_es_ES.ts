@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>El nuevo idioma se aplica al volver a iniciar el programa.</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>No se pudo cambiar el idioma.</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
         <source>%1 exists. Replace it?</source>
         <translation>%1 ya existe. ¿Reemplazarlo?</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 está abierto. Ciérrelo primero.</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 ya existe. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 está abierto. Ciérrelo primero.</translation>
     </message>
 </context>
 <context>

@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>Une autre langue prend effet au prochain démarrage.</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>Impossible de changer la langue.</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
         <source>%1 exists. Replace it?</source>
         <translation>%1 existe déjà. Le remplacer ?</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 est ouvert. Fermez-le d&apos;abord.</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 existe déjà. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 est ouvert. Fermez-le d&apos;abord.</translation>
     </message>
 </context>
 <context>

@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>言語の変更は次回の起動時に反映されます。</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>言語を変更できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
         <source>%1 exists. Replace it?</source>
         <translation>%1 はすでに存在します。置き換えますか？</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 は開かれています。先に閉じてください。</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 はすでに存在します。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 は開かれています。先に閉じてください。</translation>
     </message>
 </context>
 <context>

@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>Outro idioma passa a valer na próxima inicialização.</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>Não foi possível mudar o idioma.</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</tran
         <source>%1 exists. Replace it?</source>
         <translation>%1 já existe. Substituir?</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 está aberto. Feche-o primeiro.</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</tran
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 já existe. Substituir?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 está aberto. Feche-o primeiro.</translation>
     </message>
 </context>
 <context>

@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>Ngôn ngữ khác có hiệu lực từ lần khởi động sau.</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>Không đổi được ngôn ngữ.</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
         <source>%1 exists. Replace it?</source>
         <translation>%1 đã tồn tại. Thay thế?</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 đang mở. Hãy đóng trước.</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 đã tồn tại. Thay thế?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 đang mở. Hãy đóng trước.</translation>
     </message>
 </context>
 <context>

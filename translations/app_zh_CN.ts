@@ -170,6 +170,10 @@
         <source>Another language takes effect at the next start.</source>
         <translation>更改语言将在下次启动时生效。</translation>
     </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>无法更改语言。</translation>
+    </message>
 </context>
 <context>
     <name>IDocument</name>
@@ -443,6 +447,10 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
         <source>%1 exists. Replace it?</source>
         <translation>%1 已存在。要替换吗？</translation>
     </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 已打开。请先将其关闭。</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>
@@ -543,6 +551,10 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
     <message>
         <source>%1 exists. Replace it?</source>
         <translation>%1 已存在。要替换吗？</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 已打开。请先将其关闭。</translation>
     </message>
 </context>
 <context>
