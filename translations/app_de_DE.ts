@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Geladen</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>Initialisiert</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (erstellt mit %2)</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>Ab&amp;stand:</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>Updates werden heruntergeladen</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Fortschritt des Downloads</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Verbleibende Zeit</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>Das Update kann nicht heruntergeladen werden: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; ist keine Webadresse</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>Das Update wird nicht installiert: %1.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>Das Update kann nicht heruntergeladen werden: Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>%1 kann nicht ersetzt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>von</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>%1 kann nicht geschrieben werden: Ein anderes Programm hat die Datei geändert.</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>der Server antwortete mit dem Status %1</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 ist unvollständig</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 ist leer</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>%1 kann nicht in %2 umbenannt werden: %3.</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>Die Signatur wird geprüft</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>%1 wurde gelöscht, denn %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>Download abgeschlossen!</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>Das Installationsprogramm öffnet sich gesondert</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>Um das Update zu installieren, müssen Sie das Programm beenden.</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>Klicken Sie auf OK, um mit der Installation des Updates zu beginnen.</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>Klicken Sie auf Öffnen, um das Update anzuwenden.</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>Das heruntergeladene Update ist nicht zu finden!</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>%1 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>Möchten Sie den Download wirklich abbrechen?</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>diese Ausgabe des Programms kann keine Signaturen prüfen</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>der Schlüssel zum Prüfen seiner Signatur ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>es hat keine Signatur</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>die Prüfsumme ist nicht die angekündigte</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>die Signatur ist ungültig</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>Etwa %1 Stunden</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>Etwa eine Stunde</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>Etwa %1 Minuten</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>Etwa 1 Minute</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 Sekunden</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 Sekunde</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>mehr als %1 Weiterleitungen</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>eine Weiterleitung zu &quot;%1&quot;, was keine Webadresse ist</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>eine Weiterleitung von einer sicheren Adresse zu &quot;%1&quot;, die es nicht ist</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>Die Adresse &quot;%1&quot; kann nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>Das Projekt %1 konnte nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>Die Datei %1 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>Das Projekt [%1] gibt es nicht mehr.
+Soll der Eintrag aus dem Verlauf entfernt werden?</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>Die gewünschte Datei wurde nicht gefunden.</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>Hinweis</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;Die Versionshinweise konnten nicht geladen werden.&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>Update verfügbar</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>Versionshinweise</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Diese Version überspringen</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>Das Projekt [%1] gibt es nicht mehr.
 Soll der Eintrag aus dem Verlauf entfernt werden?</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Zuletzt geöffnete Projekte</translation>
     </message>
 </context>
 <context>
@@ -772,6 +1095,259 @@ Eine Bühne von %2 mal %3 Pixeln mit %4 Bildern pro Sekunde ist nicht möglich.<
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>Das neue Erscheinungsbild gilt ab dem nächsten Start.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>Darf Kelpa Studio einmal am Tag nach einer neuen Version suchen?</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>Es ist keine Adresse für die Suche nach Updates eingestellt. Sie können sie in den Einstellungen unter Updates angeben.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>Nach einer neuen Version wird gesucht...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>%1 ist nicht zu erreichen: keine Antwort innerhalb von %2 Sekunden.</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>Sie verwenden die neueste Version von %1, %2.</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>%1 %2 ist erschienen.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>sie ist größer als %1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>sie nennt keine Version für &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>der Versuch wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>die Antwort ist größer als %1 Byte</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>%1 ist nicht zu erreichen: %2.</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>keine Antwort innerhalb von %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 ist keine gültige Update-Liste: %2.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;%1 %2 ist erschienen!&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>Glückwunsch! Sie verwenden die neueste Version von %1</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>Im Augenblick gibt es keine Updates.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>Einmal am Tag &amp;nach einer neuen Version suchen</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>&amp;Adresse der Updates:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>Adresse für &amp;Probleme:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>Adresse für &amp;Vorschläge:</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Es gibt kein Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>Nach Updates suchen...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Ein Problem melden</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>Einen Vorschlag machen</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>&amp;Startseite zeigen, solange kein Projekt geöffnet ist</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>Eine Änderung gilt ab dem nächsten Start.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>Animationen fürs Web, von Ihnen gezeichnet</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>Projekte, die Sie anlegen oder öffnen, werden hier aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>%1 im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>%1 aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>%1 wurde aus der Liste entfernt.</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>Im Web</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>Community</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>Demoprojekte</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Neuigkeiten</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>Die Seite hat die Verbindung zum Programm verloren und versucht, es wieder zu erreichen.</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>Die Seite hat das Programm wieder erreicht.</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Landschaft</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>Ein Morgen in Ebenen: Hügel, Wolken und Bäume</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>Banner</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>Zwei Szenen für den Kopf einer Seite</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>Eine Karte, die der Breite ihrer Seite folgt</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Es gibt kein Hauptfenster.</translation>
     </message>
 </context>
 </TS>

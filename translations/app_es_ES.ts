@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Con errores</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Cargado</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>Inicializado</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En marcha</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (compilado con %2)</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Acerca de %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Complementos</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Complemento</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>&amp;Intervalo:</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>Descargando actualizaciones</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progreso de la descarga</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Tiempo restante</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>No se puede descargar la actualización: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; no es una dirección web</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>La actualización no se instala: %1.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>No se puede descargar la actualización: no se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>No se puede reemplazar %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>No se puede escribir %1: otro programa lo ha modificado.</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>el servidor respondió con el estado %1</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 está incompleto</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 está vacío</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>No se puede cambiar el nombre de %1 a %2: %3.</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>Comprobando la firma</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>se eliminó %1 porque %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>¡Descarga completa!</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>El instalador se abrirá por separado</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>Para instalar la actualización, debe salir del programa.</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>Haga clic en Aceptar para empezar a instalar la actualización.</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>Haga clic en Abrir para aplicar la actualización.</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>¡No se encuentra la actualización descargada!</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>No se pudo abrir %1.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>¿Seguro que quiere cancelar la descarga?</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>esta edición del programa no puede comprobar firmas</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>la clave para comprobar su firma está dañada</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>no tiene firma</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>su suma de comprobación no es la anunciada</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>su firma no es válida</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>Unas %1 horas</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>Alrededor de una hora</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>Unos %1 minutos</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>Alrededor de 1 minuto</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 segundos</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 segundo</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>más de %1 redirecciones</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>una redirección a &quot;%1&quot;, que no es una dirección web</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>una redirección de una dirección segura a &quot;%1&quot;, que no lo es</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>No se puede abrir la dirección &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>No se pudo guardar el proyecto %1.</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>No se pudo abrir el archivo %1.</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>El proyecto [%1] ya no existe.
+¿Quiere quitar esta entrada del historial?</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>No se encontró el archivo solicitado.</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;No se pudieron cargar las notas de la versión.&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>Actualización disponible</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>Notas de la versión</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Omitir esta versión</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Recordar más tarde</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>El proyecto [%1] ya no existe.
 ¿Quiere quitar esta entrada del historial?</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>Proyectos &amp;recientes</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Proyectos recientes</translation>
     </message>
 </context>
 <context>
@@ -772,6 +1095,259 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>El cambio de tema se aplicará la próxima vez que inicie el programa.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>¿Puede Kelpa Studio buscar una versión nueva una vez al día?</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>No hay ninguna dirección para buscar actualizaciones. Puede indicarla en las preferencias, en Actualizaciones.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>Buscando una versión nueva...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>No se puede contactar con %1: sin respuesta en %2 segundos.</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>Está usando la última versión de %1, la %2.</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>Se ha publicado %1 %2.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>ocupa más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 en el byte %2</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>no indica ninguna versión para &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>se abandonó el intento</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>la respuesta ocupa más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>No se puede contactar con %1: %2.</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>sin respuesta en %1 segundos</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 no es una lista de actualizaciones válida: %2.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;¡Se ha publicado %1 %2!&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>¡Enhorabuena! Está usando la última versión de %1</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>No hay actualizaciones disponibles por el momento.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>&amp;Buscar una versión nueva una vez al día</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Actualizaciones</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>&amp;Dirección de las actualizaciones:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>Dirección para &amp;problemas:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>Dirección para &amp;sugerencias:</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>No hay ninguna ventana principal.</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>Buscar actualizaciones...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Informar de un problema</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>Hacer una sugerencia</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>&amp;Mostrar la página de inicio mientras no haya ningún proyecto abierto</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Página de inicio</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>El cambio se aplica al volver a iniciar el programa.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>Animaciones para la web, dibujadas por usted</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Proyectos recientes</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>Aquí aparecerán los proyectos que cree o abra.</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>Mostrar %1 en su carpeta</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>Quitar %1 de la lista</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>%1 se quitó de la lista.</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Ejemplos</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>En la web</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Sitio web</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>Comunidad</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>Proyectos de demostración</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Novedades</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>La página ha perdido la conexión con el programa e intenta recuperarla.</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>La página ha recuperado la conexión con el programa.</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paisaje</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>Una mañana por capas: colinas, nubes y árboles</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>Banner</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>Dos escenas para la parte superior de una página</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Tarjeta</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>Una tarjeta que sigue el ancho de su página</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>No hay ninguna ventana principal.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>Trouvé</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omis</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>En échec</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Chargé</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>Initialisé</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En marche</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (compilé avec %2)</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>À propos de %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Greffons</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Greffon</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>&amp;Intervalle :</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>Téléchargement des mises à jour</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progression du téléchargement</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Temps restant</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>Impossible de télécharger la mise à jour : %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; n&apos;est pas une adresse web</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>La mise à jour n&apos;est pas installée : %1.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>Impossible de télécharger la mise à jour : le dossier %1 ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>Impossible de remplacer %1 : %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d&apos;écrire %1 : %2.</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>sur</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>Impossible d&apos;écrire %1 : un autre programme l&apos;a modifié.</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>le serveur a répondu avec l&apos;état %1</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 est incomplet</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 est vide</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>Impossible de renommer %1 en %2 : %3.</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>Vérification de la signature</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>%1 a été supprimé, car %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>Téléchargement terminé !</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>Le programme d&apos;installation s&apos;ouvrira à part</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>Pour installer la mise à jour, vous devez quitter le programme.</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>Cliquez sur OK pour commencer l&apos;installation de la mise à jour.</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>Cliquez sur Ouvrir pour appliquer la mise à jour.</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>La mise à jour téléchargée est introuvable !</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>Impossible d&apos;ouvrir %1.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>Voulez-vous vraiment annuler le téléchargement ?</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>cette édition du programme ne sait pas vérifier les signatures</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>la clé qui sert à vérifier sa signature est endommagée</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>la signature est absente</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>sa somme de contrôle n&apos;est pas celle annoncée</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>sa signature n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 Ko</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>Environ %1 heures</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>Environ une heure</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>Environ %1 minutes</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>Environ 1 minute</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 secondes</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 seconde</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>plus de %1 redirections</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>une redirection vers &quot;%1&quot;, qui n&apos;est pas une adresse web</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>une redirection d&apos;une adresse sécurisée vers &quot;%1&quot;, qui ne l&apos;est pas</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>L&apos;adresse &quot;%1&quot; ne peut pas être ouverte.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>Impossible d&apos;enregistrer le projet %1.</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>Impossible d&apos;ouvrir le fichier %1.</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>Le projet [%1] n&apos;existe plus.
+Voulez-vous retirer cette entrée de l&apos;historique ?</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>Le fichier demandé est introuvable.</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;Impossible de charger les notes de version.&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>Mise à jour disponible</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>Notes de version</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Me le rappeler plus tard</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>Le projet [%1] n&apos;existe plus.
 Voulez-vous retirer cette entrée de l&apos;historique ?</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>Projets &amp;récents</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projets récents</translation>
     </message>
 </context>
 <context>
@@ -772,6 +1095,259 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>Le changement de thème prendra effet au prochain démarrage.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>Kelpa Studio peut-il chercher une nouvelle version une fois par jour ?</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Autoriser</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>Aucune adresse n&apos;est définie pour rechercher des mises à jour. Vous pouvez l&apos;indiquer dans les préférences, sous Mises à jour.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>Recherche d&apos;une nouvelle version...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>Impossible de joindre %1 : aucune réponse en %2 secondes.</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>Vous utilisez la dernière version de %1, la %2.</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>%1 %2 est sorti.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>elle dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 à l&apos;octet %2</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>elle n&apos;indique aucune version pour &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>la tentative a été abandonnée</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>la réponse dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>Impossible de joindre %1 : %2.</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>aucune réponse en %1 secondes</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 n&apos;est pas une liste de mises à jour valide : %2.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;%1 %2 est sorti !&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>Félicitations ! Vous utilisez la dernière version de %1</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>Aucune mise à jour n&apos;est disponible pour le moment.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>&amp;Chercher une nouvelle version une fois par jour</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Mises à jour</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>&amp;Adresse des mises à jour :</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>Adresse pour les &amp;problèmes :</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>Adresse pour les &amp;suggestions :</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Il n&apos;y a pas de fenêtre principale.</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>Rechercher des mises à jour...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Signaler un problème</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>Faire une suggestion</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>&amp;Montrer la page d&apos;accueil quand aucun projet n&apos;est ouvert</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Page d&apos;accueil</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>Une modification prend effet au prochain démarrage.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>Des animations pour le web, dessinées par vous</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Nouveau projet</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projets récents</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>Les projets que vous créez ou ouvrez seront listés ici.</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>Montrer %1 dans son dossier</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>Retirer %1 de la liste</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>%1 a été retiré de la liste.</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Exemples</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>Sur le web</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>Communauté</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>Projets de démonstration</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vidéos</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Actualités</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>La page a perdu la liaison avec le programme et essaie de la rétablir.</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>La page a rétabli la liaison avec le programme.</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>Un matin en plusieurs plans : collines, nuages et arbres</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>Bannière</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>Deux scènes pour le haut d&apos;une page</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>Une carte qui suit la largeur de sa page</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Il n&apos;y a pas de fenêtre principale.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>検出</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>除外</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>読み込み済み</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>初期化済み</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1（ビルド時は %2）</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>%1 について</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>プラグイン</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>プラグイン</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>間隔(&amp;I):</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>更新をダウンロードしています</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>ダウンロードの進行状況</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>残り時間</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>更新をダウンロードできません: %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; は Web アドレスではありません</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>更新はインストールされません: %1。</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>更新をダウンロードできません: フォルダー %1 を作成できません。</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>%1 を置き換えられません: %2。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>%1 に書き込めません: ほかのプログラムが変更しました。</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>サーバーがステータス %1 を返しました</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 は不完全です</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 は空です</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>%1 の名前を %2 に変更できません: %3。</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>署名を確認しています</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>%1 を削除しました（%2）</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>ダウンロードが完了しました！</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>インストーラーが別に開きます</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>更新をインストールするには、プログラムを終了する必要があります。</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>「OK」をクリックすると、更新のインストールが始まります。</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>「開く」をクリックすると、更新が適用されます。</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>ダウンロードした更新が見つかりません！</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>%1 を開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>ダウンロードを中止してもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>このビルドでは署名を確認できません</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>署名を確認するための鍵が壊れています</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>署名がありません</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>チェックサムが公表された値と異なります</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>署名が正しくありません</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>約 %1 時間</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>約 1 時間</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>約 %1 分</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>約 1 分</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 秒</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>リダイレクトが %1 回を超えました</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>Web アドレスではない &quot;%1&quot; にリダイレクトされました</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>安全なアドレスから、安全でない &quot;%1&quot; にリダイレクトされました</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>アドレス &quot;%1&quot; を開けません。</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>プロジェクト %1 を保存できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>ファイル %1 を開けませんでした。</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>プロジェクト [%1] は存在しません。
+この項目を履歴から削除しますか？</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>指定されたファイルが見つかりませんでした。</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>情報</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;リリースノートを読み込めませんでした。&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>更新があります</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>リリースノート</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>このバージョンをスキップ</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>後で通知</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>プロジェクト [%1] は存在しません。
 この項目を履歴から削除しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>最近使ったプロジェクト(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>最近使ったプロジェクト</translation>
     </message>
 </context>
 <context>
@@ -771,6 +1094,259 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>テーマの変更は次回の起動時に反映されます。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>Kelpa Studio が 1 日に 1 回、新しいバージョンを確認してもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>許可</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>更新を確認するアドレスが設定されていません。設定の「更新」で指定できます。</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>新しいバージョンを確認しています...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>%1 に接続できません: %2 秒以内に応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>%1 の最新バージョン %2 をお使いです。</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>%1 %2 がリリースされました。</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1（%2 バイト目）</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 用のバージョンが記されていません</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>接続を取りやめました</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>応答が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>%1 に接続できません: %2。</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>%1 秒以内に応答がありませんでした</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 は正しい更新情報ではありません: %2。</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;%1 %2 がリリースされました！&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>おめでとうございます！%1 の最新バージョンをお使いです</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>現在、利用できる更新はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>1 日に 1 回、新しいバージョンを確認する(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>更新のアドレス(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>問題報告のアドレス(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>提案のアドレス(&amp;S):</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>メインウィンドウがありません。</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>更新を確認...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>問題を報告</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>提案を送る</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>プロジェクトを開いていないときにホーム画面を表示する(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>ホーム画面</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>変更は次回の起動時に反映されます。</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>あなたが描く、Web のためのアニメーション</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>新規プロジェクト</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>プロジェクトを開く</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>最近使ったプロジェクト</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>作成したプロジェクトや開いたプロジェクトがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>%1 をフォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>%1 を一覧から削除</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>%1 を一覧から削除しました。</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>サンプル</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>Web で</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Web サイト</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>コミュニティ</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>デモプロジェクト</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>ページとプログラムの接続が切れたため、再接続を試みています。</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>ページがプログラムに再接続しました。</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>風景</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>重なり合う朝の風景: 丘と雲と木々</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>バナー</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>ページの上部に置く 2 つのシーン</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>カード</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>ページの幅に合わせて変わるカード</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>ホーム</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>メインウィンドウがありません。</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Deixado de fora</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Com falha</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Carregado</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>Inicializado</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Em execução</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Parado</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (compilado com %2)</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Sobre o %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versão</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>&amp;Intervalo:</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>Baixando atualizações</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progresso do download</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Tempo restante</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>Não é possível baixar a atualização: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; não é um endereço da web</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>A atualização não será instalada: %1.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconhecido</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>Não é possível baixar a atualização: a pasta %1 não pode ser criada.</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>Não é possível substituir %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Não é possível gravar %1: %2.</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>Não é possível gravar %1: outro programa o alterou.</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>o servidor respondeu com o status %1</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 está incompleto</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 está vazio</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>Não é possível renomear %1 para %2: %3.</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>Verificando a assinatura</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>%1 foi excluído porque %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>Download concluído!</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>O instalador será aberto separadamente</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>Para instalar a atualização, você precisa sair do programa.</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>Clique em OK para começar a instalar a atualização.</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>Clique em Abrir para aplicar a atualização.</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>A atualização baixada não foi encontrada!</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>Não foi possível abrir %1.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>Deseja realmente cancelar o download?</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>esta compilação do programa não pode verificar assinaturas</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>a chave para verificar a assinatura está danificada</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>a assinatura está ausente</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>a soma de verificação não é a anunciada</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>a assinatura não é válida</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>Cerca de %1 horas</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>Cerca de uma hora</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>Cerca de %1 minutos</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>Cerca de 1 minuto</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 segundos</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 segundo</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>mais de %1 redirecionamentos</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>um redirecionamento para &quot;%1&quot;, que não é um endereço da web</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>um redirecionamento de um endereço seguro para &quot;%1&quot;, que não é seguro</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>Não é possível abrir o endereço &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>Não foi possível salvar o projeto %1.</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>Não foi possível abrir o arquivo %1.</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>O projeto [%1] não existe mais.
+Deseja remover esta entrada do histórico?</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>O arquivo solicitado não foi encontrado.</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>Informação</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;Não foi possível carregar as notas da versão.&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>Atualização disponível</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>Notas da versão</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Pular esta versão</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Lembrar mais tarde</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>O projeto [%1] não existe mais.
 Deseja remover esta entrada do histórico?</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>Projetos &amp;recentes</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projetos recentes</translation>
     </message>
 </context>
 <context>
@@ -772,6 +1095,259 @@ Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</tran
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>A mudança de tema terá efeito na próxima execução.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>O Kelpa Studio pode procurar uma nova versão uma vez por dia?</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>Nenhum endereço para procurar atualizações está definido. Você pode defini-lo nas preferências, em Atualizações.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>Procurando uma nova versão...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>Não é possível contatar %1: nenhuma resposta em %2 segundos.</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>Você está usando a versão mais recente do %1, a %2.</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>O %1 %2 foi lançado.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>ela é maior que %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 no byte %2</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>ela não indica nenhuma versão para &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>a tentativa foi abandonada</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>a resposta é maior que %1 bytes</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>Não é possível contatar %1: %2.</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>nenhuma resposta em %1 segundos</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 não é uma lista de atualizações válida: %2.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;O %1 %2 foi lançado!&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>Parabéns! Você está usando a versão mais recente do %1</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>Não há atualizações disponíveis no momento.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>&amp;Procurar uma nova versão uma vez por dia</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Atualizações</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>&amp;Endereço das atualizações:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>Endereço para pr&amp;oblemas:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>Endereço para &amp;sugestões:</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Não há janela principal.</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>Verificar atualizações...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Relatar um problema</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>Dar uma sugestão</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>&amp;Mostrar a página inicial enquanto nenhum projeto estiver aberto</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Página inicial</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>A alteração passa a valer na próxima inicialização.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>Animações para a web, desenhadas por você</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Novo projeto</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir projeto</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projetos recentes</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>Os projetos que você criar ou abrir serão listados aqui.</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>Mostrar %1 na sua pasta</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>Remover %1 da lista</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>%1 foi removido da lista.</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Exemplos</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>Na web</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>Comunidade</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>Projetos de demonstração</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Novidades</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>A página perdeu a conexão com o programa e está tentando restabelecê-la.</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>A página restabeleceu a conexão com o programa.</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paisagem</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>Uma manhã em camadas: colinas, nuvens e árvores</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>Banner</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>Duas cenas para o topo de uma página</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Cartão</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>Um cartão que acompanha a largura da página</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Início</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Não há janela principal.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="vi_VN" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>Đã tìm thấy</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Bị bỏ qua</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Bị lỗi</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Đã nạp</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>Đã khởi tạo</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Đang chạy</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Đã dừng</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Phiên bản %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (biên dịch với %2)</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Giới thiệu %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Sao chép</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Các phần bổ trợ</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Phần bổ trợ</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Phiên bản</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Trạng thái</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Lỗi</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>&amp;Khoảng cách:</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>Đang tải bản cập nhật</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Tiến độ tải xuống</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Thời gian còn lại</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Mở</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Dừng</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>Không tải được bản cập nhật: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; không phải là địa chỉ web</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>Bản cập nhật không được cài đặt: %1.</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Không rõ</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>Không tải được bản cập nhật: không tạo được thư mục %1.</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>Không thay thế được %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Không ghi được %1: %2.</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>trên</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>Không ghi được %1: một chương trình khác đã thay đổi tệp này.</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>máy chủ trả lời với mã trạng thái %1</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 không đầy đủ</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 rỗng</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>Không đổi tên được %1 thành %2: %3.</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>Đang kiểm tra chữ ký</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>đã xóa %1 vì %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Đóng</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>Đã tải xong!</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>Trình cài đặt sẽ mở riêng</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>Để cài đặt bản cập nhật, bạn cần thoát khỏi chương trình.</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>Nhấp OK để bắt đầu cài đặt bản cập nhật.</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>Nhấp Mở để áp dụng bản cập nhật.</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>Không tìm thấy bản cập nhật đã tải xuống!</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>Không mở được %1.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>Bạn có chắc muốn hủy tải xuống không?</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>bản dựng này của chương trình không kiểm tra được chữ ký</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>khóa để kiểm tra chữ ký bị hỏng</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>không có chữ ký</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>tổng kiểm không khớp với tổng đã công bố</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>chữ ký không hợp lệ</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 byte</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>Khoảng %1 giờ</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>Khoảng một giờ</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>Khoảng %1 phút</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>Khoảng 1 phút</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 giây</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 giây</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>hơn %1 lần chuyển hướng</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>bị chuyển hướng tới &quot;%1&quot;, vốn không phải là địa chỉ web</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>bị chuyển hướng từ một địa chỉ an toàn tới &quot;%1&quot;, vốn không an toàn</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>Không mở được địa chỉ &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>Không lưu được dự án %1.</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>Không mở được tệp %1.</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>Dự án [%1] không còn tồn tại.
+Bạn có muốn xóa mục này khỏi lịch sử không?</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>Không tìm thấy tệp được yêu cầu.</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>Thông tin</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;Không nạp được ghi chú phát hành.&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>Có bản cập nhật</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>Ghi chú phát hành</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Bỏ qua phiên bản này</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Nhắc tôi sau</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Cập nhật</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Đóng</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>Dự án [%1] không còn tồn tại.
 Bạn có muốn xóa mục này khỏi lịch sử không?</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Dự án gần đây</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Dự án gần đây</translation>
     </message>
 </context>
 <context>
@@ -771,6 +1094,259 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>Giao diện mới sẽ có hiệu lực từ lần chạy sau.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>Cho phép Kelpa Studio tìm phiên bản mới mỗi ngày một lần?</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Cho phép</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>Chưa đặt địa chỉ để tìm bản cập nhật. Bạn có thể đặt trong Tùy chọn, mục Cập nhật.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>Đang tìm phiên bản mới...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>Không kết nối được tới %1: không có trả lời trong %2 giây.</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>Bạn đang dùng phiên bản mới nhất của %1, %2.</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>%1 %2 đã được phát hành.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Hiện</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>lớn hơn %1 byte</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 tại byte %2</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>không nêu phiên bản nào cho &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>đã bỏ dở</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>câu trả lời lớn hơn %1 byte</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>Không kết nối được tới %1: %2.</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>không có trả lời trong %1 giây</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 không phải là danh sách cập nhật hợp lệ: %2.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;%1 %2 đã được phát hành!&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>Chúc mừng! Bạn đang dùng phiên bản mới nhất của %1</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>Hiện không có bản cập nhật nào.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>&amp;Tìm phiên bản mới mỗi ngày một lần</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Cập nhật</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>Đị&amp;a chỉ cập nhật:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>Địa chỉ &amp;báo lỗi:</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>Địa chỉ &amp;góp ý:</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Không có cửa sổ chính.</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>Kiểm tra cập nhật...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Giới thiệu</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Báo lỗi</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>Gửi góp ý</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>&amp;Hiện trang đầu khi không mở dự án nào</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Trang đầu</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>Thay đổi có hiệu lực từ lần khởi động sau.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>Hoạt hình cho web, do chính bạn vẽ</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Dự án mới</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Mở dự án</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Dự án gần đây</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>Các dự án bạn tạo hoặc mở sẽ được liệt kê ở đây.</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>Hiện %1 trong thư mục chứa nó</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>Xóa %1 khỏi danh sách</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>Đã xóa %1 khỏi danh sách.</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Ví dụ</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>Trên web</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>Trang web</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>Cộng đồng</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>Dự án mẫu</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Tin tức</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Phiên bản %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>Trang đã mất kết nối với chương trình và đang thử kết nối lại.</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>Trang đã kết nối lại với chương trình.</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Phong cảnh</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>Buổi sáng nhiều lớp: đồi, mây và cây</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>Biểu ngữ</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>Hai cảnh cho phần đầu trang</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Thẻ</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>Tấm thẻ co giãn theo chiều rộng của trang</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Trang đầu</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Không có cửa sổ chính.</translation>
     </message>
 </context>
 </TS>

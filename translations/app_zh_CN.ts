@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Found</source>
+        <translation>已找到</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>已排除</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>已加载</translation>
+    </message>
+    <message>
+        <source>Initialized</source>
+        <translation>已初始化</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1（编译时为 %2）</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>关于 %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+</context>
+<context>
     <name>AppearancePlugin</name>
     <message>
         <source>There is no main window.</source>
@@ -30,6 +97,193 @@
     <message>
         <source>&amp;Interval:</source>
         <translation>间隔(&amp;I)：</translation>
+    </message>
+</context>
+<context>
+    <name>Downloader</name>
+    <message>
+        <source>Downloading Updates</source>
+        <translation>正在下载更新</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>下载进度</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>剩余时间</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Cannot download update: %1.</source>
+        <translation>无法下载更新：%1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of the web</source>
+        <translation>&quot;%1&quot; 不是网址</translation>
+    </message>
+    <message>
+        <source>The update is not installed: %1.</source>
+        <translation>不会安装此更新：%1。</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Cannot download update: the folder %1 cannot be made.</source>
+        <translation>无法下载更新：无法创建文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2.</source>
+        <translation>无法替换 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: another program has changed it.</source>
+        <translation>无法写入 %1：另一个程序已更改该文件。</translation>
+    </message>
+    <message>
+        <source>the server answered with status %1</source>
+        <translation>服务器返回状态 %1</translation>
+    </message>
+    <message>
+        <source>%1 is incomplete</source>
+        <translation>%1 不完整</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 是空文件</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3.</source>
+        <translation>无法将 %1 重命名为 %2：%3。</translation>
+    </message>
+    <message>
+        <source>Checking the signature</source>
+        <translation>正在检查签名</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, because %2</source>
+        <translation>已删除 %1，因为%2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Download complete!</source>
+        <translation>下载完成！</translation>
+    </message>
+    <message>
+        <source>The installer will open separately</source>
+        <translation>安装程序将单独打开</translation>
+    </message>
+    <message>
+        <source>In order to install the update, you need to quit the application.</source>
+        <translation>要安装更新，需要退出程序。</translation>
+    </message>
+    <message>
+        <source>Click OK to begin installing the update.</source>
+        <translation>点击“确定”开始安装更新。</translation>
+    </message>
+    <message>
+        <source>Click Open to apply the update.</source>
+        <translation>点击“打开”应用更新。</translation>
+    </message>
+    <message>
+        <source>Cannot find downloaded update!</source>
+        <translation>找不到已下载的更新！</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>无法打开 %1。</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the download?</source>
+        <translation>确定要取消下载吗？</translation>
+    </message>
+    <message>
+        <source>this build cannot check signatures</source>
+        <translation>此版本的程序无法检查签名</translation>
+    </message>
+    <message>
+        <source>the key to check its signature with is damaged</source>
+        <translation>用于检查签名的密钥已损坏</translation>
+    </message>
+    <message>
+        <source>it has no signature</source>
+        <translation>没有签名</translation>
+    </message>
+    <message>
+        <source>its check sum is not the announced one</source>
+        <translation>校验和与公布的不符</translation>
+    </message>
+    <message>
+        <source>its signature is not valid</source>
+        <translation>签名无效</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 字节</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>About %1 hours</source>
+        <translation>约 %1 小时</translation>
+    </message>
+    <message>
+        <source>About one hour</source>
+        <translation>约 1 小时</translation>
+    </message>
+    <message>
+        <source>About %1 minutes</source>
+        <translation>约 %1 分钟</translation>
+    </message>
+    <message>
+        <source>About 1 minute</source>
+        <translation>约 1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 秒</translation>
+    </message>
+    <message>
+        <source>more than %1 redirects</source>
+        <translation>重定向超过 %1 次</translation>
+    </message>
+    <message>
+        <source>a redirect to &quot;%1&quot;, which is no address of the web</source>
+        <translation>被重定向到 &quot;%1&quot;，而它不是网址</translation>
+    </message>
+    <message>
+        <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
+        <translation>从安全地址被重定向到不安全的 &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -153,6 +407,13 @@
     </message>
 </context>
 <context>
+    <name>Feedback</name>
+    <message>
+        <source>The address &quot;%1&quot; cannot be opened.</source>
+        <translation>无法打开地址 &quot;%1&quot;。</translation>
+    </message>
+</context>
+<context>
     <name>GeneralOptionPage</name>
     <message>
         <source>General</source>
@@ -184,6 +445,23 @@
     <message>
         <source>Could not save project %1.</source>
         <translation>无法保存项目 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMdiArea</name>
+    <message>
+        <source>Could not open file %1.</source>
+        <translation>无法打开文件 %1。</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>项目 [%1] 已不存在。
+要从历史记录中移除此条目吗？</translation>
+    </message>
+    <message>
+        <source>Could not find the requested file.</source>
+        <translation>找不到请求的文件。</translation>
     </message>
 </context>
 <context>
@@ -222,6 +500,40 @@
     <message>
         <source>Information</source>
         <translation>信息</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteDlg</name>
+    <message>
+        <source>&lt;h2&gt;Failed to load release notes.&lt;/h2&gt;</source>
+        <translation>&lt;h2&gt;无法加载发行说明。&lt;/h2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KPReleaseNoteUI</name>
+    <message>
+        <source>Update Available</source>
+        <translation>有可用更新</translation>
+    </message>
+    <message>
+        <source>Release Notes</source>
+        <translation>发行说明</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>跳过此版本</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>稍后提醒</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -375,6 +687,17 @@
 Do you want to remove this entry from history?</source>
         <translation>项目 [%1] 已不存在。
 要从历史记录中移除此条目吗？</translation>
+    </message>
+</context>
+<context>
+    <name>RecentList</name>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>最近的项目(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>最近的项目</translation>
     </message>
 </context>
 <context>
@@ -771,6 +1094,259 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
     <message>
         <source>The theme change will take effect from the next run.</source>
         <translation>主题更改将在下次运行时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>May Kelpa Studio look for a new version once a day?</source>
+        <translation>是否允许 Kelpa Studio 每天检查一次新版本？</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>允许</translation>
+    </message>
+    <message>
+        <source>No address to look for updates is set. You can set it in the preferences, under Updates.</source>
+        <translation>尚未设置检查更新的地址。可以在首选项的“更新”中设置。</translation>
+    </message>
+    <message>
+        <source>Looking for a new version...</source>
+        <translation>正在检查新版本...</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: no answer within %2 seconds.</source>
+        <translation>无法连接 %1：%2 秒内没有响应。</translation>
+    </message>
+    <message>
+        <source>You are running the latest version of %1, %2.</source>
+        <translation>正在使用 %1 的最新版本 %2。</translation>
+    </message>
+    <message>
+        <source>%1 %2 has been released.</source>
+        <translation>%1 %2 已发布。</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>大于 %1 字节</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1（第 %2 字节处）</translation>
+    </message>
+    <message>
+        <source>it names no version for &quot;%1&quot;</source>
+        <translation>其中没有适用于 &quot;%1&quot; 的版本</translation>
+    </message>
+    <message>
+        <source>it was given up</source>
+        <translation>已放弃</translation>
+    </message>
+    <message>
+        <source>the answer is larger than %1 bytes</source>
+        <translation>响应大于 %1 字节</translation>
+    </message>
+    <message>
+        <source>Cannot reach %1: %2.</source>
+        <translation>无法连接 %1：%2。</translation>
+    </message>
+    <message>
+        <source>no answer within %1 seconds</source>
+        <translation>%1 秒内没有响应</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid feed: %2.</source>
+        <translation>%1 不是有效的更新列表：%2。</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1 %2 has been released!&lt;/b&gt;</source>
+        <translation>&lt;b&gt;%1 %2 已发布！&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Congratulations! You are running the latest version of %1</source>
+        <translation>恭喜！正在使用 %1 的最新版本</translation>
+    </message>
+    <message>
+        <source>No updates are available at the moment.</source>
+        <translation>目前没有可用的更新。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>每天检查一次新版本(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>&amp;Address of the updates:</source>
+        <translation>更新地址(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Address for &amp;problems:</source>
+        <translation>报告问题的地址(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Address for &amp;suggestions:</source>
+        <translation>提供建议的地址(&amp;S)：</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>没有主窗口。</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>检查更新...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>报告问题</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>提供建议</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeOptionPage</name>
+    <message>
+        <source>&amp;Show the home page while no project is open</source>
+        <translation>没有打开项目时显示主页(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>主页</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next start.</source>
+        <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Animations for the web, drawn by you</source>
+        <translation>亲手绘制网页动画</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>最近的项目</translation>
+    </message>
+    <message>
+        <source>Projects that you create or open will be listed here.</source>
+        <translation>创建或打开的项目将列在这里。</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>在文件夹中显示 %1</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list</source>
+        <translation>从列表中移除 %1</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the list.</source>
+        <translation>已从列表中移除 %1。</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>示例</translation>
+    </message>
+    <message>
+        <source>On the web</source>
+        <translation>在网上</translation>
+    </message>
+    <message>
+        <source>Home Page</source>
+        <translation>网站</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>社区</translation>
+    </message>
+    <message>
+        <source>Demo Projects</source>
+        <translation>演示项目</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>新闻</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>The page has lost the program and is trying to reach it again.</source>
+        <translation>页面与程序的连接已断开，正在尝试重新连接。</translation>
+    </message>
+    <message>
+        <source>The page has reached the program again.</source>
+        <translation>页面已重新连接到程序。</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>风景</translation>
+    </message>
+    <message>
+        <source>A morning in layers: hills, clouds and trees</source>
+        <translation>层层叠叠的清晨：山丘、云朵和树木</translation>
+    </message>
+    <message>
+        <source>Banner</source>
+        <translation>横幅</translation>
+    </message>
+    <message>
+        <source>Two scenes for the top of a page</source>
+        <translation>用于页面顶部的两个场景</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>卡片</translation>
+    </message>
+    <message>
+        <source>A card that follows the width of its page</source>
+        <translation>随页面宽度变化的卡片</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>主页</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>没有主窗口。</translation>
     </message>
 </context>
 </TS>
