@@ -829,7 +829,7 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
     </message>
     <message>
         <source>&amp;Project file:</source>
-        <translation>&amp;Archivo del proyecto:</translation>
+        <translation>Archivo del &amp;proyecto:</translation>
     </message>
     <message>
         <source>Project file</source>

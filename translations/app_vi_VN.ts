@@ -1009,7 +1009,7 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
     </message>
     <message>
         <source>Add &amp;Image...</source>
-        <translation>Thêm ả&amp;nh...</translation>
+        <translation>Thê&amp;m ảnh...</translation>
     </message>
     <message>
         <source>Add Image</source>
