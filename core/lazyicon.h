@@ -3,6 +3,7 @@
 
 #include <QIcon>
 
-/// An icon whose file is read when it is first asked for anything: one with many sizes takes milliseconds,
-/// which the start of the program does not have. GUI thread only.
+/// The icon of an .ico file as our build makes them: images of rising size, all of them PNG. Each is read
+/// when it is asked for, and no image library but Qt Gui's own is loaded: finding the one for .ico takes the
+/// start of the program several milliseconds. GUI thread only.
 [[nodiscard]] QIcon lazyIcon(const QString &strFile);

@@ -82,7 +82,7 @@ MainWindow::MainWindow(QWidget *pParent)
     startServer();
     statusBar()->setSizeGripEnabled(false);
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
-    setWindowIcon(QIcon(QStringLiteral(":/app/images/app_icon.ico")));
+    setWindowIcon(lazyIcon(QStringLiteral(":/app/images/app_icon.ico")));
 
     createManagers();
     createMdiArea();

@@ -40,6 +40,13 @@ public:
     ~MapWatch() { xcb_disconnect(m_pConnection); }
     Q_DISABLE_COPY_MOVE(MapWatch)
 
+    // What the programs before have left: a window may be made anew after its start.
+    void forget()
+    {
+        while (void *pEvent = xcb_poll_for_event(m_pConnection))
+            std::free(pEvent);
+    }
+
     // The size of the next one that is no helper; empty when none comes.
     QSize waitForWindow()
     {
@@ -126,6 +133,7 @@ Start start(MapWatch &display, const QString &strProgram, const QStringList &arg
     Start result;
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedChannels);
+    display.forget();
     QElapsedTimer timer;
     timer.start();
     process.start(strProgram, arguments);
