@@ -4,12 +4,29 @@
 #include "clientlimits.h"
 #include "clientpolicy.h"
 
+#include <QCoreApplication>
 #include <QJsonObject>
+#include <QPointer>
 #include <QPromise>
 #include <QThreadPool>
 #include <QWebSocket>
 
 #include <memory>
+
+namespace {
+
+// One thread for all clients: what they send does not hold up what the program computes elsewhere.
+QThreadPool *parsingPool()
+{
+    static QPointer<QThreadPool> s_pPool;
+    if (!s_pPool) {
+        s_pPool = new QThreadPool(QCoreApplication::instance());
+        s_pPool->setMaxThreadCount(1);
+    }
+    return s_pPool;
+}
+
+} // namespace
 
 WebSocketTransport::WebSocketTransport(QWebSocket *socket)
     : QWebChannelAbstractTransport(socket)
@@ -17,6 +34,8 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
 {
     connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived);
     connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected);
+    m_lastRead.start();
+    connect(socket, &QWebSocket::bytesWritten, this, [this] { m_lastRead.start(); });
     connect(&m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed);
 }
 
@@ -28,8 +47,11 @@ WebSocketTransport::~WebSocketTransport()
 
 void WebSocketTransport::sendMessage(const QJsonObject &message)
 {
+    if (m_socket->bytesToWrite() == 0)
+        m_lastRead.start();
     m_socket->sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
-    ClientLimits::dropIfUnread(m_socket);
+    const bool bReads = !m_lastRead.hasExpired(ClientPolicy::UnreadTimeoutMs);
+    ClientLimits::dropIfUnread(m_socket, bReads ? ClientPolicy::UnsentSizeAtMost : ClientPolicy::UnsentSize);
 }
 
 void WebSocketTransport::textMessageReceived(const QString &message)
@@ -65,7 +87,7 @@ void WebSocketTransport::parseWaiting()
     auto promise = std::make_shared<QPromise<Parsed>>();
     promise->start();
     m_parsing.setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, strMessage = m_waiting.constFirst()] {
+    parsingPool()->start([promise, strMessage = m_waiting.constFirst()] {
         promise->addResult(parse(strMessage));
         promise->finish();
     });
@@ -88,8 +110,9 @@ void WebSocketTransport::onParsed()
 void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
 {
     const auto &[document, error] = parsed;
-    if (error.error == QJsonParseError::NoError && document.isObject()) {
-        emit messageReceived(document.object(), this);
+    const QJsonObject object = document.object();
+    if (ClientPolicy::isForChannel(object)) {
+        emit messageReceived(object, this);
         return;
     }
     if (!mayWarn())
@@ -98,8 +121,10 @@ void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
     if (error.error != QJsonParseError::NoError)
         qCWarning(lcWebChannel) << "Failed to parse text message as JSON object:" << strText
                                 << "Error is:" << error.errorString();
-    else
+    else if (!document.isObject())
         qCWarning(lcWebChannel) << "Received JSON message that is not an object: " << strText;
+    else
+        qCWarning(lcWebChannel) << "Received JSON object that is no message of the channel:" << strText;
 }
 
 bool WebSocketTransport::mayWarn()

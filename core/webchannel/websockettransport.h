@@ -24,12 +24,13 @@ public:
     explicit WebSocketTransport(QWebSocket *socket);
     ~WebSocketTransport() override;
 
-    /// Sends one line of compact JSON. A client that has left too much unread is dropped.
+    /// Sends one line of compact JSON. A client that leaves too much unread is dropped; one that reads may
+    /// fall further behind.
     void sendMessage(const QJsonObject &message) override;
 
 private slots:
-    /// Anything but a JSON object is logged and dropped, the socket stays. A client that goes on so is not
-    /// logged more often than a few times a second.
+    /// Anything but a JSON object that the channel knows is logged and dropped, the socket stays. A client
+    /// that goes on so is not logged more often than a few times a second.
     void textMessageReceived(const QString &message);
 
 private:
@@ -49,6 +50,7 @@ private:
     QWebSocket *m_socket;
     QQueue<QString> m_waiting; ///< the first one is being parsed
     QFutureWatcher<Parsed> m_parsing;
+    QElapsedTimer m_lastRead; ///< when the client last took in something, or had nothing more to read
     QElapsedTimer m_warningPeriod;
     int m_nWarnings = 0;
     bool m_bClientGone = false;
