@@ -53,8 +53,7 @@ void watch(QTcpSocket *pTcp, QWebSocket *pSocket)
 
 } // namespace
 
-// Answers do not wait until the client has confirmed the ones before. What came along with the handshake
-// would wait for more to come.
+// Answers do not wait until the client has confirmed the ones before.
 void apply(const QWebSocketServer &server, QWebSocket *pSocket)
 {
     pSocket->setMaxAllowedIncomingMessageSize(ClientPolicy::MessageSize);
@@ -68,8 +67,6 @@ void apply(const QWebSocketServer &server, QWebSocket *pSocket)
     pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     makeRoom(pTcp);
     watch(pTcp, pSocket);
-    if (pTcp->bytesAvailable() > 0)
-        QMetaObject::invokeMethod(pTcp, "readyRead", Qt::QueuedConnection);
 }
 
 void pause(QWebSocket *pSocket)

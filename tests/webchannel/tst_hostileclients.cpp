@@ -327,15 +327,6 @@ private slots:
         QCOMPARE(program.counter.total(), 0);
     }
 
-    // Qt leaves it in the socket until more comes.
-    void aCallInOnePieceWithTheHandshakeIsHeard()
-    {
-        ChannelServer program;
-        RawClient client(program);
-        client.send(handshake("127.0.0.1:PORT") + frame(call("add", "[1]")));
-        QTRY_COMPARE(program.counter.total(), 1);
-    }
-
     // The big one is parsed beside the event loop; what follows it must not overtake it.
     void messagesOf16MiBArriveInTheirOrder()
     {
