@@ -34,8 +34,7 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
 {
     connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived);
     connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected);
-    m_lastRead.start();
-    connect(socket, &QWebSocket::bytesWritten, this, [this] { m_lastRead.start(); });
+    connect(socket, &QWebSocket::bytesWritten, this, [this] { m_unread.invalidate(); });
     connect(&m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed);
 }
 
@@ -47,10 +46,12 @@ WebSocketTransport::~WebSocketTransport()
 
 void WebSocketTransport::sendMessage(const QJsonObject &message)
 {
-    if (m_socket->bytesToWrite() == 0)
-        m_lastRead.start();
     m_socket->sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
-    const bool bReads = !m_lastRead.hasExpired(ClientPolicy::UnreadTimeoutMs);
+    if (m_socket->bytesToWrite() <= ClientPolicy::UnsentSize)
+        return;
+    if (!m_unread.isValid())
+        m_unread.start();
+    const bool bReads = !m_unread.hasExpired(ClientPolicy::UnreadTimeoutMs);
     ClientLimits::dropIfUnread(m_socket, bReads ? ClientPolicy::UnsentSizeAtMost : ClientPolicy::UnsentSize);
 }
 

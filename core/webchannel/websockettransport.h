@@ -50,7 +50,7 @@ private:
     QWebSocket *m_socket;
     QQueue<QString> m_waiting; ///< the first one is being parsed
     QFutureWatcher<Parsed> m_parsing;
-    QElapsedTimer m_lastRead; ///< when the client last took in something, or had nothing more to read
+    QElapsedTimer m_unread; ///< since the client has left too much unread and taken in nothing
     QElapsedTimer m_warningPeriod;
     int m_nWarnings = 0;
     bool m_bClientGone = false;
