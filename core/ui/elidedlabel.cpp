@@ -11,7 +11,9 @@ namespace {
 
 QString oneLine(QString strText)
 {
-    return strText.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    for (const QChar lineEnd : {QChar(u'\n'), QChar(u'\r'), QChar(0x2028), QChar(0x2029)})
+        strText.replace(lineEnd, QLatin1Char(' '));
+    return strText;
 }
 
 } // namespace
@@ -62,6 +64,6 @@ void ElidedLabel::paintEvent(QPaintEvent *pEvent)
     // A message that is not translated still reads in its own direction.
     const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     QPainter painter(this);
-    style()->drawItemText(
-        &painter, contentsRect(), nAlign | nDirection, palette(), isEnabled(), strText, foregroundRole());
+    style()->drawItemText(&painter, contentsRect(), nAlign | nDirection | Qt::TextSingleLine, palette(),
+        isEnabled(), strText, foregroundRole());
 }

@@ -18,6 +18,7 @@
 #include <QShortcut>
 #include <QStyleOptionTitleBar>
 #include <QStylePainter>
+#include <QToolButton>
 #include <QToolTip>
 #include <QtMath>
 
@@ -151,6 +152,8 @@ void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
     // A desktop that shows menus in a place of its own would take the title bar away.
     m_pMenuBar->setNativeMenuBar(false);
     m_pLayout->insertWidget(0, m_pMenuBar);
+    if (auto *pMore = m_pMenuBar->findChild<QToolButton *>(QStringLiteral("qt_menubar_ext_button")))
+        pMore->setAccessibleName(tr("More menus"));
     m_pIconLabel = new IconLabel(m_pMenuBar);
     m_pMenuBar->setCornerWidget(m_pIconLabel, Qt::TopLeftCorner);
     createButtons();
@@ -394,12 +397,18 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
     case QEvent::FontChange:
         onDPIChanged();
         return false;
+    case QEvent::Hide:
+    case QEvent::WindowDeactivate:
+        m_bDragging = false;
+        return false;
     case QEvent::ToolTip: {
         const auto *pHelp = static_cast<QHelpEvent *>(pEvent);
         const QPoint point = m_pMenuBar->mapTo(this, pHelp->pos());
         if (!isTitleBarArea(point.x(), point.y()) || !m_pTitleText->isElided())
             return false;
-        QToolTip::showText(pHelp->globalPos(), shownTitle(this), m_pMenuBar);
+        // A name of a file that looks like markup would be taken for it.
+        const QString strTip = QStringLiteral("<p>%1</p>").arg(shownTitle(this).toHtmlEscaped());
+        QToolTip::showText(pHelp->globalPos(), strTip, m_pMenuBar);
         return true;
     }
     case QEvent::MouseButtonPress:
@@ -418,7 +427,6 @@ bool IMainMenuWidget::passMouseEvent(QMouseEvent *pEvent)
 {
     const QPoint point = m_pMenuBar->mapTo(this, pEvent->position().toPoint());
     const bool bEmpty = isTitleBarArea(point.x(), point.y());
-    const bool bDragged = m_bDragging;
     if (bEmpty && pEvent->type() == QEvent::MouseButtonPress)
         mousePressEvent(pEvent);
     else if (bEmpty && pEvent->type() == QEvent::MouseButtonDblClick)
@@ -427,7 +435,7 @@ bool IMainMenuWidget::passMouseEvent(QMouseEvent *pEvent)
         mouseReleaseEvent(pEvent);
     else if (pEvent->type() == QEvent::MouseMove)
         mouseMoveEvent(pEvent);
-    return bDragged && pEvent->type() == QEvent::MouseMove;
+    return m_bDragging && pEvent->type() == QEvent::MouseMove;
 }
 
 void IMainMenuWidget::mousePressEvent(QMouseEvent *pEvent)
@@ -442,6 +450,8 @@ void IMainMenuWidget::mousePressEvent(QMouseEvent *pEvent)
 
 void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
 {
+    // The release may have gone to another window.
+    m_bDragging = m_bDragging && pEvent->buttons().testFlag(Qt::LeftButton);
     if (!m_bDragging)
         return;
     const QPoint cursor = pEvent->globalPosition().toPoint();

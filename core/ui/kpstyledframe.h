@@ -17,9 +17,11 @@ class CORE_EXPORT KPStyledFrameHelper
 {
 public:
     explicit KPStyledFrameHelper(QWidget *pWidget);
-    virtual ~KPStyledFrameHelper();
 
 protected:
+    /// Not virtual: nobody deletes a frame as its helper.
+    ~KPStyledFrameHelper();
+
     /// Whether the point, in logical client coordinates, lies on a part of the window that drags it.
     [[nodiscard]] virtual bool isStyledFrameTitleBar(int x, int y) const = 0;
 

@@ -75,6 +75,9 @@ void KPStyledFrameHelper::Private::setUp()
         bSetUp = false;
         return;
     }
+    // A window that was made just now has reported itself and is set up already.
+    if (pWindow == hWnd)
+        return;
     pWindow = hWnd;
     SetWindowLongW(hWnd, GWL_EXSTYLE, GetWindowLongW(hWnd, GWL_EXSTYLE) | WS_EX_LAYERED);
     SetLayeredWindowAttributes(hWnd, RGB(255, 0, 255), 0, LWA_COLORKEY);

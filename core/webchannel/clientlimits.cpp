@@ -8,6 +8,9 @@
 #include <QWebSocket>
 #include <QWebSocketServer>
 
+#include <algorithm>
+#include <memory>
+
 namespace ClientLimits {
 
 namespace {
@@ -23,29 +26,47 @@ void makeRoom(QTcpSocket *pTcp)
         pTcp->setReadBufferSize(pTcp->bytesAvailable() + ClientPolicy::ReadSize);
 }
 
+// Only the object tree leads to it.
+QTcpSocket *tcpSocketOf(const QWebSocketServer &server, const QWebSocket &socket)
+{
+    const auto all = server.findChildren<QTcpSocket *>();
+    const auto it = std::find_if(all.begin(), all.end(), [&socket](const QTcpSocket *pTcp) {
+        return pTcp->peerPort() == socket.peerPort() && pTcp->peerAddress() == socket.peerAddress();
+    });
+    return it == all.end() ? nullptr : *it;
+}
+
+// Within its own signal the socket would not take notice of the new room. Pings are answered unseen by the
+// transport, so what a client that only sends leaves unread is looked at here too.
+void watch(QTcpSocket *pTcp, QWebSocket *pSocket)
+{
+    auto nReads = std::make_shared<int>(0);
+    QObject::connect(pSocket, &QWebSocket::bytesWritten, pTcp, [nReads] { *nReads = 0; });
+    const auto onRead = [pTcp, nReads, pWatched = QPointer<QWebSocket>(pSocket)] {
+        makeRoom(pTcp);
+        const bool bOnlySends = ++*nReads > ClientPolicy::ReadsWithoutWriting;
+        if (pWatched)
+            dropIfUnread(pWatched, bOnlySends ? ClientPolicy::UnsentSize : ClientPolicy::UnsentSizeAtMost);
+    };
+    QObject::connect(pTcp, &QTcpSocket::readyRead, pTcp, onRead, Qt::QueuedConnection);
+}
+
 } // namespace
 
-// Pings are answered unseen by the transport, so the check for unread answers is here too. Answers do not
-// wait until the client has confirmed the ones before. Only the object tree leads to the TCP socket; within
-// its own signal it would not take notice of the new room.
+// Answers do not wait until the client has confirmed the ones before.
 void apply(const QWebSocketServer &server, QWebSocket *pSocket)
 {
     pSocket->setMaxAllowedIncomingMessageSize(ClientPolicy::MessageSize);
     pSocket->setMaxAllowedIncomingFrameSize(ClientPolicy::MessageSize);
-    for (QTcpSocket *pTcp : server.findChildren<QTcpSocket *>()) {
-        if (pTcp->peerPort() != pSocket->peerPort())
-            continue;
-        pTcp->setSocketOption(
-            QAbstractSocket::ReceiveBufferSizeSocketOption, ClientPolicy::ReceiveBufferSize);
-        pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        makeRoom(pTcp);
-        const auto onRead = [pTcp, pWatched = QPointer<QWebSocket>(pSocket)] {
-            makeRoom(pTcp);
-            if (pWatched)
-                dropIfUnread(pWatched);
-        };
-        QObject::connect(pTcp, &QTcpSocket::readyRead, pTcp, onRead, Qt::QueuedConnection);
+    QTcpSocket *pTcp = tcpSocketOf(server, *pSocket);
+    if (!pTcp) {
+        qCWarning(lcWebChannel, "A web channel client is not held to its bounds: its socket is not found.");
+        return;
     }
+    pTcp->setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption, ClientPolicy::ReceiveBufferSize);
+    pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    makeRoom(pTcp);
+    watch(pTcp, pSocket);
 }
 
 void pause(QWebSocket *pSocket)
@@ -58,11 +79,11 @@ void resume(QWebSocket *pSocket)
     pSocket->setReadBufferSize(0);
 }
 
-void dropIfUnread(QWebSocket *pSocket)
+void dropIfUnread(QWebSocket *pSocket, qint64 nBytes)
 {
-    if (pSocket->bytesToWrite() <= ClientPolicy::UnsentSize)
+    if (pSocket->bytesToWrite() <= nBytes)
         return;
-    qCWarning(lcWebChannel, "Dropped a web channel client that reads nothing.");
+    qCWarning(lcWebChannel, "Dropped a web channel client that reads too little.");
     pSocket->abort();
 }
 

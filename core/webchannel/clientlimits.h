@@ -2,6 +2,8 @@
 // Holds one client's socket to the bounds of the policy.
 #pragma once
 
+#include <QtGlobal>
+
 class QWebSocket;
 class QWebSocketServer;
 
@@ -14,7 +16,7 @@ void apply(const QWebSocketServer &server, QWebSocket *pSocket);
 void pause(QWebSocket *pSocket);
 void resume(QWebSocket *pSocket);
 
-/// Cuts off a client that has left more unread than it may: logged, and disconnected() follows at once.
-void dropIfUnread(QWebSocket *pSocket);
+/// Cuts off a client that has left more than `nBytes` unread: logged, and disconnected() follows at once.
+void dropIfUnread(QWebSocket *pSocket, qint64 nBytes);
 
 } // namespace ClientLimits

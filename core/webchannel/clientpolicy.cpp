@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "clientpolicy.h"
 
+#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QUrlQuery>
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 Q_LOGGING_CATEGORY(lcWebChannel, "kelpa.core.webchannel")
 
@@ -25,6 +28,29 @@ bool carriesKey(const QString &strQuery, const QByteArray &key)
     const QStringList keys =
         QUrlQuery(strQuery).allQueryItemValues(QStringLiteral("key"), QUrl::FullyDecoded);
     return keys.size() == 1 && !key.isEmpty() && equalInConstantTime(keys.first().toUtf8(), key);
+}
+
+struct Request
+{
+    int nType;
+    bool bAnswered; // and so has an id
+    const char *pMember; // of the object it names; none: it names no object
+};
+
+// What clients send. Text for debugging is not among them: Qt would write it to the standard output.
+constexpr Request s_requests[] = {
+    {3, true, nullptr},
+    {4, false, nullptr},
+    {6, true, "method"},
+    {7, false, "signal"},
+    {8, false, "signal"},
+    {9, false, "property"},
+};
+
+// Members are named or numbered.
+bool isShort(const QJsonValue &name)
+{
+    return !name.isString() || name.toString().size() <= NameCharacters;
 }
 
 } // namespace
@@ -53,6 +79,21 @@ bool equalInConstantTime(const QByteArray &first, const QByteArray &second)
     for (qsizetype i = 0; i < first.size(); ++i)
         difference = static_cast<char>(difference | (first[i] ^ second[i]));
     return difference == 0;
+}
+
+bool isForChannel(const QJsonObject &message)
+{
+    const int nType = message.value(QLatin1String("type")).toInt(-1);
+    const auto *pRequest = std::find_if(std::begin(s_requests), std::end(s_requests),
+        [nType](const Request &request) { return request.nType == nType; });
+    if (pRequest == std::end(s_requests))
+        return false;
+    if (pRequest->bAnswered && !message.contains(QLatin1String("id")))
+        return false;
+    if (!pRequest->pMember)
+        return true;
+    const QJsonValue object = message.value(QLatin1String("object"));
+    return object.isString() && isShort(object) && isShort(message.value(QLatin1String(pRequest->pMember)));
 }
 
 QString forLog(const QString &strText)

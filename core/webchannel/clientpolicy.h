@@ -11,6 +11,8 @@
 
 #include <optional>
 
+class QJsonObject;
+
 Q_DECLARE_LOGGING_CATEGORY(lcWebChannel)
 
 namespace ClientPolicy {
@@ -19,7 +21,11 @@ namespace ClientPolicy {
 constexpr int MessageSize = 16 * 1024 * 1024;
 constexpr int ReceiveBufferSize = 256 * 1024;
 constexpr int ReadSize = 64 * 1024;
-constexpr qint64 UnsentSize = 64 * 1024 * 1024;
+constexpr qint64 UnsentSize = 64 * 1024 * 1024; ///< while the client reads nothing
+constexpr qint64 UnsentSizeAtMost = 256 * 1024 * 1024;
+constexpr int UnreadTimeoutMs = 5000;
+constexpr int ReadsWithoutWriting = 64; ///< of ReadSize each: a client that only sends
+constexpr int NameCharacters = 256;
 constexpr int CharactersParsedAtOnce = 1024 * 1024;
 constexpr int LoggedCharacters = 1000;
 constexpr int WarningsPerSecond = 20;
@@ -46,6 +52,9 @@ enum class Verdict { Accept, RefuseHost, RefuseOrigin };
 
 /// Takes as long for a near miss as for a wild guess; only the lengths may be told apart.
 [[nodiscard]] CORE_EXPORT bool equalInConstantTime(const QByteArray &first, const QByteArray &second);
+
+/// Whether the channel knows what to do with it. Anything else the channel would quote whole in the log.
+[[nodiscard]] CORE_EXPORT bool isForChannel(const QJsonObject &message);
 
 /// What of a client's text goes into the log: all, or its beginning and its length.
 [[nodiscard]] CORE_EXPORT QString forLog(const QString &strText);

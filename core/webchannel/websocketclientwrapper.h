@@ -14,11 +14,11 @@ class WebSocketTransport;
 class CORE_EXPORT WebSocketClientWrapper : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<webchannel / websockettransport.h>)
+    Q_MOC_INCLUDE("webchannel/websockettransport.h")
     Q_DISABLE_COPY_MOVE(WebSocketClientWrapper)
 
 public:
-    /// Also bounds the server's unfinished handshakes.
+    /// Also bounds how long a handshake of the server may take, and how many finished ones may wait.
     explicit WebSocketClientWrapper(QWebSocketServer *server, QObject *parent = nullptr);
 
     /// What a page of another origin appends to the server's URL as "?key=" to be let in. New in each run.

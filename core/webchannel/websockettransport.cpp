@@ -4,6 +4,7 @@
 #include "clientlimits.h"
 #include "clientpolicy.h"
 
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QPointer>
 #include <QPromise>
@@ -11,6 +12,21 @@
 #include <QWebSocket>
 
 #include <memory>
+
+namespace {
+
+// One thread for all clients: what they send does not hold up what the program computes elsewhere.
+QThreadPool *parsingPool()
+{
+    static QPointer<QThreadPool> s_pPool;
+    if (!s_pPool) {
+        s_pPool = new QThreadPool(QCoreApplication::instance());
+        s_pPool->setMaxThreadCount(1);
+    }
+    return s_pPool;
+}
+
+} // namespace
 
 // Queued: what is called may run an event loop for a dialog, in which a client that leaves takes its socket
 // along. Neither the socket nor the watcher can do without themselves in their own signals.
@@ -24,6 +40,7 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
         socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
     connect(
         &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
+    connect(socket, &QWebSocket::bytesWritten, this, [this] { m_unread.invalidate(); });
 }
 
 WebSocketTransport::~WebSocketTransport()
@@ -35,7 +52,12 @@ WebSocketTransport::~WebSocketTransport()
 void WebSocketTransport::sendMessage(const QJsonObject &message)
 {
     m_socket->sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
-    ClientLimits::dropIfUnread(m_socket);
+    if (m_socket->bytesToWrite() <= ClientPolicy::UnsentSize)
+        return;
+    if (!m_unread.isValid())
+        m_unread.start();
+    const bool bReads = !m_unread.hasExpired(ClientPolicy::UnreadTimeoutMs);
+    ClientLimits::dropIfUnread(m_socket, bReads ? ClientPolicy::UnsentSizeAtMost : ClientPolicy::UnsentSize);
 }
 
 void WebSocketTransport::textMessageReceived(const QString &message)
@@ -70,7 +92,7 @@ void WebSocketTransport::parseWaiting()
     auto promise = std::make_shared<QPromise<Parsed>>();
     promise->start();
     m_parsing.setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, strMessage = m_waiting.constFirst()] {
+    parsingPool()->start([promise, strMessage = m_waiting.constFirst()] {
         promise->addResult(parse(strMessage));
         promise->finish();
     });
@@ -108,8 +130,9 @@ void WebSocketTransport::setPaused(bool bPaused)
 void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
 {
     const auto &[document, error] = parsed;
-    if (error.error == QJsonParseError::NoError && document.isObject()) {
-        emit messageReceived(document.object(), this);
+    const QJsonObject object = document.object();
+    if (ClientPolicy::isForChannel(object)) {
+        emit messageReceived(object, this);
         return;
     }
     if (!mayWarn())
@@ -118,8 +141,10 @@ void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
     if (error.error != QJsonParseError::NoError)
         qCWarning(lcWebChannel) << "Failed to parse text message as JSON object:" << strText
                                 << "Error is:" << error.errorString();
-    else
+    else if (!document.isObject())
         qCWarning(lcWebChannel) << "Received JSON message that is not an object: " << strText;
+    else
+        qCWarning(lcWebChannel) << "Received JSON object that is no message of the channel:" << strText;
 }
 
 bool WebSocketTransport::mayWarn()

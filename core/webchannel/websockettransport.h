@@ -24,12 +24,13 @@ public:
     explicit WebSocketTransport(QWebSocket *socket);
     ~WebSocketTransport() override;
 
-    /// Sends one line of compact JSON. A client that has left too much unread is dropped.
+    /// Sends one line of compact JSON. A client that leaves too much unread is dropped; one that reads may
+    /// fall further behind.
     void sendMessage(const QJsonObject &message) override;
 
 private slots:
-    /// Anything but a JSON object is logged and dropped, the socket stays. A client that goes on so is not
-    /// logged more often than a few times a second.
+    /// Anything but a JSON object that the channel knows is logged and dropped, the socket stays. A client
+    /// that goes on so is not logged more often than a few times a second.
     void textMessageReceived(const QString &message);
 
 private:
@@ -52,6 +53,7 @@ private:
     QQueue<QString> m_waiting; ///< the first one is being worked off
     bool m_bPaused = false;
     QFutureWatcher<Parsed> m_parsing;
+    QElapsedTimer m_unread; ///< since the client has left too much unread and taken in nothing
     QElapsedTimer m_warningPeriod;
     int m_nWarnings = 0;
     bool m_bClientGone = false;

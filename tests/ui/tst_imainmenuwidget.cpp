@@ -11,6 +11,7 @@
 #include <QProxyStyle>
 #include <QScreen>
 #include <QStyleOptionTitleBar>
+#include <QToolTip>
 
 namespace {
 
@@ -122,6 +123,38 @@ private slots:
         release();
         moveCursor({90, 90});
         QCOMPARE(m_pWindow->pos(), QPoint(160, 140));
+    }
+
+    void dragEndsWithoutItsRelease_data()
+    {
+        QTest::addColumn<int>("event");
+        QTest::newRow("the button came up elsewhere") << int(QEvent::None);
+        QTest::newRow("the window was hidden") << int(QEvent::Hide);
+        QTest::newRow("another window became the active one") << int(QEvent::WindowDeactivate);
+    }
+
+    void dragEndsWithoutItsRelease()
+    {
+        QFETCH(const int, event);
+        drag(stretchPoint(), {5, 5});
+        if (event == QEvent::Hide) {
+            m_pWindow->hide();
+            showAndWait();
+        } else if (event == QEvent::WindowDeactivate) {
+            QWidget other;
+            other.show();
+            other.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+        }
+        const QPoint before = m_pWindow->pos();
+        const auto buttons = event == QEvent::None ? Qt::NoButton : Qt::LeftButton;
+        for (const Qt::MouseButtons held : {Qt::MouseButtons(buttons), Qt::MouseButtons(Qt::LeftButton)}) {
+            QMouseEvent move(QEvent::MouseMove, QPointF(stretchPoint()), QPointF(m_pressed + QPoint(40, 40)),
+                Qt::NoButton, held, Qt::NoModifier);
+            QApplication::sendEvent(m_pMenuBar, &move);
+            QCOMPARE(m_pWindow->pos(), before);
+        }
+        release();
     }
 
     void whatIsNotTitleBarDoesNotMoveTheWindow()
@@ -262,6 +295,16 @@ private slots:
         m_pTitleBar->setStyle(nullptr);
     }
 
+    void toolTipOfAnElidedTitleIsPlainText()
+    {
+        const QString strFile = QStringLiteral("<i>") + QString(500, 'm');
+        m_pWindow->setWindowFilePath(strFile);
+        QHelpEvent event(QEvent::ToolTip, stretchPoint(), m_pMenuBar->mapToGlobal(stretchPoint()));
+        QApplication::sendEvent(m_pMenuBar, &event);
+        QVERIFY(QToolTip::text().contains(strFile.toHtmlEscaped() + " - Kelpa Studio"));
+        QToolTip::hideText();
+    }
+
     void titleIsSeenBesideTheMenus_data()
     {
         QTest::addColumn<bool>("rightToLeft");
@@ -318,6 +361,7 @@ private slots:
         button("minizeButton")->click();
         QVERIFY(m_pWindow->isMinimized());
         QCOMPARE(button("closeButton")->accessibleName(), QStringLiteral("Close"));
+        QCOMPARE(button("qt_menubar_ext_button")->accessibleName(), QStringLiteral("More menus"));
         button("closeButton")->click();
         QVERIFY(!m_pWindow->isVisible());
     }

@@ -122,6 +122,7 @@ private slots:
         const auto screens = QGuiApplication::screens();
         const auto it = std::find_if(screens.begin(), screens.end(),
             [&](const QScreen *pScreen) { return qRound(pScreen->logicalDotsPerInchX()) == dpi; });
+        QVERIFY(it != screens.end());
         m_pWindow->setScreen(*it);
         m_pBar->show("text", static_cast<KPNotificationBar::Type>(type), {}, true);
         const QImage expected(":/core/images/" + file);
@@ -186,6 +187,18 @@ private slots:
         const QRect close = part<QToolButton>("m_pCloseButton")->geometry();
         QVERIFY(m_pBar->rect().contains(close));
         QVERIFY(!close.intersects(part<QLabel>("m_pMessageLabel")->geometry()));
+    }
+
+    void everyEndOfALineIsABlank()
+    {
+        const auto shown = [this](char16_t separator) {
+            m_pBar->show(QStringLiteral("one") + QChar(separator) + "two", KPNotificationBar::Info, {}, true);
+            QTest::qWait(0);
+            return part<QLabel>("m_pMessageLabel")->grab().toImage();
+        };
+        const QImage expected = shown(u' ');
+        for (const char16_t separator : {u'\n', u'\r', u'\u2028', u'\u2029'})
+            QCOMPARE(shown(separator), expected);
     }
 
     void eachMessageIsAnnouncedOnceAndTheFocusStays_data()

@@ -424,10 +424,12 @@ private:
         return lastAnswer(nMessage);
     }
 
-    [[nodiscard]] Rect region() const
+    [[nodiscard]] Rect region() const { return regionOf(hWnd()); }
+
+    static Rect regionOf(HWND hWindow)
     {
         RECT box {};
-        return GetWindowRgnBox(hWnd(), &box) == SIMPLEREGION ? fromNative(box) : Rect {};
+        return GetWindowRgnBox(hWindow, &box) == SIMPLEREGION ? fromNative(box) : Rect {};
     }
 
     static bool isSetUp(WId window)
@@ -437,7 +439,7 @@ private:
         DWORD nFlags = 0;
         return (GetWindowLongW(hWindow, GWL_EXSTYLE) & WS_EX_LAYERED)
             && GetLayeredWindowAttributes(hWindow, &key, nullptr, &nFlags) && nFlags == LWA_COLORKEY
-            && key == RGB(255, 0, 255);
+            && key == RGB(255, 0, 255) && regionOf(hWindow) == Rect {0, 0, 32767, 32767};
     }
 
     std::unique_ptr<Frame> m_pFrame;

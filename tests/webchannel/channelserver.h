@@ -63,23 +63,26 @@ public:
     bool bListening = false;
 };
 
-/// Takes the warnings of the web channel out of the log while it lives.
+/// Takes the warnings of the web channel out of the log while it lives, and measures what the others write.
 class ChannelLog
 {
 public:
     ChannelLog()
     {
         s_lines.clear();
+        s_nCharacters = 0;
         s_previous = qInstallMessageHandler(handle);
     }
     ~ChannelLog() { qInstallMessageHandler(s_previous); }
     Q_DISABLE_COPY_MOVE(ChannelLog)
 
     [[nodiscard]] static const QStringList &lines() { return s_lines; }
+    [[nodiscard]] static qint64 characters() { return s_nCharacters; }
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &strText)
     {
+        s_nCharacters += strText.size();
         if (qstrcmp(context.category, "kelpa.core.webchannel") == 0)
             s_lines.append(strText);
         else
@@ -87,6 +90,7 @@ private:
     }
 
     static inline QStringList s_lines;
+    static inline qint64 s_nCharacters = 0;
     static inline QtMessageHandler s_previous = nullptr;
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <webchannel/clientpolicy.h>
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 #include <QtTest>
 
@@ -106,6 +108,43 @@ private slots:
             QVERIFY(safe.match(QString::fromLatin1(*keys.cbegin())).hasMatch());
         }
         QCOMPARE(keys.size(), 100);
+    }
+
+    void onlyRequestsOfTheProtocolReachTheChannel_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        QTest::addColumn<bool>("passes");
+        const QByteArray longest(ClientPolicy::NameCharacters, 'x');
+        const auto row = [&](const char *pName, QByteArray message, bool bPasses) {
+            QTest::newRow(pName) << message.replace("LONGEST", longest) << bPasses;
+        };
+        row("the start", R"({"type":3,"id":"a"})", true);
+        row("ready for updates", R"({"type":4})", true);
+        row("a call by name", R"({"type":6,"id":0,"object":"a","method":"b","args":[]})", true);
+        row("a call by number", R"({"type":6,"id":0,"object":"a","method":2,"args":[]})", true);
+        row("a signal wanted", R"({"type":7,"object":"a","signal":5})", true);
+        row("a signal no longer wanted", R"({"type":8,"object":"a","signal":5})", true);
+        row("a property set", R"({"type":9,"object":"a","property":1,"value":[1]})", true);
+        row("the longest names", R"({"type":7,"object":"LONGEST","signal":"LONGEST"})", true);
+        row("a longer object", R"({"type":7,"object":"xLONGEST"})", false);
+        row("a longer method", R"({"type":6,"id":1,"object":"a","method":"xLONGEST"})", false);
+        row("no type", R"({"id":1})", false);
+        row("a type as text", R"({"type":"4"})", false);
+        row("a type and a half", R"({"type":4.5})", false);
+        row("an answer", R"({"type":10,"id":1})", false);
+        row("text for the standard output", R"({"type":5,"data":"x"})", false);
+        row("a start without an id", R"({"type":3})", false);
+        row("a call without an id", R"({"type":6,"object":"a","method":"b"})", false);
+        row("a call of no object", R"({"type":6,"id":1,"method":"b"})", false);
+        row("an object that is no text", R"({"type":7,"object":["a"],"signal":5})", false);
+    }
+
+    void onlyRequestsOfTheProtocolReachTheChannel()
+    {
+        QFETCH(const QByteArray, message);
+        const QJsonDocument document = QJsonDocument::fromJson(message);
+        QVERIFY(document.isObject());
+        QTEST(ClientPolicy::isForChannel(document.object()), "passes");
     }
 
     void longTextsAreLoggedByTheirBeginning()

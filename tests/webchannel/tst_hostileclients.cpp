@@ -178,7 +178,7 @@ private slots:
         origin("the key as the path", "http://evil.example", "/KEY");
         origin("the key behind a hash", "http://evil.example", "/?#key=KEY");
         origin("the key in a header", "http://evil.example\r\nkey: KEY");
-        origin("the key in another case of name", "http://evil.example", "/?KEY=KEY");
+        origin("the key in another case of name", "http://evil.example", "/?Key=KEY");
         row("a rebound name without an origin", handshake("evil.example:PORT"));
         row("a rebound name that begins like this machine", handshake("localhost.evil.example:PORT"));
         row("a rebound name with our own origin", handshake("evil.example:PORT", "Origin: qrc:\r\n"));
@@ -406,6 +406,14 @@ private slots:
         row("broken JSON of 100 kB", brokenAtItsEnd(100000), 20, true, 24);
         row("broken JSON of 1 MB", brokenAtItsEnd(1000000), 20, true, 40);
         row("broken JSON of 16 MB", brokenAtItsEnd(16000000), 60, true, 300);
+        row("objects without a type", frame(R"({"a":1})"), 2, true, 24);
+        row("text for the standard output", frame(R"({"type":5,"data":"x"})"), 2, true, 24);
+        row("a request without an id and 16 MB of numbers",
+            frame(
+                QByteArray(R"({"type":3,"a":[MORE1]})").replace("MORE", QByteArray("1,").repeated(8000000))),
+            16, true, 600);
+        row("a call to an object with a name of 16 MB",
+            frame(call("add").replace("counter", QByteArray(16000000, 'x'))), 16, true, 300);
     }
 
     // What costs too much does so each time; a machine that is busy otherwise does not.
@@ -422,6 +430,7 @@ private slots:
             load = endure(garbage, sizeMiB * qint64(1024) * 1024, &bSentAll);
             QCOMPARE(bSentAll, staysConnected);
             limitMs = turnLimitMs();
+            QVERIFY(ChannelLog::characters() < 1000000);
         }
         qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
         QVERIFY(!IsMeasured || load.turnMs < limitMs);
