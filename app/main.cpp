@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "catalogues.h"
+
 #include <extensionsystem/pluginmanager.h>
 
 #include <QApplication>
@@ -49,6 +51,7 @@ int main(int argc, char *argv[])
 
     PluginManager manager;
     manager.setMessageSink(showMessage);
+    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, &installCatalogues);
     if (const auto exitCode = manager.start(QCoreApplication::arguments()))
         return *exitCode;
     const int nExitCode = QApplication::exec();

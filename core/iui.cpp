@@ -45,14 +45,26 @@ QString breakable(const QString &strText)
     return strResult;
 }
 
+// What the text takes in one line; a label that wraps says less.
+int naturalWidth(QLabel *pLabel)
+{
+    const bool bWraps = pLabel->wordWrap();
+    pLabel->setWordWrap(false);
+    const int nWidth = pLabel->sizeHint().width();
+    pLabel->setWordWrap(bWraps);
+    return nWidth;
+}
+
 void widenLabel(QLabel *pLabel)
 {
     const int nCap = pLabel->screen() ? pLabel->screen()->availableSize().width() * 2 / 3 : 640;
-    if (pLabel->sizeHint().width() > nCap) {
-        pLabel->setText(breakable(pLabel->text()));
+    const int nWidth = naturalWidth(pLabel);
+    if (nWidth > nCap) {
+        if (pLabel->textFormat() == Qt::PlainText)
+            pLabel->setText(breakable(pLabel->text()));
         pLabel->setWordWrap(true);
     }
-    pLabel->setMinimumWidth(qMin(pLabel->sizeHint().width(), nCap));
+    pLabel->setMinimumWidth(qMin(nWidth, nCap));
 }
 
 // At high scales the box would otherwise clip its own buttons and texts.
@@ -86,16 +98,11 @@ QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, con
 {
     QWidget *pOwner = pParent ? pParent : ICore::getMainWindow();
     QMessageBox box(pOwner);
-    box.setWindowTitle(strTitle);
     box.setTextFormat(Qt::PlainText);
     box.setText(strText);
     box.setStandardButtons(buttons);
     box.setDefaultButton(defaultButton);
-    box.setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pOwner)));
-    widenContents(&box);
-    if (box.exec() == -1 || !box.clickedButton())
-        return QMessageBox::Cancel;
-    return box.standardButton(box.clickedButton());
+    return IUi::run(&box, strIcon, strTitle);
 }
 
 } // namespace
@@ -120,6 +127,16 @@ QPixmap IUi::getPixmap(const QString &strName, int nMode, bool bDisabled, const 
 void IUi::clearIconCache()
 {
     getInstance()->m_pixmaps.clear();
+}
+
+QMessageBox::StandardButton IUi::run(QMessageBox *pBox, const QString &strIcon, const QString &strTitle)
+{
+    pBox->setWindowTitle(strTitle);
+    pBox->setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pBox->parentWidget())));
+    widenContents(pBox);
+    if (pBox->exec() == -1 || !pBox->clickedButton())
+        return QMessageBox::Cancel;
+    return pBox->standardButton(pBox->clickedButton());
 }
 
 QMessageBox::StandardButton IUi::information(QWidget *pParent, const QString &strTitle,

@@ -44,6 +44,11 @@ public:
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
         QMessageBox::StandardButton defaultButton = QMessageBox::Ok);
 
+    /// Gives a box that its caller has filled the look of the others, and runs it. `strIcon` is the image's
+    /// name with its size, such as "question_32".
+    static QMessageBox::StandardButton run(
+        QMessageBox *pBox, const QString &strIcon, const QString &strTitle);
+
 private:
     friend class ISingleton<IUi>;
     IUi() = default;

@@ -35,7 +35,7 @@ const Option s_options[] = {
     {"help", nullptr, QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Print this help and exit.")},
 };
 
-QString tr(const char *pText)
+QString translated(const char *pText)
 {
     return QCoreApplication::translate(s_context, pText);
 }
@@ -61,9 +61,10 @@ CommandLine::CommandLine(const QStringList &arguments)
     m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const Option &option : s_options)
         m_parser.addOption(
-            {QLatin1String(option.pName), tr(option.pDescription), QLatin1String(option.pValue)});
-    m_parser.addPositionalArgument(
-        QStringLiteral("files"), tr("Projects to open."), QStringLiteral("[files...]"));
+            {QLatin1String(option.pName), translated(option.pDescription), QLatin1String(option.pValue)});
+    m_parser.addPositionalArgument(QStringLiteral("files"),
+        translated(QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Projects to open.")),
+        QStringLiteral("[files...]"));
     m_parser.parse(m_line);
 }
 

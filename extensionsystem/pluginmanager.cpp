@@ -113,6 +113,7 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
         report(error);
     for (PluginRecord &record : records)
         record.arguments = line.pluginOptions(record.spec.name);
+    emit aboutToLoadPlugins();
     return startPlugins(records);
 }
 

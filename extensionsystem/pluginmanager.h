@@ -112,6 +112,9 @@ public:
     }
 
 signals:
+    /// Settings and arguments are there, and no plug-in has been loaded: the time for catalogues.
+    void aboutToLoadPlugins();
+
     /// All plug-ins have finished their delayed initialisation.
     void initializationDone();
 

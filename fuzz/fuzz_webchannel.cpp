@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What a client sends: text messages into a transport with a channel behind it, bytes behind a handshake over
 // a real socket, and handshakes into the policy.
+#include "fuzzseeds.h"
+
 #include <webchannel/clientpolicy.h>
 #include <webchannel/websocketclientwrapper.h>
 #include <webchannel/websockettransport.h>
@@ -20,6 +22,39 @@
 #include <memory>
 
 namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view s_inputs[] = {
+    R"(F{"type":3,"id":0})",
+    R"(F{"type":4})",
+    R"(F{"type":6,"id":1,"object":"target","method":"add","args":[1,2]})",
+    R"(F{"type":6,"id":2,"object":"target","method":"echo","args":["a\u0000\ud83d\ude00\ud800"]})",
+    R"(F{"type":6,"id":3,"object":"target","method":"map","args":[{"a":{"b":[null,true,1e9]}}]})",
+    R"(F{"type":6,"id":4,"object":"target","method":"child","args":[]})",
+    R"(F{"type":6,"id":5,"object":"target","method":5,"args":[]})",
+    R"(F{"type":7,"object":"target","signal":5})",
+    R"(F{"type":8,"object":"target","signal":5})",
+    R"(F{"type":9,"object":"target","property":1,"value":{"x":-1.5e-7}})",
+    R"(F{"type":10,"id":6,"object":"target","signal":0,"args":[],"data":""})",
+    R"(F[1,"two",{"three":[]}])",
+    "H127.0.0.1:4711\nqrc:\n",
+    "Hlocalhost:4711\nhttp://a\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
+    "Hlocalhost:4711\n-\n",
+    "HLOCALHOST:4711\nqrc:\nkey=",
+    "Hevil.example:4711\n-\nkey=0123456789abcdefghijklmnopqrstuvwxyz_-ABCDE",
+    "B\x81\x91\0\0\0\0{\"type\":3,\"id\":0}\x89\x83\0\0\0\0abc"sv,
+    "B\x01\x88\0\0\0\0{\"type\":\x80\x82\0\0\0\0"
+    "4}\x88\x82\0\0\0\0\x03\xE8"sv,
+    "B\x81\xFE\0\x11\0\0\0\0{\"type\":3,\"id\":0}\x82\x83\0\0\0\0abc"sv,
+    "B\x81\xFF\0\0\0\0\0\0\0\x11\1\2\3\4{\"type\":3,\"id\":0}"sv,
+    "H[::1]:4711\nnull\na=b&key=%30123456789abcdefghijklmnopqrstuvwxyz_-ABCDE&key=",
+};
+
+constexpr std::string_view s_words[] = {"{", "}", "[", "]", "\"", ":", ",", "null", "true", "-1", "0",
+    "2147483648", "9223372036854775808", "1e999", "\\u0000", "\\ud800", "\xFF", "\n",
+    "\"type\":", "\"object\":\"target\"", "\"__QObject*__\"", "\"deleteLater\"", "\"destroyed\"",
+    "key=", "%00", "qrc:", "-", "%6Bey=", ":4711", "\x81\x80\0\0\0\0"sv, "\x7F\xFF\xFF\xFF"};
 
 class Target : public QObject
 {
@@ -151,6 +186,8 @@ void fuzzBytes(const QByteArray &input)
 }
 
 } // namespace
+
+const FuzzSeeds fuzzSeeds = {s_inputs, s_words};
 
 extern "C" int LLVMFuzzerInitialize(int *pCount, char ***pArguments)
 {

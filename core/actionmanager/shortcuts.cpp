@@ -24,7 +24,7 @@ constexpr qint64 s_nMaxFileSize = 16 * 1024 * 1024;
 const QString s_group = QStringLiteral("Shortcuts");
 const QString s_format = QStringLiteral("kelpa-shortcuts");
 
-QString tr(const char *pText)
+QString translated(const char *pText)
 {
     return QCoreApplication::translate("Shortcuts", pText);
 }
@@ -79,7 +79,7 @@ std::optional<QJsonObject> shortcutsIn(const QByteArray &json, QString &strReaso
     if (error.error != QJsonParseError::NoError)
         strReason = error.errorString();
     else if (root.value(QLatin1String("format")) != s_format || !shortcuts.isObject())
-        strReason = tr("The file holds no shortcuts.");
+        strReason = translated(QT_TRANSLATE_NOOP("Shortcuts", "The file holds no shortcuts."));
     else
         return shortcuts.toObject();
     return {};
@@ -92,7 +92,9 @@ std::optional<Texts> checked(const QJsonObject &shortcuts, QString &strReason)
         const QString strText = it.value().toString();
         const bool bReadable = Shortcuts::parse(strText, QKeySequence::PortableText).has_value();
         if (it.key().isEmpty() || !it.value().isString() || !bReadable) {
-            strReason = tr("The shortcut of \"%1\" is no key sequence.").arg(it.key());
+            strReason =
+                translated(QT_TRANSLATE_NOOP("Shortcuts", "The shortcut of \"%1\" is no key sequence."))
+                    .arg(it.key());
             return {};
         }
         texts.insert(it.key(), strText);
@@ -108,7 +110,7 @@ std::optional<Texts> readFile(const QString &strFileName, QString &strReason)
         return {};
     }
     if (file.size() > s_nMaxFileSize) {
-        strReason = tr("The file is too large.");
+        strReason = translated(QT_TRANSLATE_NOOP("Shortcuts", "The file is too large."));
         return {};
     }
     const auto shortcuts = shortcutsIn(file.readAll(), strReason);

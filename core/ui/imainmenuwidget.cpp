@@ -159,7 +159,9 @@ void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
     createButtons();
     m_pTitleText = new TitleText(this);
     m_pTitleText->setGeometry(m_pMenuBar->rect());
-    m_pTitleText->show();
+    // Otherwise it comes up with the menu bar, and is not dressed before.
+    if (m_pMenuBar->isVisible())
+        m_pTitleText->show();
     m_pMenuBar->installEventFilter(this);
     createShortcuts();
     onDPIChanged();
@@ -273,7 +275,9 @@ void IMainMenuWidget::onDPIChanged()
     dressButton("closeButton", tr("Close"), QStringLiteral("close"));
     static_cast<IconLabel *>(m_pIconLabel)
         ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
-    m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
+    // When it is shown, the menu bar does that by itself.
+    if (m_pMenuBar->isVisible())
+        m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
 }
 
 void IMainMenuWidget::showMinimized()
@@ -384,8 +388,13 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
     case QEvent::Resize:
         m_pTitleText->setGeometry(m_pMenuBar->rect());
         return false;
-    case QEvent::FontChange:
     case QEvent::StyleChange:
+        // The bar would measure the buttons, and so dress them in a style that is not the last one yet.
+        if (!m_pMenuBar->testAttribute(Qt::WA_WState_Polished))
+            return true;
+        Q_FALLTHROUGH();
+    case QEvent::Show:
+    case QEvent::FontChange:
         onDPIChanged();
         return false;
     case QEvent::Hide:

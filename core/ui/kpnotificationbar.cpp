@@ -57,6 +57,11 @@ KPNotificationBar::KPNotificationBar(QWidget *pParent)
 
 KPNotificationBar::~KPNotificationBar() = default;
 
+QString KPNotificationBar::text() const
+{
+    return m_pUi->m_pMessageLabel->text();
+}
+
 void KPNotificationBar::show(const QString &text, Type type, const QString &buttonText, bool closable)
 {
     const bool bWarning = type == Warning;

@@ -32,6 +32,9 @@ public:
     /// it. Whoever was connected to buttonClicked() no longer is: connect after this call.
     void show(const QString &text, Type type, const QString &buttonText, bool closable);
 
+    /// The message that was shown last.
+    [[nodiscard]] QString text() const;
+
 signals:
     void buttonClicked();
 

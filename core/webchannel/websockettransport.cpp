@@ -28,14 +28,19 @@ QThreadPool *parsingPool()
 
 } // namespace
 
+// Queued: what is called may run an event loop for a dialog, in which a client that leaves takes its socket
+// along. Neither the socket nor the watcher can do without themselves in their own signals.
 WebSocketTransport::WebSocketTransport(QWebSocket *socket)
     : QWebChannelAbstractTransport(socket)
     , m_socket(socket)
 {
-    connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived);
-    connect(socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected);
+    connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived,
+        Qt::QueuedConnection);
+    connect(
+        socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
+    connect(
+        &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
     connect(socket, &QWebSocket::bytesWritten, this, [this] { m_unread.invalidate(); });
-    connect(&m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed);
 }
 
 WebSocketTransport::~WebSocketTransport()
@@ -57,12 +62,12 @@ void WebSocketTransport::sendMessage(const QJsonObject &message)
 
 void WebSocketTransport::textMessageReceived(const QString &message)
 {
-    if (m_waiting.isEmpty() && message.size() <= ClientPolicy::CharactersParsedAtOnce) {
-        handle(message, parse(message));
-        return;
-    }
     m_waiting.enqueue(message);
-    if (m_waiting.size() == 1)
+    if (m_waiting.size() > 1)
+        setPaused(true);
+    else if (message.size() <= ClientPolicy::CharactersParsedAtOnce)
+        workOff(parse(message));
+    else
         parseWaiting();
 }
 
@@ -81,10 +86,9 @@ void WebSocketTransport::onDisconnected()
         deleteLater();
 }
 
-// The socket pauses, so that what waits here stays little.
 void WebSocketTransport::parseWaiting()
 {
-    ClientLimits::pause(m_socket);
+    setPaused(true);
     auto promise = std::make_shared<QPromise<Parsed>>();
     promise->start();
     m_parsing.setFuture(promise->future());
@@ -94,18 +98,33 @@ void WebSocketTransport::parseWaiting()
     });
 }
 
-// Handling comes last: whoever gets the message may delete this transport or run an event loop.
 void WebSocketTransport::onParsed()
 {
-    const QString strMessage = m_waiting.dequeue();
-    const Parsed parsed = m_parsing.result();
+    workOff(m_parsing.result());
+}
+
+// Whoever gets the message may delete this transport.
+void WebSocketTransport::workOff(const Parsed &parsed)
+{
+    const QPointer<WebSocketTransport> pThis(this);
+    handle(QString(m_waiting.constFirst()), parsed);
+    if (!pThis)
+        return;
+    m_waiting.dequeue();
     if (!m_waiting.isEmpty())
         parseWaiting();
     else if (m_bClientGone)
         deleteLater();
     else
-        ClientLimits::resume(m_socket);
-    handle(strMessage, parsed);
+        setPaused(false);
+}
+
+// So that what waits here stays little.
+void WebSocketTransport::setPaused(bool bPaused)
+{
+    if (bPaused != m_bPaused)
+        bPaused ? ClientLimits::pause(m_socket) : ClientLimits::resume(m_socket);
+    m_bPaused = bPaused;
 }
 
 void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)

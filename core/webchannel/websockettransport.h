@@ -13,8 +13,8 @@ class QWebSocket;
 
 /// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
 /// socket with it when it is deleted; both go when the client has disconnected and its messages are handled.
-/// GUI thread only; a message of more than a million characters is parsed beside it, and until it is the
-/// client waits.
+/// GUI thread only; a message of more than a million characters is parsed beside it. A client's next message
+/// waits until the one before is worked off, also while that shows a dialog.
 class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
 {
     Q_OBJECT
@@ -43,12 +43,15 @@ private:
     void handle(const QString &strMessage, const Parsed &parsed);
     void parseWaiting();
     void onParsed();
+    void workOff(const Parsed &parsed);
+    void setPaused(bool bPaused);
     void onDisconnected();
     [[nodiscard]] bool mayWarn();
     void reportUnlogged();
 
     QWebSocket *m_socket;
-    QQueue<QString> m_waiting; ///< the first one is being parsed
+    QQueue<QString> m_waiting; ///< the first one is being worked off
+    bool m_bPaused = false;
     QFutureWatcher<Parsed> m_parsing;
     QElapsedTimer m_unread; ///< since the client has left too much unread and taken in nothing
     QElapsedTimer m_warningPeriod;

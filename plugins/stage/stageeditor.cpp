@@ -6,6 +6,7 @@
 #include "stagesubwindow.h"
 #include "stageview.h"
 
+#include <displayscale.h>
 #include <document/documentmanager.h>
 #include <document/editormanager.h>
 #include <icore.h>
@@ -99,7 +100,9 @@ QWidget *StageEditor::createContent(StageDocument *pDocument)
     connect(pDocument->getModel(), &StageModel::reset, this, &StageEditor::fillScenes);
 
     auto *pBar = new QHBoxLayout;
-    pBar->setContentsMargins(6, 3, 6, 3);
+    const int nSpace = DisplayScale::proportional(DisplayScale::logicalDpi(pContent), 6);
+    pBar->setContentsMargins(nSpace, nSpace / 2, nSpace, nSpace / 2);
+    pBar->setSpacing(nSpace);
     pBar->addWidget(pLabel);
     pBar->addWidget(m_pScenes);
     pBar->addStretch();

@@ -109,6 +109,8 @@ void StageItem::paintText(QPainter *pPainter) const
     font.setBold(m_element.bold);
     pPainter->setFont(font);
     pPainter->setPen(m_element.fill.isValid() ? m_element.fill : QColor(Qt::black));
+    // What lies on the stage does not turn round with the window.
+    pPainter->setLayoutDirection(Qt::LeftToRight);
     pPainter->drawText(rect(), Qt::TextWordWrap | alignment(m_element.align), m_element.text);
 }
 

@@ -15,7 +15,7 @@ MODULES = {
 }
 
 # The layers inside the core, lowest first; files in its own folder are shared helpers unless named here.
-CORE_FOLDERS = {"actionmanager": 1, "document": 1, "webchannel": 1, "appearance": 1, "ui": 2, "updater": 2}
+CORE_FOLDERS = {"actionmanager": 1, "document": 1, "webchannel": 1, "appearance": 1, "ui": 2, "updater": 2, "webview": 2}
 CORE_FILES = {"mainwindow": 3, "coreplugin": 4}
 LAYER_NAMES = ["shared helpers", "managers", "ui and updater", "main window", "plug-in entry"]
 

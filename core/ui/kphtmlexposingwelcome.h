@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QVariantMap>
+
+class IMainMdiArea;
+
+/// What the welcome page can reach of the program, "kpwelcome" on the web channel: the slots here and nothing
+/// else. docs/security.md tells who may call them; add none that they must not. Child of the area it is made
+/// for, to which it hands on what is not answered here. GUI thread only.
+class CORE_EXPORT KPHTMLExposingWelcome : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(KPHTMLExposingWelcome)
+
+public:
+    explicit KPHTMLExposingWelcome(IMainMdiArea *pMdiArea);
+    ~KPHTMLExposingWelcome() override;
+
+signals:
+    /// The page shall fetch the list of recent projects again.
+    void resetRecentFiles();
+
+public slots:
+    /// As the area's slots of the same names.
+    void showInExplorer(const QString &strFileName);
+    void removeFile(const QString &strFile);
+    static QStringList getRecentFileList();
+    static void callbackTunnelAsync(const QString &cmd);
+    static QString callbackAsyncfromJS(const QString &cmd, const QString &str);
+    void openURL(const QString &strURL);
+    void openFile(const QString &strFile);
+
+    /// Addresses of the product's pages by name: "homepage", "community", "demo", "youtube", "facebook".
+    static QVariantMap getResourceUrls();
+
+private:
+    QPointer<IMainMdiArea> m_pMdiArea;
+};

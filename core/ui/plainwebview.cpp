@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "ui/plainwebview_p.h"
+
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Pictures and style sheets that a text names are neither read from files nor fetched.
+class ClosedBrowser : public QTextBrowser
+{
+public:
+    using QTextBrowser::QTextBrowser;
+    QVariant loadResource(int nType, const QUrl &url) override
+    {
+        Q_UNUSED(nType)
+        Q_UNUSED(url)
+        return {};
+    }
+};
+
+} // namespace
+
+PlainWebView::PlainWebView(QWidget *pParent)
+    : WebView(pParent)
+    , m_pBrowser(new ClosedBrowser(this))
+{
+    auto *pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pBrowser);
+    m_pBrowser->setOpenLinks(false);
+    setFocusProxy(m_pBrowser);
+    connect(m_pBrowser, &QTextBrowser::anchorClicked, this, [](const QUrl &url) { openOutside(url); });
+}
+
+void PlainWebView::load(const QUrl &url)
+{
+    Q_UNUSED(url)
+    m_pBrowser->clear();
+    finishLater(false);
+}
+
+void PlainWebView::setHtml(const QString &strHtml)
+{
+    m_pBrowser->setHtml(strHtml);
+    finishLater(true);
+}
+
+// The program's fonts already follow the display scale.
+void PlainWebView::setZoomFactor(double fFactor)
+{
+    Q_UNUSED(fFactor)
+}
+
+// No script runs here.
+void PlainWebView::setPageData(const QJsonObject &pageData)
+{
+    Q_UNUSED(pageData)
+}
+
+void PlainWebView::setBackground(const QColor &color)
+{
+    QPalette palette = m_pBrowser->palette();
+    palette.setColor(QPalette::Base, color);
+    m_pBrowser->setPalette(palette);
+}
+
+// Like the engine: the signal comes from the event loop.
+void PlainWebView::finishLater(bool bOk)
+{
+    QMetaObject::invokeMethod(
+        this, [this, bOk] { emit loadFinished(bOk); }, Qt::QueuedConnection);
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ui/webview.h>
+
+class QTextBrowser;
+
+/// The view without a browser engine: shows the HTML it is given, and fetches nothing.
+class PlainWebView : public WebView
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PlainWebView)
+
+public:
+    explicit PlainWebView(QWidget *pParent);
+
+    void load(const QUrl &url) override;
+    void setHtml(const QString &strHtml) override;
+    void setZoomFactor(double fFactor) override;
+    void setPageData(const QJsonObject &pageData) override;
+    void setBackground(const QColor &color) override;
+
+private:
+    void finishLater(bool bOk);
+
+    QTextBrowser *m_pBrowser;
+};

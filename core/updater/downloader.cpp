@@ -1,0 +1,457 @@
+// SPDX-License-Identifier: MIT
+#include "updater/downloader.h"
+
+#include "displayscale.h"
+#include "icore.h"
+#include "iui.h"
+#include "mainwindow.h"
+#include "ui_downloader.h"
+#include "updater/updatetexts.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLoggingCategory>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QThread>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
+
+constexpr int s_nTimeoutMs = 30000;
+constexpr qint64 s_nReadBuffer = 1024 * 1024;
+
+QString inQuotes(const QString &strPath)
+{
+    return QLatin1Char('"') + QDir::toNativeSeparators(strPath) + QLatin1Char('"');
+}
+
+// A full disk may take a beginning first; only the next attempt names the reason.
+bool writeAll(QFile *pFile, const QByteArray &content)
+{
+    qint64 nDone = 0;
+    while (nDone < content.size()) {
+        const qint64 nWritten = pFile->write(content.constData() + nDone, content.size() - nDone);
+        if (nWritten <= 0)
+            return false;
+        nDone += nWritten;
+    }
+    return true;
+}
+
+} // namespace
+
+Downloader::Downloader(QWidget *pParent)
+    : QWidget(pParent)
+    , m_pUi(new Ui::Downloader)
+    , m_pManager(new QNetworkAccessManager(this))
+{
+    m_pUi->setupUi(this);
+    setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
+    // The program ends with its main window, also while something is downloaded.
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowIcon(IUi::getIcon());
+    m_pManager->setTransferTimeout(s_nTimeoutMs);
+    connect(m_pUi->stopButton, &QPushButton::clicked, this, &Downloader::cancelDownload);
+    connect(m_pUi->openButton, &QPushButton::clicked, this, &Downloader::installUpdate);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+Downloader::~Downloader()
+{
+    releaseReply();
+    const auto threads = findChildren<QThread *>();
+    for (QThread *pThread : threads)
+        pThread->wait();
+}
+
+QString Downloader::downloadFolder()
+{
+    return QDir::homePath() + QStringLiteral("/Downloads/");
+}
+
+QString Downloader::partPath() const
+{
+    return filePath() + QStringLiteral(".part");
+}
+
+void Downloader::setUrlId(const QString &url)
+{
+    m_strUrlId = url;
+}
+
+void Downloader::setFileName(const QString &file)
+{
+    m_strFileName = UpdateTexts::safeFileName(file);
+}
+
+void Downloader::setUserAgentString(const QString &agent)
+{
+    m_strUserAgentString = agent;
+}
+
+void Downloader::setUseCustomInstallProcedures(bool custom)
+{
+    m_bUseCustomInstallProcedures = custom;
+}
+
+void Downloader::startDownload(const QUrl &url)
+{
+    m_nRedirects = 0;
+    begin(url);
+}
+
+// Also after a redirect: everything starts again.
+void Downloader::begin(const QUrl &url)
+{
+    releaseReply();
+    forgetCheck();
+    m_url = url;
+    m_nWritten = 0;
+    m_bCanceled = false;
+    resetTexts();
+    if (m_strFileName.isEmpty())
+        setFileName(QString());
+    if (!UpdateTexts::isWebUrl(url))
+        return refuse(
+            tr("Cannot download update: %1.").arg(tr("\"%1\" is no address of the web").arg(url.toString())));
+    if (const QString strObjection = m_check.objection(); !strObjection.isEmpty())
+        return refuse(tr("The update is not installed: %1.").arg(strObjection));
+    if (const QString strReason = prepareFolder(); !strReason.isEmpty())
+        return refuse(strReason);
+    request(url);
+    showNormal();
+}
+
+void Downloader::resetTexts()
+{
+    const int nDPI = DisplayScale::logicalDpi(this);
+    const int nIcon = DisplayScale::proportional(nDPI, 32);
+    m_pUi->updater_icon->setPixmap(IUi::getPixmap(QStringLiteral("update"), 0, false)
+                                       .scaled(nIcon, nIcon, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    m_pUi->progressFrame->setMinimumWidth(DisplayScale::proportional(nDPI, 400));
+    m_pUi->progressBar->setRange(0, 100);
+    m_pUi->progressBar->setValue(0);
+    m_pUi->openButton->setEnabled(false);
+    m_pUi->stopButton->setText(tr("Stop"));
+    m_pUi->downloadLabel->setText(tr("Downloading Updates"));
+    m_pUi->timeLabel->setText(tr("Time Remaining") + QStringLiteral(": ") + tr("Unknown"));
+}
+
+// Makes room for the two files and finds out whether one can be written. The result says why not.
+QString Downloader::prepareFolder() const
+{
+    if (!QDir().mkpath(downloadFolder()))
+        return tr("Cannot download update: the folder %1 cannot be made.").arg(inQuotes(downloadFolder()));
+    for (const QString &strPath : {filePath(), partPath()}) {
+        QFile file(strPath);
+        if ((file.exists() || QFileInfo(strPath).isSymLink()) && !file.remove())
+            return tr("Cannot replace %1: %2.").arg(inQuotes(strPath), file.errorString());
+    }
+    QFile part(partPath());
+    if (!part.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return tr("Cannot write %1: %2.").arg(inQuotes(partPath()), part.errorString());
+    return {};
+}
+
+// Compressed transfers are declined: their sizes are not those of the file.
+void Downloader::request(const QUrl &url)
+{
+    QNetworkRequest request(url);
+    request.setAttribute(
+        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+    request.setRawHeader("Accept-Encoding", "identity");
+    if (!m_strUserAgentString.isEmpty())
+        request.setRawHeader("User-Agent", m_strUserAgentString.toUtf8());
+    m_nStartTime = QDateTime::currentSecsSinceEpoch();
+    m_pReply = m_pManager->get(request);
+    m_pReply->setReadBufferSize(s_nReadBuffer);
+    connect(m_pReply, &QNetworkReply::downloadProgress, this, &Downloader::updateProgress);
+    connect(m_pReply, &QNetworkReply::readyRead, this, &Downloader::onReadyRead);
+    connect(m_pReply, &QNetworkReply::redirected, this, &Downloader::onRedirected);
+    connect(m_pReply, &QNetworkReply::errorOccurred, this, &Downloader::onError);
+    connect(m_pReply, &QNetworkReply::finished, this, &Downloader::onFinished);
+}
+
+void Downloader::onRedirected(const QUrl &url)
+{
+    const QUrl target = m_url.resolved(url);
+    const QString strObjection = UpdateTexts::redirectObjection(m_url, target, m_nRedirects);
+    if (!strObjection.isEmpty()) {
+        qCWarning(
+            lcUpdater, "Download of %s: %s", qUtf8Printable(m_url.toString()), qUtf8Printable(strObjection));
+        return fail(tr("Cannot download update: %1.").arg(strObjection));
+    }
+    ++m_nRedirects;
+    begin(target);
+}
+
+// Nothing of this reply reaches us any more. It may be the one whose signal is being handled.
+void Downloader::releaseReply()
+{
+    if (!m_pReply)
+        return;
+    m_pReply->disconnect(this);
+    if (!m_pReply->isFinished() && m_pReply->error() == QNetworkReply::NoError)
+        m_pReply->abort();
+    m_pReply->deleteLater();
+    m_pReply.clear();
+}
+
+void Downloader::updateProgress(qint64 received, qint64 total)
+{
+    if (total < 1) {
+        m_pUi->progressBar->setRange(0, 0);
+        m_pUi->progressBar->setValue(-1);
+        m_pUi->downloadLabel->setText(tr("Downloading Updates") + QStringLiteral("..."));
+        m_pUi->timeLabel->setText(QStringLiteral("%1: %2").arg(tr("Time Remaining"), tr("Unknown")));
+        return;
+    }
+    m_pUi->progressBar->setRange(0, 100);
+    m_pUi->progressBar->setValue(static_cast<int>(received * 100 / total));
+    calculateSizes(received, total);
+    calculateTimeRemaining(received, total);
+    saveFile(received, total);
+}
+
+void Downloader::calculateSizes(qint64 received, qint64 total)
+{
+    m_pUi->downloadLabel->setText(tr("Downloading Updates") + QStringLiteral(" (")
+        + UpdateTexts::size(received) + QLatin1Char(' ') + tr("of") + QLatin1Char(' ')
+        + UpdateTexts::size(total) + QLatin1Char(')'));
+}
+
+void Downloader::calculateTimeRemaining(qint64 received, qint64 total)
+{
+    const qint64 nElapsed = QDateTime::currentSecsSinceEpoch() - m_nStartTime;
+    const double fSeconds = UpdateTexts::estimatedSeconds(received, total, nElapsed);
+    if (fSeconds >= 0)
+        m_pUi->timeLabel->setText(
+            tr("Time Remaining") + QStringLiteral(": ") + UpdateTexts::duration(fSeconds));
+}
+
+void Downloader::saveFile(qint64 received, qint64 total)
+{
+    if (!m_pReply)
+        return;
+    const QUrl target = m_pReply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (target.isValid())
+        return onRedirected(target);
+    if (takeData() && received >= total && total >= 1 && m_nWritten >= total)
+        complete();
+}
+
+void Downloader::onReadyRead()
+{
+    (void)takeData();
+}
+
+// Appends what has arrived to the partial file. The page of an error is not part of the installer. False
+// means that the download has ended, for lack of a good answer or with a message.
+bool Downloader::takeData()
+{
+    if (m_pReply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != 200)
+        return false;
+    const QByteArray arrived = m_pReply->readAll();
+    if (arrived.isEmpty())
+        return true;
+    QFile file(partPath());
+    const bool bOpen = file.open(QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
+    if (bOpen && file.size() != m_nWritten) {
+        fail(tr("Cannot write %1: another program has changed it.").arg(inQuotes(partPath())));
+        return false;
+    }
+    if (!bOpen || !writeAll(&file, arrived)) {
+        fail(tr("Cannot write %1: %2.").arg(inQuotes(partPath()), file.errorString()));
+        return false;
+    }
+    m_nWritten += arrived.size();
+    return true;
+}
+
+// A reply ends here only when its last progress did not complete the download, or when it failed.
+void Downloader::onFinished()
+{
+    if (m_pReply->error() != QNetworkReply::NoError)
+        return onError();
+    const int nStatus = m_pReply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const QVariant length = m_pReply->header(QNetworkRequest::ContentLengthHeader);
+    if (!takeData()) {
+        if (m_pReply)
+            fail(
+                tr("Cannot download update: %1.").arg(tr("the server answered with status %1").arg(nStatus)));
+        return;
+    }
+    if (length.isValid() && length.toLongLong() != m_nWritten)
+        return fail(tr("Cannot download update: %1.").arg(tr("%1 is incomplete").arg(inQuotes(filePath()))));
+    complete();
+}
+
+void Downloader::complete()
+{
+    releaseReply();
+    if (m_nWritten == 0)
+        return fail(tr("Cannot download update: %1.").arg(tr("%1 is empty").arg(inQuotes(filePath()))));
+    checkThen(partPath(), &Downloader::finish);
+}
+
+void Downloader::finish()
+{
+    QFile part(partPath());
+    if (part.size() != m_nWritten)
+        return fail(tr("Cannot write %1: another program has changed it.").arg(inQuotes(partPath())));
+    if (!part.rename(filePath()))
+        return fail(tr("Cannot rename %1 to %2: %3.")
+                        .arg(inQuotes(partPath()), inQuotes(filePath()), part.errorString()));
+    emit downloadFinished(m_strUrlId, filePath());
+    // The box shall not run inside a signal of the network.
+    QMetaObject::invokeMethod(this, &Downloader::installUpdate, Qt::QueuedConnection);
+}
+
+// A large installer takes its time, so another thread reads it. What fails is deleted.
+void Downloader::checkThen(const QString &strFileName, Continuation next)
+{
+    if (!m_check.isNeeded())
+        return (this->*next)();
+    m_pUi->timeLabel->setText(tr("Checking the signature") + QStringLiteral("..."));
+    const auto pReason = std::make_shared<QString>();
+    QThread *pThread =
+        QThread::create([check = m_check, strFileName, pReason] { *pReason = check.check(strFileName); });
+    pThread->setParent(this);
+    forgetCheck();
+    connect(
+        pThread, &QThread::finished, this, [this, pThread, nCheck = m_nCheck, strFileName, pReason, next] {
+            pThread->deleteLater();
+            if (m_nCheck != nCheck)
+                return;
+            if (pReason->isEmpty())
+                return (this->*next)();
+            QFile::remove(strFileName);
+            fail(tr("The update is not installed: %1.")
+                     .arg(tr("%1 was deleted, because %2").arg(inQuotes(filePath()), *pReason)));
+        });
+    pThread->start();
+}
+
+void Downloader::installUpdate()
+{
+    if (m_bUseCustomInstallProcedures)
+        return;
+    m_pUi->stopButton->setText(tr("Close"));
+    m_pUi->downloadLabel->setText(tr("Download complete!"));
+    m_pUi->timeLabel->setText(tr("The installer will open separately") + QStringLiteral("..."));
+    QMessageBox box(ICore::getMainWindow());
+    box.setTextFormat(Qt::RichText);
+    box.setText(QStringLiteral("<h3>")
+        + tr("In order to install the update, you need to quit the application.") + QStringLiteral("</h3>"));
+    box.setInformativeText(tr("Click OK to begin installing the update."));
+    box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+    const QPointer<Downloader> pThis = this;
+    const auto answer = IUi::run(&box, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"));
+    if (!pThis)
+        return;
+    if (answer == QMessageBox::Ok)
+        return openDownload();
+    m_pUi->openButton->setEnabled(true);
+    m_pUi->timeLabel->setText(tr("Click Open to apply the update."));
+}
+
+// The file may have waited long for this, so it is checked once more.
+void Downloader::openDownload()
+{
+    if (!m_strFileName.isEmpty() && QFile::exists(filePath()))
+        return checkThen(filePath(), &Downloader::runInstaller);
+    QMessageBox box(ICore::getMainWindow());
+    box.setText(tr("Cannot find downloaded update!"));
+    box.setStandardButtons(QMessageBox::Close);
+    IUi::run(&box, QStringLiteral("critical_32"), QStringLiteral("Kelpa Studio"));
+}
+
+void Downloader::runInstaller()
+{
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(filePath())))
+        return QCoreApplication::quit();
+    m_pUi->openButton->setEnabled(true);
+    m_pUi->timeLabel->setText(tr("Click Open to apply the update."));
+    IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
+        tr("%1 could not be opened.").arg(inQuotes(filePath())));
+}
+
+void Downloader::cancelDownload()
+{
+    if (!m_pReply || m_pReply->isFinished()) {
+        forgetCheck();
+        hide();
+        return;
+    }
+    const QPointer<QNetworkReply> pReply = m_pReply;
+    const auto answer = IUi::question(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
+        tr("Are you sure you want to cancel the download?"));
+    if (answer != QMessageBox::Yes || !pReply)
+        return;
+    // It may have ended while the question stood there.
+    if (pReply != m_pReply || pReply->isFinished())
+        return;
+    hide();
+    m_bCanceled = true;
+    pReply->abort();
+}
+
+// A transfer that took too long is cancelled too, though not by the user.
+void Downloader::onError()
+{
+    QNetworkReply::NetworkError code = m_pReply->error();
+    if (code == QNetworkReply::NoError)
+        return;
+    if (code == QNetworkReply::OperationCanceledError && !m_bCanceled)
+        code = QNetworkReply::TimeoutError;
+    qCInfo(lcUpdater).noquote().nospace()
+        << "Error downloading update: " << m_url.toString() << ". Error code: " << static_cast<int>(code);
+    if (code != QNetworkReply::OperationCanceledError)
+        return fail(tr("Cannot download update: %1.").arg(static_cast<int>(code)));
+    releaseReply();
+    close();
+}
+
+// The end of a download that failed, with its one message.
+void Downloader::fail(const QString &strReason)
+{
+    releaseReply();
+    refuse(strReason);
+}
+
+// The box shall not run inside a signal of the network.
+void Downloader::refuse(const QString &strReason)
+{
+    close();
+    const auto tell = [strReason] {
+        IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strReason);
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+// The close button asks as Stop does.
+void Downloader::closeEvent(QCloseEvent *pEvent)
+{
+    const bool bUnderWay = m_pReply && !m_pReply->isFinished();
+    if (bUnderWay)
+        cancelDownload();
+    pEvent->setAccepted(!bUnderWay || !isVisible());
+    if (!bUnderWay)
+        forgetCheck();
+}
+
+void Downloader::keyPressEvent(QKeyEvent *pEvent)
+{
+    if (pEvent->matches(QKeySequence::Cancel))
+        close();
+    else
+        QWidget::keyPressEvent(pEvent);
+}

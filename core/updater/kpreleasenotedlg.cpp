@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "updater/kpreleasenotedlg.h"
+
+#include "displayscale.h"
+#include "iui.h"
+#include "ui/webviewloader.h"
+#include "ui_kpreleasenotedlg.h"
+
+#include <QTimer>
+
+namespace {
+
+constexpr int s_nTimeoutMs = 30000;
+
+bool isWebAddress(const QString &strText)
+{
+    return strText.startsWith(QLatin1String("http://"), Qt::CaseInsensitive)
+        || strText.startsWith(QLatin1String("https://"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+KPReleaseNoteDlg::KPReleaseNoteDlg(QWidget *pParent)
+    : QDialog(pParent)
+    , m_pUi(new Ui::KPReleaseNoteUI)
+    , m_pDeadline(new QTimer(this))
+{
+    m_pUi->setupUi(this);
+    setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
+    setWindowIcon(IUi::getIcon());
+    const int nDPI = DisplayScale::logicalDpi(this);
+    setMinimumSize(DisplayScale::proportional(nDPI, 480), DisplayScale::proportional(nDPI, 360));
+    resize(DisplayScale::proportional(nDPI, 640), DisplayScale::proportional(nDPI, 520));
+    connect(m_pUi->m_pBtnUpdate, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_pUi->m_pBtnClose, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_pUi->m_pBtnSkip, &QPushButton::clicked, this, [this] { done(SkipVersion); });
+    connect(m_pUi->m_pBtnLater, &QPushButton::clicked, this, [this] { done(RemindLater); });
+    m_pDeadline->setSingleShot(true);
+    m_pDeadline->setInterval(s_nTimeoutMs);
+    connect(m_pDeadline, &QTimer::timeout, this, [this] { onLoadFinished(false); });
+}
+
+KPReleaseNoteDlg::~KPReleaseNoteDlg() = default;
+
+void KPReleaseNoteDlg::setHeading(const QString &strHeading)
+{
+    m_pUi->m_pHeadingLabel->setText(strHeading);
+}
+
+void KPReleaseNoteDlg::setReleaseNotes(const QString &strNotes)
+{
+    if (!m_pView) {
+        m_pView = WebViewLoader::createView(WebAccess::Web, m_pUi->m_pWebViewRL);
+        connect(m_pView, &WebView::loadFinished, this, &KPReleaseNoteDlg::onLoadFinished);
+    }
+    m_bLoading = isWebAddress(strNotes);
+    if (!m_bLoading)
+        return m_pView->setHtml(strNotes);
+    m_pUi->m_pBtnUpdate->setEnabled(false);
+    m_pDeadline->start();
+    m_pView->setZoomFactor(DisplayScale::logicalDpi(this) / 96.0);
+    m_pView->load(QUrl(strNotes));
+}
+
+// Only the first end counts: the page in place of a failed one finishes too, and so does a link that leads
+// outside.
+void KPReleaseNoteDlg::onLoadFinished(bool bOk)
+{
+    if (!m_bLoading)
+        return;
+    m_pDeadline->stop();
+    m_bLoading = false;
+    if (bOk)
+        m_pUi->m_pBtnUpdate->setEnabled(true);
+    else
+        m_pView->setHtml(tr("<h2>Failed to load release notes.</h2>"));
+}

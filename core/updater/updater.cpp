@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: MIT
+#include "updater/updater.h"
+
+#include "icore.h"
+#include "iui.h"
+#include "mainwindow.h"
+#include "updater/downloader.h"
+#include "updater/kpreleasenotedlg.h"
+#include "updater/updatetexts.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QLoggingCategory>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QPointer>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
+
+constexpr int s_nTimeoutMs = 30000;
+constexpr auto s_hops = QNetworkRequest::User; ///< redirects that led to a request
+constexpr char s_pReason[] = "reason"; ///< why a reply was aborted
+
+// Only what the configuration or a person names may be fetched by other means than the web's.
+bool openInBrowser(const QString &strUrl)
+{
+    const QUrl url(strUrl);
+    if (UpdateTexts::isWebUrl(url))
+        return QDesktopServices::openUrl(url);
+    qCWarning(lcUpdater, "Not opened, since it is no address of the web: %s", qUtf8Printable(strUrl));
+    return false;
+}
+
+QString shown(const QString &strUrl)
+{
+    return QUrl(strUrl).toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery);
+}
+
+} // namespace
+
+Updater::Updater(QObject *pParent)
+    : QObject(pParent)
+    , m_strModuleName(QCoreApplication::applicationName())
+    , m_strModuleVersion(QCoreApplication::applicationVersion())
+    , m_pDownloader(new Downloader)
+    , m_pManager(new QNetworkAccessManager(this))
+{
+    m_pManager->setTransferTimeout(s_nTimeoutMs);
+    connect(m_pDownloader, &Downloader::downloadFinished, this, &Updater::downloadFinished);
+    connect(m_pManager, &QNetworkAccessManager::finished, this, &Updater::onReply);
+    setUserAgentString(QStringLiteral("%1/%2 (Updater)")
+                           .arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion()));
+}
+
+Updater::~Updater()
+{
+    m_pManager->disconnect(this);
+    delete m_pDownloader;
+}
+
+bool Updater::useCustomInstallProcedures() const
+{
+    return m_pDownloader->useCustomInstallProcedures();
+}
+
+void Updater::setUrl(const QString &url)
+{
+    m_strUrl = url;
+}
+
+void Updater::setModuleName(const QString &name)
+{
+    m_strModuleName = name;
+}
+
+void Updater::setNotifyOnUpdate(bool notify)
+{
+    m_bNotifyOnUpdate = notify;
+}
+
+void Updater::setNotifyOnFinish(bool notify)
+{
+    m_bNotifyOnFinish = notify;
+}
+
+void Updater::setUserAgentString(const QString &agent)
+{
+    m_strUserAgentString = agent;
+    m_pDownloader->setUserAgentString(agent);
+}
+
+void Updater::setModuleVersion(const QString &version)
+{
+    m_strModuleVersion = version;
+}
+
+void Updater::setDownloaderEnabled(bool enabled)
+{
+    m_bDownloaderEnabled = enabled;
+}
+
+void Updater::setPlatformKey(const QString &platformKey)
+{
+    m_strPlatformKey = platformKey;
+}
+
+void Updater::setUseCustomAppcast(bool customAppcast)
+{
+    m_bCustomAppcast = customAppcast;
+}
+
+void Updater::setUseCustomInstallProcedures(bool custom)
+{
+    m_pDownloader->setUseCustomInstallProcedures(custom);
+}
+
+void Updater::checkForUpdates(bool bSilentIfNoUpdate)
+{
+    m_bSilentIfNoUpdate = bSilentIfNoUpdate;
+    get(QUrl(m_strUrl), 0);
+}
+
+void Updater::abort()
+{
+    const auto replies = m_pManager->findChildren<QNetworkReply *>();
+    for (QNetworkReply *pReply : replies) {
+        pReply->setProperty(s_pReason, tr("it was given up"));
+        pReply->abort();
+    }
+}
+
+// A feed that is too large is not even received, unless somebody else reads it.
+void Updater::get(const QUrl &url, int nRedirects)
+{
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    request.setAttribute(s_hops, nRedirects);
+    if (!m_strUserAgentString.isEmpty())
+        request.setRawHeader("User-Agent", m_strUserAgentString.toUtf8());
+    QNetworkReply *pReply = m_pManager->get(request);
+    connect(pReply, &QNetworkReply::readyRead, this, [this, pReply] {
+        if (m_bCustomAppcast || pReply->bytesAvailable() <= Appcast::LargestSize)
+            return;
+        pReply->setProperty(s_pReason, tr("the answer is larger than %1 bytes").arg(Appcast::LargestSize));
+        pReply->abort();
+    });
+}
+
+void Updater::onReply(QNetworkReply *reply)
+{
+    reply->deleteLater();
+    if (follow(reply))
+        return;
+    if (reply->error() != QNetworkReply::NoError)
+        return failToReach(reply);
+    const QByteArray data = reply->readAll();
+    if (!m_bCustomAppcast)
+        return readAppcast(data);
+    m_strLastError.clear();
+    emit appcastDownloaded(m_strUrl, data);
+    emit checkingFinished(m_strUrl);
+}
+
+// True when the reply was a redirect, which either is followed or ends the check.
+bool Updater::follow(const QNetworkReply *pReply)
+{
+    const QUrl target = pReply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (target.isEmpty() || pReply->error() == QNetworkReply::OperationCanceledError)
+        return false;
+    const QUrl url = pReply->url().resolved(target);
+    const int nFollowed = pReply->request().attribute(s_hops).toInt();
+    const QString strObjection = UpdateTexts::redirectObjection(pReply->url(), url, nFollowed);
+    if (strObjection.isEmpty()) {
+        m_strUrl = url.toString();
+        get(url, nFollowed + 1);
+        return true;
+    }
+    qCWarning(lcUpdater, "%s: %s", qUtf8Printable(m_strUrl), qUtf8Printable(strObjection));
+    endWithout(tr("Cannot reach %1: %2.").arg(shown(m_strUrl), strObjection));
+    return true;
+}
+
+void Updater::failToReach(const QNetworkReply *pReply)
+{
+    QString strReason = pReply->property(s_pReason).toString();
+    if (strReason.isEmpty())
+        strReason = pReply->error() == QNetworkReply::OperationCanceledError
+            ? tr("no answer within %1 seconds").arg(m_pManager->transferTimeout() / 1000.0)
+            : pReply->errorString();
+    endWithout(tr("Cannot reach %1: %2.").arg(shown(m_strUrl), strReason));
+}
+
+// The error is there for whoever asks; the check itself counts as one that found nothing.
+void Updater::endWithout(const QString &strError)
+{
+    m_strLastError = strError;
+    qCInfo(lcUpdater, "%s", qUtf8Printable(strError));
+    setUpdateAvailable(false);
+    emit checkingFinished(m_strUrl);
+}
+
+void Updater::readAppcast(const QByteArray &data)
+{
+    m_appcast = Appcast::parse(data, m_strPlatformKey);
+    if (!m_appcast.strFault.isEmpty())
+        return endWithout(tr("%1 is not a valid feed: %2.").arg(shown(m_strUrl), m_appcast.strFault));
+    m_strLastError.clear();
+    setUpdateAvailable(UpdateTexts::isNewer(m_appcast.strLatestVersion, m_strModuleVersion));
+    emit checkingFinished(m_strUrl);
+}
+
+void Updater::setUpdateAvailable(bool available)
+{
+    m_bUpdateAvailable = available;
+    if (available)
+        qCInfo(lcUpdater, "New version: %s", qUtf8Printable(m_appcast.strLatestVersion));
+    else
+        qCInfo(lcUpdater, "No updates available.");
+    if (available && (m_bNotifyOnUpdate || m_bNotifyOnFinish))
+        offer();
+    else if (!available && m_bNotifyOnFinish && !m_bSilentIfNoUpdate)
+        congratulate();
+}
+
+// While the dialog is open another check may end, and the program may. What the user sees is what counts.
+void Updater::offer()
+{
+    if (m_bOffering)
+        return;
+    const Appcast offered = m_appcast;
+    const QPointer<Updater> pThis = this;
+    const QPointer<KPReleaseNoteDlg> pDialog = new KPReleaseNoteDlg(ICore::getMainWindow());
+    pDialog->setHeading(tr("<b>%1 %2 has been released!</b>")
+                            .arg(m_strModuleName.toHtmlEscaped(), offered.strLatestVersion.toHtmlEscaped()));
+    pDialog->setReleaseNotes(offered.strChangelog);
+    m_bOffering = true;
+    const int nResult = pDialog->exec();
+    delete pDialog;
+    if (!pThis)
+        return;
+    m_bOffering = false;
+    if (nResult == QDialog::Accepted)
+        accept(offered);
+    else if (nResult != QDialog::Rejected)
+        emit offerPutOff(offered.strLatestVersion, nResult == KPReleaseNoteDlg::SkipVersion);
+}
+
+void Updater::accept(const Appcast &appcast)
+{
+    const QString strPage = appcast.strOpenUrl.isEmpty() ? appcast.strDownloadUrl : appcast.strOpenUrl;
+    if (!appcast.strOpenUrl.isEmpty() || !m_bDownloaderEnabled) {
+        openInBrowser(strPage);
+        return;
+    }
+    const QUrl url(appcast.strDownloadUrl);
+    if (!UpdateTexts::isWebUrl(url))
+        qCWarning(lcUpdater, "Not fetched, since it is no address of the web: %s",
+            qUtf8Printable(appcast.strDownloadUrl));
+    m_pDownloader->setUrlId(m_strUrl);
+    m_pDownloader->setFileName(appcast.strDownloadUrl.section(QLatin1Char('/'), -1));
+    m_pDownloader->setInstallerCheck(
+        {InstallerCheck::configuredKey(), appcast.strSha256, appcast.strSignature});
+    m_pDownloader->startDownload(url);
+}
+
+void Updater::congratulate()
+{
+    QMessageBox box(ICore::getMainWindow());
+    box.setTextFormat(Qt::RichText);
+    box.setText(QStringLiteral("<h3>")
+        + tr("Congratulations! You are running the latest version of %1").arg(m_strModuleName.toHtmlEscaped())
+        + QStringLiteral("</h3>"));
+    box.setInformativeText(tr("No updates are available at the moment."));
+    box.setStandardButtons(QMessageBox::Close);
+    IUi::run(&box, QStringLiteral("information_32"), QStringLiteral("Kelpa Studio"));
+}

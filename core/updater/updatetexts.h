@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <core_global.h>
+
+#include <QString>
+#include <QUrl>
+
+/// Decisions and texts of the updater over plain values. Any thread, except those that translate: GUI thread.
+namespace UpdateTexts {
+
+/// Whether dotted version `strX` is newer than `strY`. Parts compare as numbers, one that is no number as 0;
+/// when all shared parts are equal, the version with more parts is the newer one.
+[[nodiscard]] CORE_EXPORT bool isNewer(const QString &strX, const QString &strY);
+
+/// Whole bytes, KB or MB of 1024, truncated.
+[[nodiscard]] CORE_EXPORT QString size(qint64 nBytes);
+
+/// Whole seconds, minutes or hours, rounded.
+[[nodiscard]] CORE_EXPORT QString duration(double fSeconds);
+
+/// Seconds that `nTotal` bytes take at the speed so far, which is that of whole bytes per second: the time of
+/// the whole download, not of what is missing. Below one byte per second it counts as one. Negative when
+/// nothing can be said yet.
+[[nodiscard]] CORE_EXPORT double estimatedSeconds(qint64 nReceived, qint64 nTotal, qint64 nElapsedSeconds);
+
+/// The name under which a download is saved: `strName`, or the default when that could leave the folder, is
+/// no name on one of the platforms, or is not what it looks like.
+[[nodiscard]] CORE_EXPORT QString safeFileName(const QString &strName);
+
+/// Whether what a feed names may be fetched or opened: http and https.
+[[nodiscard]] CORE_EXPORT bool isWebUrl(const QUrl &url);
+
+constexpr int MostRedirects = 10;
+
+/// Why a redirect must not be followed, for people; empty when it may. `nFollowed` were followed already.
+[[nodiscard]] CORE_EXPORT QString redirectObjection(const QUrl &from, const QUrl &to, int nFollowed);
+
+} // namespace UpdateTexts

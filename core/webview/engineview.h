@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ui/webview.h>
+
+class QWebEngineView;
+
+/// A view with the browser engine behind it, and a profile of its own that keeps nothing.
+class EngineView : public WebView
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(EngineView)
+
+public:
+    EngineView(WebAccess access, QWidget *pParent);
+    ~EngineView() override;
+
+    void load(const QUrl &url) override;
+    void setHtml(const QString &strHtml) override;
+    void setZoomFactor(double fFactor) override;
+    void setPageData(const QJsonObject &pageData) override;
+    void setBackground(const QColor &color) override;
+
+private:
+    void onLoaded(bool bOk);
+
+    QWebEngineView *m_pView;
+    bool m_bLoaded = false;
+};
+
+class EngineFactory : public QObject, public WebViewFactory
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "com.ORVEN.Kelpa.WebViewFactory")
+    Q_INTERFACES(WebViewFactory)
+
+public:
+    [[nodiscard]] WebView *create(WebAccess access, QWidget *pParent) override;
+};

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "appearanceplugin.h"
+
+#include "thememenu.h"
+
+#include <appearance/ithemesmanager.h>
+#include <icore.h>
+#include <mainwindow.h>
+
+AppearancePlugin::AppearancePlugin() = default;
+AppearancePlugin::~AppearancePlugin() = default;
+
+// Nothing is shown yet, so that each widget is dressed once.
+bool AppearancePlugin::initialize(const QStringList &arguments, QString *errorString)
+{
+    Q_UNUSED(arguments)
+    MainWindow *pMainWindow = ICore::getMainWindow();
+    if (!pMainWindow) {
+        *errorString = tr("There is no main window.");
+        return false;
+    }
+    IThemesManager::getInstance().initialize();
+    connect(pMainWindow, &MainWindow::dpiChanged, this, &AppearancePlugin::followDensity);
+    m_pMenu = std::make_unique<ThemeMenu>();
+    return true;
+}
+
+// The sheets of the other themes carry no sizes of their own, and would be lost.
+void AppearancePlugin::followDensity()
+{
+    if (IThemesManager::getInstance().getCurrentThemeId() == QLatin1String("Dark"))
+        IThemesManager::getInstance().processDPIChange();
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <extensionsystem/iplugin.h>
+
+#include <memory>
+
+class ThemeMenu;
+
+/// Dresses the program in the theme that the user chose, keeps it in step with the density of the screen, and
+/// puts the choice into the menus.
+class AppearancePlugin : public ExtensionSystem::IPlugin
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(AppearancePlugin)
+    Q_PLUGIN_METADATA(IID "com.ORVEN.Kelpa.Plugin" FILE "appearance.json")
+
+public:
+    AppearancePlugin();
+    ~AppearancePlugin() override;
+
+    bool initialize(const QStringList &arguments, QString *errorString) override;
+
+private:
+    void followDensity();
+
+    std::unique_ptr<ThemeMenu> m_pMenu;
+};

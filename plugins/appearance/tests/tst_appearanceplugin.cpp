@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <actionmanager/actioncontainer.h>
+#include <actionmanager/actionmanager.h>
+#include <appearance/ithemesmanager.h>
+#include <extensionsystem/iplugin.h>
+#include <mainwindow.h>
+
+#include <QMenu>
+#include <QPluginLoader>
+#include <QScreen>
+
+using ExtensionSystem::IPlugin;
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+// Watches what is told that its style has changed although it was dressed already. Scroll areas dress their
+// scroll bars, and the boxes these lie in, to measure them as soon as they are made.
+class Restyled : public QObject
+{
+public:
+    Restyled() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override
+    {
+        const auto *pWidget = qobject_cast<QWidget *>(pWatched);
+        if (pEvent->type() != QEvent::StyleChange || !pWidget
+            || !pWidget->testAttribute(Qt::WA_WState_Polished))
+            return false;
+        const QWidget *pParent = pWidget->parentWidget();
+        if (!pWidget->inherits("QScrollBar") && !(pParent && pParent->inherits("QAbstractScrollArea")))
+            names.append(QString("%1 \"%2\" in %3")
+                             .arg(pWidget->metaObject()->className(), pWidget->objectName(),
+                                 pParent ? pParent->metaObject()->className() : "nothing"));
+        return false;
+    }
+
+    QStringList names;
+};
+
+} // namespace
+
+// The themes manager lives as long as the process and lists the themes again with each case.
+class tst_AppearancePlugin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_loader.setFileName(KELPA_APPEARANCE_PLUGIN);
+    }
+
+    void cleanup()
+    {
+        delete m_pPlugin;
+        m_pPlugin = nullptr;
+        qApp->setStyleSheet(QString());
+        m_pWindow.reset();
+        m_pProgram.reset();
+    }
+
+    void nothingIsDressedTwiceAtTheStart_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::newRow("in the dark theme") << "Dark";
+        QTest::newRow("in the light theme") << "Light";
+    }
+
+    void nothingIsDressedTwiceAtTheStart()
+    {
+        QFETCH(QString, theme);
+        PluginManager::settings()->setValue("Kelpa/Theme", theme);
+        Restyled restyled;
+        start();
+        m_pWindow->extensionsInitialized();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+        QCOMPARE(restyled.names.join("; "), QString());
+        QVERIFY(!qApp->styleSheet().isEmpty());
+        QCOMPARE(IThemesManager::getInstance().getCurrentThemeId(), theme);
+    }
+
+    void densityIsFollowedInTheDarkThemeOnly_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<bool>("follows");
+        QTest::newRow("dark") << "Dark" << true;
+        QTest::newRow("light") << "Light" << false;
+    }
+
+    void densityIsFollowedInTheDarkThemeOnly()
+    {
+        QFETCH(QString, theme);
+        PluginManager::settings()->setValue("Kelpa/Theme", theme);
+        start();
+        const QString strBefore = qApp->styleSheet();
+        QVERIFY(!strBefore.isEmpty());
+        moveTo("192");
+        emit m_pWindow->dpiChanged(200);
+        QVERIFY(!qApp->styleSheet().isEmpty());
+        QTEST(qApp->styleSheet() != strBefore, "follows");
+        moveTo("120");
+        emit m_pWindow->dpiChanged(125);
+        QVERIFY(!qApp->styleSheet().isEmpty());
+    }
+
+    void menuShowsTheThemeInForceAndSavesTheChoice()
+    {
+        start();
+        QVERIFY(entry("Dark")->isChecked() && !entry("Light")->isChecked());
+        BoxAnswers answers({QMessageBox::Ok});
+        entry("Light")->trigger();
+        QCOMPARE(answers.texts(), QStringList({"The theme change will take effect from the next run."}));
+        QCOMPARE(answers.boxes.first().title, "Kelpa Studio");
+        QCOMPARE(PluginManager::settings()->value("Kelpa/Theme").toString(), "Light");
+        QVERIFY(entry("Dark")->isChecked() && !entry("Light")->isChecked());
+
+        entry("Light")->trigger();
+        entry("Dark")->trigger();
+        QCOMPARE(answers.boxes.size(), 1);
+        QCOMPARE(PluginManager::settings()->value("Kelpa/Theme").toString(), "Dark");
+        QVERIFY(entry("Dark")->isChecked());
+    }
+
+    void failureToSaveIsTold()
+    {
+        start();
+        IThemesManager::getInstance().setSettings(nullptr);
+        BoxAnswers answers({QMessageBox::Ok});
+        entry("Light")->trigger();
+        QCOMPARE(answers.texts(), QStringList({"Failed to change theme."}));
+        QVERIFY(entry("Dark")->isChecked());
+    }
+
+    void withoutAMenuViewThereIsNone()
+    {
+        if (ActionManager::getActionContainer("MenuBar.View"))
+            delete ActionManager::getActionContainer("MenuBar.View");
+        QVERIFY(!ActionManager::getActionContainer("MenuBar.View"));
+        QString strError;
+        QVERIFY(load()->initialize({}, &strError));
+        QVERIFY(!ActionManager::getActionContainer("View.Theme"));
+        QCOMPARE(IThemesManager::getInstance().getCurrentThemeId(), "Dark");
+    }
+
+    void withoutAMainWindowThePluginFails()
+    {
+        m_pWindow.reset();
+        QString strError;
+        QVERIFY(!load()->initialize({}, &strError));
+        QVERIFY(!strError.isEmpty());
+    }
+
+private:
+    IPlugin *load()
+    {
+        m_pPlugin = qobject_cast<IPlugin *>(m_loader.instance());
+        if (!m_pPlugin)
+            qFatal("%s", qPrintable(m_loader.errorString()));
+        return m_pPlugin;
+    }
+
+    void start()
+    {
+        ActionManager::createMenuContainer("MenuBar.View", "&View");
+        QString strError;
+        QVERIFY2(load()->initialize({}, &strError), qPrintable(strError));
+    }
+
+    // The first of its name.
+    static QAction *entry(const char *pName)
+    {
+        const auto actions = ActionManager::getActionContainer("View.Theme")->getMenu()->actions();
+        for (QAction *pAction : actions) {
+            if (pAction->text() == pName)
+                return pAction;
+        }
+        qFatal("no theme %s", pName);
+    }
+
+    void moveTo(const char *pScreen)
+    {
+        const auto screens = QGuiApplication::screens();
+        for (QScreen *pCandidate : screens) {
+            if (pCandidate->name() == QLatin1String(pScreen))
+                m_pWindow->setScreen(pCandidate);
+        }
+    }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<MainWindow> m_pWindow;
+    QPluginLoader m_loader;
+    IPlugin *m_pPlugin = nullptr;
+};
+
+QTEST_MAIN(tst_AppearancePlugin)
+#include "tst_appearanceplugin.moc"

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include <QColor>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLibrary>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <cmath>
+
+namespace {
+
+constexpr double s_fText = 4.5;
+constexpr double s_fControl = 3;
+
+struct Pair
+{
+    const char *pFront;
+    const char *pBack;
+    double fLeast;
+};
+
+// What the sheets put on what. Decorative lines and what is disabled need no contrast.
+constexpr Pair s_pairs[] = {
+    {"text", "window", s_fText},
+    {"text", "chrome", s_fText},
+    {"text", "base", s_fText},
+    {"text", "alternate", s_fText},
+    {"text", "raised", s_fText},
+    {"text", "hover", s_fText},
+    {"text", "pressed", s_fText},
+    {"text", "toolTip", s_fText},
+    {"text", "progress", s_fText},
+    {"text", "progressBase", s_fText},
+    {"muted", "window", s_fText},
+    {"muted", "chrome", s_fText},
+    {"onAccent", "accent", s_fText},
+    {"onAccent", "accentHover", s_fText},
+    {"onSelection", "selection", s_fText},
+    {"onSelected", "selected", s_fText},
+    {"control", "window", s_fControl},
+    {"control", "base", s_fControl},
+    {"control", "chrome", s_fControl},
+    {"control", "toolTip", s_fControl},
+    {"control", "selected", s_fControl},
+    {"handle", "window", s_fControl},
+    {"glyph", "window", s_fControl},
+    {"glyph", "base", s_fControl},
+    {"glyph", "chrome", s_fControl},
+    {"glyph", "raised", s_fControl},
+    {"glyph", "hover", s_fControl},
+    {"glyph", "pressed", s_fControl},
+    {"accent", "window", s_fControl},
+    {"accent", "base", s_fControl},
+    {"accent", "chrome", s_fControl},
+    {"accent", "raised", s_fControl},
+    {"accent", "selected", s_fControl},
+    {"progress", "progressBase", s_fControl},
+    {"selection", "base", s_fControl},
+    {"disabled", "window", s_fControl},
+};
+
+// The colours of the icons, which are the same in both themes.
+constexpr const char *s_icons[] = {"#7b8492", "#2f80d4"};
+
+double channel(double fValue)
+{
+    return fValue <= 0.03928 ? fValue / 12.92 : std::pow((fValue + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor &colour)
+{
+    return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF())
+        + 0.0722 * channel(colour.blueF());
+}
+
+// As the guidelines for web content define it.
+double contrast(const QColor &first, const QColor &second)
+{
+    const auto [fLow, fHigh] = std::minmax({luminance(first), luminance(second)});
+    return (fHigh + 0.05) / (fLow + 0.05);
+}
+
+QByteArray read(const QString &strFile)
+{
+    QFile file(strFile);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QJsonObject palette(const QString &strTheme)
+{
+    return QJsonDocument::fromJson(read(KELPA_PALETTES "/" + strTheme + ".json")).object();
+}
+
+QStringList matches(const char *pExpression, const QString &strText)
+{
+    QStringList found;
+    for (const auto &match : QRegularExpression(QLatin1String(pExpression)).globalMatch(strText))
+        found.append(match.captured());
+    return found;
+}
+
+} // namespace
+
+class tst_Palette : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void arithmetic()
+    {
+        QCOMPARE(qRound(contrast(Qt::black, Qt::white) * 100), 2100);
+        QCOMPARE(qRound(contrast(QColor(0x777777), Qt::white) * 100), 448);
+    }
+
+    void textAndControlsCanBeRead_data() { themes(); }
+
+    void textAndControlsCanBeRead()
+    {
+        QFETCH(QString, theme);
+        const QJsonObject colours = palette(theme);
+        QStringList faults;
+        for (const Pair &pair : s_pairs) {
+            const double fContrast =
+                contrast(QColor(colours[pair.pFront].toString()), QColor(colours[pair.pBack].toString()));
+            if (!(fContrast >= pair.fLeast))
+                faults.append(QString("%1 on %2: %3").arg(pair.pFront, pair.pBack).arg(fContrast));
+        }
+        QCOMPARE(faults, QStringList());
+    }
+
+    void iconsCanBeRead_data() { themes(); }
+
+    void iconsCanBeRead()
+    {
+        QFETCH(QString, theme);
+        const QJsonObject colours = palette(theme);
+        for (const char *pIcon : s_icons) {
+            for (const char *pBack : {"window", "chrome", "raised"}) {
+                const double fContrast = contrast(QColor(pIcon), QColor(colours[pBack].toString()));
+                QVERIFY2(fContrast >= s_fControl,
+                    qPrintable(QString("%1 on %2: %3").arg(pIcon, pBack).arg(fContrast)));
+            }
+        }
+    }
+
+    void sheetsHaveNoColourOfTheirOwn_data() { sheets(); }
+
+    void sheetsHaveNoColourOfTheirOwn()
+    {
+        QFETCH(QString, theme);
+        const QString strSheet = sheet();
+        QStringList known;
+        const QJsonObject colours = palette(theme);
+        for (const QJsonValue &colour : colours)
+            known.append(colour.toString());
+        const QStringList used = matches("#[0-9a-fA-F]{3,8}\\b", strSheet);
+        for (const QString &strColour : used)
+            QVERIFY2(known.contains(strColour), qPrintable(strColour));
+        QCOMPARE(matches("rgba?\\s*\\(|@|[{]\\d", strSheet), QStringList());
+    }
+
+    void sizesFollowTheDensityOrTheFont_data() { sheets(); }
+
+    void sizesFollowTheDensityOrTheFont()
+    {
+        QFETCH(QString, theme);
+        const QString strSheet = sheet();
+        QCOMPARE(matches("(?<![\\d$-])-?\\d+(px|pt)", strSheet), QStringList());
+        QCOMPARE(strSheet.contains("$"), theme == "dark" && !matches("\\$-?\\d+px\\$", strSheet).isEmpty());
+    }
+
+    void imagesOfTheSheetsAreThere_data() { sheets(); }
+
+    void imagesOfTheSheetsAreThere()
+    {
+        QLibrary plugin(KELPA_APPEARANCE_PLUGIN);
+        QVERIFY2(plugin.load(), qPrintable(plugin.errorString()));
+        const QStringList images = matches("(?<=url\\()[^)]*", sheet());
+        for (const QString &strImage : images)
+            QVERIFY2(QFile::exists(strImage), qPrintable(strImage));
+    }
+
+private:
+    static void themes()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::newRow("dark") << "dark";
+        QTest::newRow("light") << "light";
+    }
+
+    static void sheets()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("dark") << "dark"
+                              << "app_dark.qss";
+        QTest::newRow("platform part of dark") << "dark"
+                                               << "win_app_dark.qss";
+        QTest::newRow("light") << "light"
+                               << "app_light.qss";
+    }
+
+    static QString sheet()
+    {
+        QFETCH(QString, file);
+        const QString strSheet = QString::fromUtf8(read(KELPA_STYLES "/" + file));
+        if (strSheet.isEmpty())
+            QTest::qFail(qPrintable("No sheet " + file), __FILE__, __LINE__);
+        return strSheet;
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Palette)
+#include "tst_palette.moc"

@@ -1,0 +1,344 @@
+// SPDX-License-Identifier: MIT
+#include "aboutdialog.h"
+#include "feedback.h"
+#include "updatecheck.h"
+#include "updatesettings.h"
+#include "updatespage.h"
+
+#include <updater/testserver.h>
+#include <updater/updatetest.h>
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QUrlQuery>
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
+#include <icore.h>
+#include <mainwindow.h>
+#include <updater/qsimpleupdater.h>
+
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+QByteArray feedFor(const char *pVersion)
+{
+    return QByteArray(feed(QLatin1String(pVersion), QStringLiteral("http://k.example/x")))
+        .replace("\"windows\"", "\"linux\"");
+}
+
+/// A program with a window, a feed that it is set to, and the checks.
+struct Program
+{
+    Program()
+    {
+        QCoreApplication::setApplicationVersion(QStringLiteral("3.1.4"));
+        window.getNotificationBar()->hide();
+        UpdateSettings::setFeedUrl(url);
+    }
+
+    QTimer *timer(const char *pName) { return check.findChild<QTimer *>(QLatin1String(pName)); }
+    KPNotificationBar *bar() { return window.getNotificationBar(); }
+    QString told() { return bar()->isHidden() ? QString() : bar()->text(); }
+    void startAgain() { check.start(); }
+
+    TestProgram program;
+    TestHome home;
+    TestServer server;
+    const QString url = server.url(QStringLiteral("/feed"));
+    MainWindow window {nullptr};
+    UpdateCheck check {nullptr};
+};
+
+} // namespace
+
+class tst_Updates : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QGuiApplication::setQuitOnLastWindowClosed(false); }
+
+    void askedCheckAlwaysAnswers_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<QString>("text"); // of a box; empty: the offer is the answer
+        QTest::newRow("the newest") << TestServer::ok(feedFor("3.1.4"))
+                                    << "You are running the latest version of Kelpa, 3.1.4.";
+        QTest::newRow("an older one")
+            << TestServer::ok(feedFor("3.0.9")) << "You are running the latest version";
+        QTest::newRow("an update") << TestServer::ok(feedFor("3.1.10")) << "";
+        QTest::newRow("no feed") << TestServer::ok("<html>") << "is not a valid feed";
+        QTest::newRow("no entry for this system")
+            << TestServer::ok(feed(QStringLiteral("9"), QString())) << "is not a valid feed";
+        QTest::newRow("an error") << QByteArray("HTTP/1.1 500 Oops\r\n\r\n") << "Cannot reach";
+        QTest::newRow("silence") << QByteArray() << "no answer within 0.5 seconds";
+    }
+
+    void askedCheckAlwaysAnswers()
+    {
+        QFETCH(const QByteArray, answer);
+        QFETCH(const QString, text);
+        QCoreApplication::setApplicationName(QStringLiteral("Kelpa"));
+        Program program;
+        program.server.on(QStringLiteral("/feed"), [&](QTcpSocket *pSocket) {
+            if (!answer.isEmpty())
+                TestServer::send(pSocket, answer);
+        });
+        QCOMPARE(program.timer("deadline")->interval(), 33000);
+        program.timer("deadline")->setInterval(500);
+        const OfferAnswers offers(QStringLiteral("m_pBtnClose"));
+        const BoxAnswers boxes({QMessageBox::Ok});
+        program.check.checkNow();
+        program.check.checkNow(); // one answer is enough
+        QVERIFY(program.told().startsWith(QStringLiteral("Looking for")));
+        QTRY_COMPARE(boxes.boxes.size() + offers.headings.size(), 1);
+        QTRY_COMPARE(program.told(), QString());
+        QCOMPARE(offers.headings.size(), text.isEmpty() ? 1 : 0);
+        if (!text.isEmpty())
+            QVERIFY2(boxes.texts().first().contains(text), qPrintable(boxes.texts().first()));
+        QCOMPARE(program.server.paths.size(), 1);
+    }
+
+    void openOfferIsNoMissedDeadline()
+    {
+        Program program;
+        program.server.body(QStringLiteral("/feed"), feedFor("9"));
+        program.timer("deadline")->setInterval(100);
+        const BoxAnswers boxes({});
+        std::optional<OfferAnswers> offers;
+        connect(program.timer("deadline"), &QTimer::timeout, &program.check,
+            [&] { offers.emplace(QStringLiteral("m_pBtnClose")); });
+        const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
+        program.check.checkNow();
+        QTRY_COMPARE(ended.size(), 1);
+        QCoreApplication::processEvents();
+        QVERIFY(offers && offers->headings.size() == 1);
+        QVERIFY(boxes.boxes.isEmpty());
+    }
+
+    void nothingIsContactedUntilAFeedIsSet()
+    {
+        Program program;
+        UpdateSettings::setFeedUrl(QString());
+        QCOMPARE(UpdateSettings::feedUrl(), QStringLiteral("https://updates.kelpa.example/appcast.json"));
+        UpdateSettings::setAutomatic(true);
+        const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
+        program.startAgain();
+        const BoxAnswers boxes({QMessageBox::Ok});
+        program.check.checkNow();
+        QCOMPARE(boxes.boxes.size(), 1);
+        QCOMPARE(program.told(), QString());
+        QCOMPARE(QSimpleUpdater::getInstance()->findChildren<QObject *>().size(), 0);
+        QVERIFY(ended.isEmpty());
+
+        PluginManager::globalSettings()->setValue(QStringLiteral("Updates/FeedUrl"), program.url);
+        QCOMPARE(UpdateSettings::feedUrl(), program.url); // the machine's, while the user has none
+    }
+
+    void automaticCheckWaitsForAgreementAndADay()
+    {
+        Program program;
+        program.server.body(QStringLiteral("/feed"), feedFor("9.5"));
+        const auto pressButton = [&] { program.bar()->findChild<QPushButton *>()->click(); };
+        program.startAgain();
+        QVERIFY(program.told().contains(QStringLiteral("once a day")));
+        program.bar()->hide();
+        program.startAgain(); // who closed the question is not asked again
+        QCOMPARE(program.told(), QString());
+        QVERIFY(!UpdateSettings::isAutomatic());
+
+        PluginManager::settings()->clear();
+        UpdateSettings::setFeedUrl(program.url);
+        program.startAgain();
+        pressButton();
+        QVERIFY(UpdateSettings::isAutomatic());
+        QTRY_VERIFY(program.told().contains(QStringLiteral("9.5 has been released")));
+        QCOMPARE(program.server.paths.size(), 1);
+        program.startAgain();
+        program.timer("due")->setInterval(1);
+        QVERIFY(QSignalSpy(program.timer("due"), &QTimer::timeout).wait());
+        QCOMPARE(program.server.paths.size(), 1); // once a day
+
+        const OfferAnswers offers(QStringLiteral("m_pBtnSkip"));
+        pressButton(); // Show
+        QTRY_COMPARE(offers.headings.size(), 1);
+        QTRY_COMPARE(program.told(), QString());
+        UpdateSettings::setChecked(QDateTime::currentDateTimeUtc().addDays(-1));
+        const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
+        program.startAgain();
+        QTRY_COMPARE(ended.size(), 1);
+        QCOMPARE(program.told(), QString()); // that version was skipped
+    }
+
+    void backgroundFailureIsSilentUnlessTheUserAsksMeanwhile()
+    {
+        Program program;
+        QPointer<QTcpSocket> pSocket;
+        program.server.on(QStringLiteral("/feed"), [&](QTcpSocket *p) { pSocket = p; });
+        UpdateSettings::setAutomatic(true);
+        const BoxAnswers boxes({QMessageBox::Ok});
+        const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
+        for (const bool bAsks : {false, true}) {
+            UpdateSettings::setChecked(QDateTime::currentDateTimeUtc().addDays(1)); // the clock was set back
+            program.startAgain();
+            QTRY_VERIFY(pSocket);
+            if (bAsks)
+                program.check.checkNow();
+            TestServer::send(pSocket, "HTTP/1.1 500 Oops\r\n\r\n");
+            QTRY_COMPARE(ended.size(), bAsks ? 2 : 1);
+            QTRY_VERIFY(!pSocket);
+            QTRY_COMPARE(boxes.boxes.size(), bAsks ? 1 : 0);
+            QCOMPARE(program.told(), QString());
+        }
+        QCOMPARE(program.server.paths.size(), 2);
+    }
+
+    void versionsAreAnnouncedWhenWanted()
+    {
+        TestProgram program;
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QString strVersion = QStringLiteral("4.0");
+        QVERIFY(UpdateSettings::isWanted(strVersion, now));
+        UpdateSettings::remindAfter(now.addDays(3));
+        QVERIFY(!UpdateSettings::isWanted(strVersion, now.addDays(2)));
+        QVERIFY(UpdateSettings::isWanted(strVersion, now.addDays(3).addSecs(1)));
+        UpdateSettings::skip(strVersion);
+        QVERIFY(!UpdateSettings::isWanted(strVersion, now.addDays(9)));
+        QVERIFY(UpdateSettings::isWanted(QStringLiteral("4.1"), now.addDays(9)));
+    }
+
+    void addressesGetTheDetails_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("a page") << "https://k.example/report"
+                                << "https://k.example/report?version=3.1%2B4";
+        QTest::newRow("a page with a query") << "https://k.example/?p=1"
+                                             << "https://k.example/?p=1&version=3.1%2B4";
+        QTest::newRow("mail") << "mailto:help@k.example"
+                              << "mailto:help@k.example?body=version%3A%203.1%2B4%0D%0Aqt";
+        QTest::newRow("a file") << "file:///etc/passwd"
+                                << "";
+        QTest::newRow("a script") << "javascript:alert(1)"
+                                  << "";
+        QTest::newRow("no host") << "https://"
+                                 << "";
+        QTest::newRow("nothing") << ""
+                                 << "";
+    }
+
+    void addressesGetTheDetails()
+    {
+        QFETCH(const QString, address);
+        QFETCH(const QString, start);
+        QCoreApplication::setApplicationVersion(QStringLiteral("3.1+4"));
+        const QString strUrl = Feedback::addressWithDetails(address).toString(QUrl::FullyEncoded);
+        QCOMPARE(strUrl.left(start.size()), start);
+        QCOMPARE(strUrl.isEmpty(), start.isEmpty());
+        TestHome home;
+        const BoxAnswers boxes({QMessageBox::Ok});
+        Feedback::open(address);
+        QCOMPARE(home.opened.size(), start.isEmpty() ? 0 : 1);
+        QCOMPARE(boxes.boxes.size(), start.isEmpty() ? 1 : 0);
+    }
+
+    void pageWritesOnlyWhatWasChosen()
+    {
+        TestProgram program;
+        UpdatesPage page;
+        page.show();
+        auto *pFeed = page.findChild<QLineEdit *>(QStringLiteral("m_pFeed"));
+        auto *pAutomatic = page.findChild<QCheckBox *>(QStringLiteral("m_pAutomatic"));
+        QVERIFY(!pAutomatic->isChecked() && !page.isChanged());
+        page.saveChanges();
+        QCOMPARE(PluginManager::settings()->allKeys(), QStringList());
+
+        const QSignalSpy changed(&page, &IOptionPage::dataChanged);
+        pFeed->selectAll();
+        QTest::keyClicks(pFeed, QStringLiteral("http://k.example/a,b"));
+        pAutomatic->click();
+        QVERIFY(page.isChanged() && !changed.isEmpty());
+        page.discardChanges();
+        QVERIFY(!page.isChanged() && !pAutomatic->isChecked());
+        pFeed->setText(QStringLiteral(" http://k.example/a,b "));
+        pAutomatic->click();
+        page.saveChanges();
+        PluginManager::settings()->sync();
+        QCOMPARE(UpdateSettings::feedUrl(), QStringLiteral("http://k.example/a,b"));
+        QVERIFY(UpdateSettings::isAutomatic() && UpdateSettings::wasAsked());
+    }
+
+    void aboutTellsWhatFailed()
+    {
+        TestHome home;
+        QVERIFY(QFile::copy(QStringLiteral(KELPA_PLUGIN_DIR "/libupdates.so"),
+            home.path() + QStringLiteral("/libupdates.so")));
+        PluginManager manager;
+        manager.setMessageSink([](PluginManager::Message, const QString &) {});
+        const QStringList command {QStringLiteral("kelpastudio"), QStringLiteral("--settings-path"),
+            home.path(), QStringLiteral("--plugin-path"), home.path(), QStringLiteral("--new-instance")};
+        QCOMPARE(manager.start(command), std::optional<int>(1));
+        const QString strAbout = AboutDialog(nullptr).text();
+        QVERIFY2(strAbout.contains(QStringLiteral("updates\t1.0.0\tFailed\tneeds core 1.0.0")),
+            qPrintable(strAbout));
+    }
+
+    // Runs last: the libraries stay loaded.
+    void commandsAreServedInTheProgram()
+    {
+        QCoreApplication::setApplicationVersion(QStringLiteral("3.1+4"));
+        TestHome home;
+        TestServer server;
+        const QString strUrl = server.url(QStringLiteral("/real"));
+        server.body(QStringLiteral("/real"), feedFor("1.0"));
+        {
+            QSettings settings(home.path() + QStringLiteral("/KelpaStudio.ini"), QSettings::IniFormat);
+            settings.setValue(QStringLiteral("Updates/FeedUrl"), strUrl);
+            settings.setValue(QStringLiteral("Updates/ReportUrl"), QStringLiteral("https://k.example/r"));
+        }
+        PluginManager manager;
+        const QSignalSpy up(&manager, &PluginManager::initializationDone);
+        const auto exitCode = manager.start({QStringLiteral("kelpastudio"), QStringLiteral("--settings-path"),
+            home.path(), QStringLiteral("--plugin-path"), QStringLiteral(KELPA_PLUGIN_DIR),
+            QStringLiteral("--load"), QStringLiteral("updates"), QStringLiteral("--new-instance")});
+        QVERIFY(!exitCode);
+        QTRY_COMPARE(up.size(), 1);
+        const std::unique_ptr<IOptionPage> pPage(PluginManager::object<IOptionPageFactory>()->createPage());
+        QCOMPARE(pPage->windowTitle(), QStringLiteral("Updates"));
+        QTRY_VERIFY(
+            ICore::getMainWindow()->getNotificationBar()->text().contains(QStringLiteral("once a day")));
+
+        const auto trigger = [](const char *pId) {
+            ActionManager::getAction(QLatin1String(pId))->getAction()->trigger();
+        };
+        trigger("Help.ReportProblem");
+        trigger("Help.ProvideSuggestion");
+        QCOMPARE(home.opened.size(), 2);
+        QVERIFY(home.opened.first().startsWith(QStringLiteral("https://k.example/r?version=")));
+        {
+            const BoxAnswers boxes({QMessageBox::Ok});
+            trigger("Help.CheckUpdates");
+            QTRY_COMPARE(boxes.boxes.size(), 1);
+            QVERIFY(boxes.texts().first().startsWith(QStringLiteral("You are running the latest version")));
+        }
+        QString strAbout;
+        QTimer::singleShot(0, this, [&] {
+            QWidget *pAbout = QApplication::activeModalWidget();
+            auto *pButtons = pAbout->findChild<QDialogButtonBox *>();
+            for (QAbstractButton *pButton : pButtons->buttons())
+                pButton->click(); // Close and Copy
+            strAbout = QGuiApplication::clipboard()->text();
+        });
+        trigger("Help.About");
+        for (const char *pText : {"Version 3.1+4", "Qt 6", "core\t", "updates\t1.0.0\tRunning"})
+            QVERIFY2(strAbout.contains(QLatin1String(pText)), qPrintable(strAbout));
+        manager.shutdown();
+    }
+};
+
+QTEST_MAIN(tst_Updates)
+#include "tst_updates.moc"

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "updatecheck.h"
+
+#include "updatesettings.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <QUrl>
+#include <icore.h>
+#include <iui.h>
+#include <mainwindow.h>
+#include <updater/qsimpleupdater.h>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto s_deadline = 33s;
+constexpr auto s_dueInterval = 1h;
+constexpr int s_nReminderDays = 3;
+
+// The entry of a feed that is for this system.
+QString platformKey()
+{
+#if defined(Q_OS_WIN)
+    return QStringLiteral("windows");
+#elif defined(Q_OS_MACOS)
+    return QStringLiteral("macos");
+#else
+    return QStringLiteral("linux");
+#endif
+}
+
+QString title()
+{
+    return QStringLiteral("Kelpa Studio");
+}
+
+} // namespace
+
+UpdateCheck::UpdateCheck(QObject *pParent)
+    : QObject(pParent)
+    , m_pDeadline(new QTimer(this))
+    , m_pDue(new QTimer(this))
+{
+    m_pDeadline->setObjectName(QStringLiteral("deadline"));
+    m_pDeadline->setSingleShot(true);
+    m_pDeadline->setInterval(s_deadline);
+    m_pDue->setObjectName(QStringLiteral("due"));
+    m_pDue->setInterval(s_dueInterval);
+    connect(m_pDeadline, &QTimer::timeout, this, &UpdateCheck::onDeadline);
+    connect(m_pDue, &QTimer::timeout, this, &UpdateCheck::checkIfDue);
+    const QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();
+    connect(pUpdater, &QSimpleUpdater::checkEnded, this, &UpdateCheck::onEnded);
+    connect(pUpdater, &QSimpleUpdater::offerPutOff, this, &UpdateCheck::onPutOff);
+}
+
+UpdateCheck::~UpdateCheck()
+{
+    disconnect(QSimpleUpdater::getInstance(), nullptr, this, nullptr);
+    if (m_state != State::Idle)
+        QSimpleUpdater::getInstance()->abort(m_strUrl);
+}
+
+void UpdateCheck::start()
+{
+    m_pDue->start();
+    if (!UpdateSettings::hasFeed())
+        return;
+    if (!UpdateSettings::wasAsked())
+        askForAgreement();
+    else
+        checkIfDue();
+}
+
+// Once: who closes the question has answered it.
+void UpdateCheck::askForAgreement()
+{
+    UpdateSettings::setAsked();
+    notify(tr("May Kelpa Studio look for a new version once a day?"), tr("Allow"), &UpdateCheck::agree);
+}
+
+void UpdateCheck::agree()
+{
+    UpdateSettings::setAutomatic(true);
+    if (MainWindow *pMainWindow = ICore::getMainWindow())
+        pMainWindow->hideNotification();
+    checkIfDue();
+}
+
+void UpdateCheck::checkIfDue()
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (m_state != State::Idle || !UpdateSettings::hasFeed() || !UpdateSettings::isAutomatic()
+        || !UpdateSettings::isCheckDue(now))
+        return;
+    UpdateSettings::setChecked(now);
+    begin(State::Background);
+}
+
+void UpdateCheck::checkNow()
+{
+    if (m_state == State::Manual)
+        return;
+    if (!UpdateSettings::hasFeed()) {
+        IUi::information(ICore::getMainWindow(), title(),
+            tr("No address to look for updates is set. You can set it in the preferences, under Updates."));
+        return;
+    }
+    notify(tr("Looking for a new version..."), QString(), nullptr);
+    begin(State::Manual);
+}
+
+// A background check under way turns into one that shows what it finds.
+void UpdateCheck::begin(State state)
+{
+    const bool bUnderWay = m_state != State::Idle;
+    m_state = state;
+    m_bDeadlineMissed = false;
+    if (!bUnderWay)
+        m_strUrl = UpdateSettings::feedUrl();
+    m_pDeadline->start();
+    QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();
+    pUpdater->setPlatformKey(m_strUrl, platformKey());
+    pUpdater->setNotifyOnUpdate(m_strUrl, state == State::Manual);
+    pUpdater->setNotifyOnFinish(m_strUrl, false);
+    if (!bUnderWay)
+        pUpdater->checkForUpdates(m_strUrl, true);
+}
+
+// Nothing happens when the answer, a dialog, is on the screen already.
+void UpdateCheck::onDeadline()
+{
+    m_bDeadlineMissed = true;
+    QSimpleUpdater::getInstance()->abort(m_strUrl);
+}
+
+void UpdateCheck::onEnded(const QString &strUrl)
+{
+    if (m_state == State::Idle || strUrl != m_strUrl)
+        return;
+    m_pDeadline->stop();
+    const State state = std::exchange(m_state, State::Idle);
+    if (state == State::Background)
+        return announce();
+    KPNotificationBar *pBar = ICore::getMainWindow() ? ICore::getMainWindow()->getNotificationBar() : nullptr;
+    if (pBar && pBar->text() == tr("Looking for a new version..."))
+        pBar->hide();
+    // The box shall not run inside a signal of the network.
+    QMetaObject::invokeMethod(this, &UpdateCheck::answer, Qt::QueuedConnection);
+}
+
+// An update has had its dialog.
+void UpdateCheck::answer()
+{
+    QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();
+    const QString strError = pUpdater->getLastError(m_strUrl);
+    if (m_bDeadlineMissed && !strError.isEmpty())
+        IUi::warning(ICore::getMainWindow(), title(),
+            tr("Cannot reach %1: no answer within %2 seconds.")
+                .arg(QUrl(m_strUrl).toDisplayString(QUrl::RemoveQuery))
+                .arg(m_pDeadline->interval() / 1000.0));
+    else if (!strError.isEmpty())
+        IUi::warning(ICore::getMainWindow(), title(), strError);
+    else if (!pUpdater->getUpdateAvailable(m_strUrl))
+        IUi::information(ICore::getMainWindow(), title(),
+            tr("You are running the latest version of %1, %2.")
+                .arg(pUpdater->getModuleName(m_strUrl), pUpdater->getModuleVersion(m_strUrl)));
+}
+
+void UpdateCheck::announce()
+{
+    QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();
+    const QString strVersion = pUpdater->getLatestVersion(m_strUrl);
+    if (pUpdater->getUpdateAvailable(m_strUrl)
+        && UpdateSettings::isWanted(strVersion, QDateTime::currentDateTimeUtc()))
+        notify(tr("%1 %2 has been released.").arg(pUpdater->getModuleName(m_strUrl), strVersion), tr("Show"),
+            &UpdateCheck::checkNow);
+}
+
+void UpdateCheck::onPutOff(const QString &strUrl, const QString &strVersion, bool bPermanently)
+{
+    if (strUrl != m_strUrl)
+        return;
+    if (bPermanently)
+        UpdateSettings::skip(strVersion);
+    else
+        UpdateSettings::remindAfter(QDateTime::currentDateTimeUtc().addDays(s_nReminderDays));
+}
+
+void UpdateCheck::notify(const QString &strText, const QString &strButton, void (UpdateCheck::*handler)())
+{
+    MainWindow *pMainWindow = ICore::getMainWindow();
+    if (!pMainWindow || !pMainWindow->getNotificationBar())
+        return;
+    pMainWindow->showNotification(strText, KPNotificationBar::Info, strButton, true);
+    if (handler)
+        connect(pMainWindow->getNotificationBar(), &KPNotificationBar::buttonClicked, this, handler);
+}

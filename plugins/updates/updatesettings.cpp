@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "updatesettings.h"
+
+#include <QSettings>
+#include <icore.h>
+
+namespace {
+
+struct Address
+{
+    QString strKey;
+    QString strDefault;
+};
+
+const Address s_feed {
+    QStringLiteral("Updates/FeedUrl"), QStringLiteral("https://updates.kelpa.example/appcast.json")};
+const Address s_report {QStringLiteral("Updates/ReportUrl"), QStringLiteral("https://kelpa.example/report")};
+const Address s_suggestion {
+    QStringLiteral("Updates/SuggestUrl"), QStringLiteral("https://kelpa.example/suggest")};
+
+const QString s_automatic = QStringLiteral("Updates/AutomaticCheck");
+const QString s_asked = QStringLiteral("Updates/Asked");
+const QString s_lastCheck = QStringLiteral("Updates/LastCheck");
+const QString s_skipped = QStringLiteral("Updates/SkippedVersion");
+const QString s_remindAfter = QStringLiteral("Updates/RemindAfter");
+
+QVariant value(const QString &strKey, QSettings::Scope scope = QSettings::UserScope)
+{
+    const QSettings *pSettings = ICore::settings(scope);
+    return pSettings ? pSettings->value(strKey) : QVariant();
+}
+
+void setValue(const QString &strKey, const QVariant &newValue)
+{
+    if (QSettings *pSettings = ICore::settings(QSettings::UserScope))
+        pSettings->setValue(strKey, newValue);
+}
+
+// An address with a comma is read as a list unless it is in quotes.
+QString read(const Address &address)
+{
+    for (const auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
+        const QString strUrl = value(address.strKey, scope).toStringList().join(QLatin1Char(',')).trimmed();
+        if (!strUrl.isEmpty())
+            return strUrl;
+    }
+    return address.strDefault;
+}
+
+void write(const Address &address, const QString &strUrl)
+{
+    const bool bDefault = strUrl.trimmed().isEmpty() || strUrl.trimmed() == address.strDefault;
+    if (!bDefault)
+        return setValue(address.strKey, strUrl.trimmed());
+    if (QSettings *pSettings = ICore::settings(QSettings::UserScope))
+        pSettings->remove(address.strKey);
+}
+
+} // namespace
+
+QString UpdateSettings::feedUrl()
+{
+    return read(s_feed);
+}
+
+QString UpdateSettings::reportUrl()
+{
+    return read(s_report);
+}
+
+QString UpdateSettings::suggestionUrl()
+{
+    return read(s_suggestion);
+}
+
+void UpdateSettings::setFeedUrl(const QString &strUrl)
+{
+    write(s_feed, strUrl);
+}
+
+void UpdateSettings::setReportUrl(const QString &strUrl)
+{
+    write(s_report, strUrl);
+}
+
+void UpdateSettings::setSuggestionUrl(const QString &strUrl)
+{
+    write(s_suggestion, strUrl);
+}
+
+bool UpdateSettings::hasFeed()
+{
+    return feedUrl() != s_feed.strDefault;
+}
+
+bool UpdateSettings::isAutomatic()
+{
+    return value(s_automatic).toBool();
+}
+
+void UpdateSettings::setAutomatic(bool bAutomatic)
+{
+    setValue(s_automatic, bAutomatic);
+    setAsked();
+}
+
+bool UpdateSettings::wasAsked()
+{
+    return value(s_asked).toBool() || value(s_automatic).isValid();
+}
+
+void UpdateSettings::setAsked()
+{
+    setValue(s_asked, true);
+}
+
+bool UpdateSettings::isCheckDue(const QDateTime &now)
+{
+    const QDateTime last = QDateTime::fromString(value(s_lastCheck).toString(), Qt::ISODate);
+    return !last.isValid() || last > now || last.addDays(1) <= now;
+}
+
+void UpdateSettings::setChecked(const QDateTime &now)
+{
+    setValue(s_lastCheck, now.toUTC().toString(Qt::ISODate));
+}
+
+bool UpdateSettings::isWanted(const QString &strVersion, const QDateTime &now)
+{
+    const QDateTime after = QDateTime::fromString(value(s_remindAfter).toString(), Qt::ISODate);
+    return strVersion != value(s_skipped).toString() && (!after.isValid() || after <= now);
+}
+
+void UpdateSettings::skip(const QString &strVersion)
+{
+    setValue(s_skipped, strVersion);
+}
+
+void UpdateSettings::remindAfter(const QDateTime &time)
+{
+    setValue(s_remindAfter, time.toUTC().toString(Qt::ISODate));
+}

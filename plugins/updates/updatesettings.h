@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+/// What the user, or else the machine, has set about updates. GUI thread only, while the program has
+/// settings.
+class UpdateSettings
+{
+public:
+    /// The addresses; one that is not set leads to a domain that nobody can own.
+    [[nodiscard]] static QString feedUrl();
+    [[nodiscard]] static QString reportUrl();
+    [[nodiscard]] static QString suggestionUrl();
+
+    /// Setting the default, or nothing, takes the user's choice away.
+    static void setFeedUrl(const QString &strUrl);
+    static void setReportUrl(const QString &strUrl);
+    static void setSuggestionUrl(const QString &strUrl);
+
+    /// Whether a feed is set; otherwise nothing must be contacted.
+    [[nodiscard]] static bool hasFeed();
+
+    [[nodiscard]] static bool isAutomatic();
+    static void setAutomatic(bool bAutomatic);
+
+    /// The user was asked whether checks may be automatic, or has decided without being asked.
+    [[nodiscard]] static bool wasAsked();
+    static void setAsked();
+
+    /// A day has passed since the last automatic check, or the clock was set back.
+    [[nodiscard]] static bool isCheckDue(const QDateTime &now);
+    static void setChecked(const QDateTime &now);
+
+    /// Whether the user wants to be told of this version now.
+    [[nodiscard]] static bool isWanted(const QString &strVersion, const QDateTime &now);
+    static void skip(const QString &strVersion);
+    static void remindAfter(const QDateTime &time);
+};

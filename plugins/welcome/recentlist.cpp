@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "recentlist.h"
+
+#include <ui/imainmdiarea.h>
+
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+RecentList::RecentList(IMainMdiArea *pArea, QWidget *pParent)
+    : QWidget(pParent)
+    , m_pList(new QListWidget(this))
+{
+    auto *pLabel = new QLabel(tr("&Recent Projects"), this);
+    pLabel->setBuddy(m_pList);
+    m_pList->setAccessibleName(tr("Recent Projects"));
+    auto *pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pLabel);
+    pLayout->addWidget(m_pList);
+    setFocusProxy(m_pList);
+    connect(pArea, &IMainMdiArea::resetRecentFiles, this, &RecentList::fill);
+    // The list is filled anew while the project opens.
+    connect(m_pList, &QListWidget::itemActivated, pArea, [pArea](const QListWidgetItem *pItem) {
+        const QString strFile = pItem->data(Qt::UserRole).toString();
+        QMetaObject::invokeMethod(
+            pArea, [pArea, strFile] { pArea->openFile(strFile); }, Qt::QueuedConnection);
+    });
+    fill();
+}
+
+RecentList::~RecentList() = default;
+
+void RecentList::fill()
+{
+    m_pList->clear();
+    const QStringList files = IMainMdiArea::getRecentFileList();
+    for (const QString &strFile : files) {
+        auto *pItem = new QListWidgetItem(QDir::toNativeSeparators(strFile), m_pList);
+        pItem->setData(Qt::UserRole, strFile);
+    }
+    m_pList->setCurrentRow(0);
+}

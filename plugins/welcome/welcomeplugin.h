@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <extensionsystem/iplugin.h>
+
+#include <QPointer>
+
+#include <memory>
+
+class WelcomeOptionPageFactory;
+class WelcomeWidget;
+
+/// Shows the home page while no project is open, unless the user's settings or the option "--no-welcome" say
+/// otherwise.
+class WelcomePlugin : public ExtensionSystem::IPlugin
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(WelcomePlugin)
+    Q_PLUGIN_METADATA(IID "com.ORVEN.Kelpa.Plugin" FILE "welcome.json")
+
+public:
+    WelcomePlugin();
+    ~WelcomePlugin() override;
+
+    bool initialize(const QStringList &arguments, QString *errorString) override;
+
+private:
+    void start();
+
+    std::unique_ptr<WelcomeOptionPageFactory> m_pOptions;
+    QPointer<WelcomeWidget> m_pWidget; ///< the child of the area of documents
+};

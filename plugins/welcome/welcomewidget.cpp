@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "welcomewidget.h"
+
+#include "recentlist.h"
+#include "welcomelog.h"
+#include "welcomepage.h"
+
+#include <displayscale.h>
+#include <icore.h>
+#include <mainwindow.h>
+#include <ui/imainmdiarea.h>
+#include <ui/webviewloader.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+Q_LOGGING_CATEGORY(lcWelcome, "kelpa.welcome")
+
+// The resources of a static library come in only when asked for. Not in a namespace: the macro forbids it.
+static void initResources()
+{
+    Q_INIT_RESOURCE(welcome);
+}
+
+WelcomeWidget::WelcomeWidget(IMainMdiArea *pArea)
+    : QWidget(pArea)
+    , m_pArea(pArea)
+{
+    initResources();
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::StrongFocus);
+    new QVBoxLayout(this);
+    layout()->setContentsMargins(0, 0, 0, 0);
+    setGeometry(pArea->rect());
+    pArea->installEventFilter(this);
+    connect(ICore::getMainWindow(), &MainWindow::dpiChanged, this, &WelcomeWidget::updateLater);
+    hide();
+}
+
+WelcomeWidget::~WelcomeWidget() = default;
+
+bool WelcomeWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
+{
+    if (pWatched == m_pArea && pEvent->type() == QEvent::Resize)
+        setGeometry(m_pArea->rect());
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+// The engine takes its time and the window's first picture must not wait for it: this one is only on its way.
+void WelcomeWidget::paintEvent(QPaintEvent *pEvent)
+{
+    Q_UNUSED(pEvent)
+    QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
+    if (m_bPainted)
+        return;
+    m_bPainted = true;
+    qCDebug(lcWelcome, "Window painted");
+    QMetaObject::invokeMethod(this, &WelcomeWidget::createView, Qt::QueuedConnection);
+}
+
+void WelcomeWidget::showEvent(QShowEvent *pEvent)
+{
+    QWidget::showEvent(pEvent);
+    raise();
+    takeFocus();
+}
+
+void WelcomeWidget::changeEvent(QEvent *pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    switch (pEvent->type()) {
+    case QEvent::FontChange:
+    case QEvent::LanguageChange:
+    case QEvent::LayoutDirectionChange:
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+        updateLater();
+        break;
+    default:
+        break;
+    }
+}
+
+// A project that came up meanwhile needs no page.
+void WelcomeWidget::createView()
+{
+    if (isHidden()) {
+        m_bPainted = false;
+        return;
+    }
+    m_pView = WebViewLoader::createView(WebAccess::OwnPages, this);
+    m_pContent = m_pView;
+    connect(m_pView, &WebView::loadFinished, this, &WelcomeWidget::onLoaded);
+    connect(m_pView, &WebView::titleChanged, this, [](const QString &strTitle) {
+        if (strTitle == WelcomePage::title())
+            qCDebug(lcWelcome, "Page painted");
+    });
+    updatePage();
+    m_pView->load(WelcomePage::url());
+    takeFocus();
+}
+
+// Several changes in a row are one.
+void WelcomeWidget::updateLater()
+{
+    if (m_bUpdating || !m_pView)
+        return;
+    m_bUpdating = true;
+    QMetaObject::invokeMethod(this, &WelcomeWidget::updatePage, Qt::QueuedConnection);
+}
+
+void WelcomeWidget::updatePage()
+{
+    m_bUpdating = false;
+    if (!m_pView)
+        return;
+    m_pView->setBackground(palette().color(QPalette::Window));
+    m_pView->setZoomFactor(DisplayScale::percent(DisplayScale::logicalDpi(this)) / 100.0);
+    m_pView->setPageData(WelcomePage::data(*this));
+}
+
+void WelcomeWidget::onLoaded(bool bOk)
+{
+    if (bOk || m_bRecovering)
+        return;
+    // Not within a signal of the view; and what failed may say so twice.
+    m_bRecovering = true;
+    QMetaObject::invokeMethod(this, &WelcomeWidget::recover, Qt::QueuedConnection);
+}
+
+void WelcomeWidget::recover()
+{
+    m_bRecovering = false;
+    if (m_bRetried) {
+        showList();
+        return;
+    }
+    m_bRetried = true;
+    qCWarning(lcWelcome, "The home page failed and is loaded again.");
+    m_pView->load(WelcomePage::url());
+}
+
+void WelcomeWidget::showList()
+{
+    qCWarning(lcWelcome, "The home page failed again; the recent projects are listed without it.");
+    delete m_pView;
+    m_pView = nullptr;
+    m_pContent = new RecentList(m_pArea, this);
+    layout()->addWidget(m_pContent);
+    takeFocus();
+}
+
+// A window that comes up gives the focus to some button. Menus and dialogs keep theirs.
+void WelcomeWidget::takeFocus()
+{
+    const QWidget *pFocus = QApplication::focusWidget();
+    if (m_pContent && isVisible() && !QApplication::activePopupWidget()
+        && (!pFocus || pFocus->window() == window()))
+        m_pContent->setFocus();
+}

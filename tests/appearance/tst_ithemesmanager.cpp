@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <appearance/ithemesmanager.h>
+#include <appearance/kpappstyle.h>
+#include <mainwindow.h>
+
+#include <QScreen>
+
+using ExtensionSystem::PluginManager;
+
+// The manager lives as long as the process: it lists everything again at each initialize() and keeps the
+// sheet of "Dark". So the cases look at the part of the list that they added, and those that need a manager
+// without a theme "Dark", or without its sheet, come first.
+class tst_IThemesManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<TestProgram>();
+        m_folder = QDir(QCoreApplication::applicationDirPath() + "/resources/styles");
+        m_folder.removeRecursively();
+        QVERIFY(m_folder.mkpath("."));
+        m_nListed = manager().getThemes().size();
+    }
+
+    void cleanup()
+    {
+        qApp->setStyleSheet(QString());
+        manager().setSettings(nullptr);
+        m_pWindow.reset();
+        m_pProgram.reset();
+        m_folder.removeRecursively();
+    }
+
+    void withoutDarkThereIsNothingToFallBackTo()
+    {
+        install("app_light.qss", "light");
+        settings()->setValue("Kelpa/Theme", "Gone");
+        QVERIFY(!manager().initialize());
+        QVERIFY(hasAppStyle());
+        QCOMPARE(manager().getSaveThemeId(), "Gone");
+    }
+
+    void anotherThemeIsAppliedAsItStandsAndLostWhenTheDensityChanges()
+    {
+        install("app_dark.qss", "dark");
+        install("app_light.qss", "a{b:$10px$}");
+        install("win_app_light.qss", "never");
+        showOn("192");
+        settings()->setValue("Kelpa/Theme", "Light");
+        QVERIFY(manager().initialize());
+        QCOMPARE(qApp->styleSheet(), "a{b:$10px$}");
+        QCOMPARE(manager().getCurrentThemeId(), "Light");
+        QCOMPARE(manager().getCurrentThemeName(), "Light");
+        QCOMPARE(listed(), QStringList({"Dark", "Light"}));
+        manager().processDPIChange();
+        QCOMPARE(qApp->styleSheet(), QString());
+        QCOMPARE(manager().getCurrentThemeId(), "Light");
+        QCOMPARE(listed(), QStringList({"Dark", "Light", "Dark", "Light"}));
+    }
+
+    void freshSettingsAreDarkWithThePlatformInFront()
+    {
+        install("app_dark.qss", "base{a:$10px$}\xc3\xa4");
+        install("win_app_dark.qss", "platform{b:$1px$}\r\n");
+        showOn("192");
+        QVERIFY(manager().initialize());
+        QCOMPARE(qApp->styleSheet(), QString::fromUtf8("platform{b:2px}\nbase{a:20px}\xc3\xa4"));
+        QCOMPARE(settings()->value("Kelpa/Theme").toString(), "Dark");
+        QCOMPARE(manager().getCurrentThemeId(), "Dark");
+        QVERIFY(hasAppStyle());
+
+        showOn("120");
+        QCOMPARE(qApp->styleSheet(), QString::fromUtf8("platform{b:2px}\nbase{a:20px}\xc3\xa4"));
+        manager().processDPIChange();
+        QCOMPARE(qApp->styleSheet(), QString::fromUtf8("platform{b:1px}\nbase{a:12px}\xc3\xa4"));
+        QCOMPARE(listed(), QStringList({"Dark"}));
+    }
+
+    void namesComeFromTheFiles()
+    {
+        for (const char *pName : {"app_light_blue.qss", "app_.qss", "app_x.y.qss", "app_Dark.qss",
+                 "apple.qss", "app_b.txt", "win_app_dark.qss"})
+            install(pName, "");
+        settings()->setValue("Kelpa/Theme", "none of them");
+        manager().initialize();
+        QCOMPARE(listed(), QStringList({"", "Dark", "Light_blue", "X.y"}));
+    }
+
+    void platformAloneIsAppliedButIsNoTheme()
+    {
+        install("win_app_dark.qss", "platform");
+        QVERIFY(!manager().initialize());
+        QCOMPARE(qApp->styleSheet(), "platform");
+        QCOMPARE(manager().getCurrentThemeId(), QString());
+        QVERIFY(listed().isEmpty());
+    }
+
+    void nothingToApplyFallsBackToDarkAtTheNextStart()
+    {
+        install("app_light.qss", "light");
+        install("app_dark.qss", "dark");
+        settings()->setValue("Kelpa/Theme", "Gone");
+        QVERIFY(!manager().initialize());
+        QVERIFY(hasAppStyle());
+        QCOMPARE(manager().getCurrentThemeId(), QString());
+        QCOMPARE(qApp->styleSheet(), QString());
+        QCOMPARE(manager().getSaveThemeId(), "Dark");
+    }
+
+    void unreadableSheetIsSkipped()
+    {
+        QVERIFY(m_folder.mkpath("app_light.qss"));
+        settings()->setValue("Kelpa/Theme", "Light");
+        QVERIFY(!manager().initialize());
+        QCOMPARE(listed(), QStringList({"Light"}));
+        QCOMPARE(qApp->styleSheet(), QString());
+    }
+
+    void onlyListedIdsAreSavedAndTheThemeInForceStays()
+    {
+        install("app_sepia.qss", "");
+        install("app_dark.qss", "dark");
+        manager().initialize();
+        QVERIFY(!manager().saveThemes("sepia"));
+        QVERIFY(!manager().saveThemes(QString("Sepi")));
+        QCOMPARE(manager().getSaveThemeId(), "Dark");
+        QVERIFY(manager().saveThemes("Sepia"));
+        QCOMPARE(settings()->value("Kelpa/Theme").toString(), "Sepia");
+        QCOMPARE(manager().getCurrentThemeId(), "Dark");
+        QCOMPARE(qApp->styleSheet(), "dark");
+        QSettings other(m_pProgram->filePath("other.ini"), QSettings::IniFormat);
+        manager().setSettings(&other);
+        QCOMPARE(manager().getSaveThemeId(), "Dark");
+    }
+
+private:
+    static IThemesManager &manager() { return IThemesManager::getInstance(); }
+    static QSettings *settings() { return PluginManager::settings(); }
+
+    // With a sheet the style of the application is one around it, which owns it.
+    static bool hasAppStyle()
+    {
+        return QApplication::style()->inherits("KPAppStyle")
+            || QApplication::style()->findChild<KPAppStyle *>();
+    }
+
+    [[nodiscard]] QStringList listed() const
+    {
+        QStringList result;
+        for (const ThemesInfo *pInfo : manager().getThemes().mid(m_nListed)) {
+            result.append(pInfo->id);
+            if (pInfo->name != pInfo->id)
+                result.append(pInfo->name);
+        }
+        return result;
+    }
+
+    void install(const char *pName, const QByteArray &sheet) const
+    {
+        QFile file(m_folder.filePath(QLatin1String(pName)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(sheet) == sheet.size());
+    }
+
+    // The main window on the screen of that name.
+    void showOn(const char *pScreen)
+    {
+        if (!m_pWindow)
+            m_pWindow = std::make_unique<MainWindow>(nullptr);
+        const auto screens = QGuiApplication::screens();
+        for (QScreen *pCandidate : screens) {
+            if (pCandidate->name() == QLatin1String(pScreen))
+                m_pWindow->setScreen(pCandidate);
+        }
+    }
+
+    std::unique_ptr<TestProgram> m_pProgram;
+    std::unique_ptr<MainWindow> m_pWindow;
+    QDir m_folder;
+    qsizetype m_nListed = 0;
+};
+
+QTEST_MAIN(tst_IThemesManager)
+#include "tst_ithemesmanager.moc"

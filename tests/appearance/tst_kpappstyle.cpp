@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: MIT
+#include <support/coretest.h>
+
+#include <appearance/kpappstyle.h>
+#include <mainwindow.h>
+
+#include <QDockWidget>
+#include <QPainter>
+#include <QScreen>
+#include <QSlider>
+#include <QStyleOptionSlider>
+#include <QStyleOptionTitleBar>
+
+namespace {
+
+constexpr int s_nThickness = 10;
+constexpr int s_nLength = 30;
+constexpr int s_nPanel = 5;
+
+// What it computes from is asked of the proxy, which is this.
+class Proxy : public KPAppStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *pOption, const QWidget *pWidget) const override
+    {
+        switch (metric) {
+        case PM_SliderControlThickness:
+            return s_nThickness;
+        case PM_SliderLength:
+            return s_nLength;
+        case PM_MenuPanelWidth:
+            return s_nPanel;
+        default:
+            return KPAppStyle::pixelMetric(metric, pOption, pWidget);
+        }
+    }
+};
+
+using Metric = QStyle::PixelMetric;
+
+const QList<int> s_dpis = {72, 96, 120, 143, 144, 192};
+
+void moveTo(QWidget &widget, int nDPI)
+{
+    const auto screens = QGuiApplication::screens();
+    for (QScreen *pScreen : screens) {
+        if (pScreen->name() == QString::number(nDPI))
+            widget.setScreen(pScreen);
+    }
+}
+
+} // namespace
+
+class tst_KPAppStyle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void metrics_data()
+    {
+        QTest::addColumn<Metric>("metric");
+        QTest::addColumn<QList<int>>("expected"); // at 72, 96, 120, 143, 144 and 192 DPI
+        const auto row = [](const char *pName, Metric metric, const QList<int> &expected) {
+            QTest::newRow(pName) << metric << expected;
+        };
+        row("proportional 6: button margin", QStyle::PM_ButtonMargin, {4, 6, 7, 8, 9, 12});
+        row("proportional 6: layout spacing", QStyle::PM_LayoutVerticalSpacing, {4, 6, 7, 8, 9, 12});
+        row("proportional 10: menu scroller", QStyle::PM_MenuScrollerHeight, {7, 10, 12, 14, 15, 20});
+        row("proportional 10: menu button", QStyle::PM_MenuButtonIndicator, {7, 10, 12, 14, 15, 20});
+        row("proportional 9: scroll bar slider", QStyle::PM_ScrollBarSliderMin, {6, 9, 11, 13, 13, 18});
+        row("proportional 16: slider", QStyle::PM_SliderThickness, {12, 16, 20, 23, 24, 32});
+        row("proportional 16: title bar button", QStyle::PM_TitleBarButtonSize, {12, 16, 20, 23, 24, 32});
+        row("proportional 8: dock handle", QStyle::PM_DockWidgetHandleExtent, {6, 8, 10, 11, 12, 16});
+        row("proportional 18: title bar alone", QStyle::PM_TitleBarHeight, {13, 18, 22, 26, 27, 36});
+        row("proportional 13: indicator width", QStyle::PM_IndicatorWidth, {9, 13, 16, 19, 19, 26});
+        row("proportional 13: size grip", QStyle::PM_SizeGripSize, {9, 13, 16, 19, 19, 26});
+        row("proportional 12: radio button", QStyle::PM_ExclusiveIndicatorHeight, {9, 12, 15, 17, 18, 24});
+        row("proportional 5: dialog separator", QStyle::PM_DialogButtonsSeparator, {3, 5, 6, 7, 7, 10});
+        row("proportional 70: dialog button", QStyle::PM_DialogButtonsButtonWidth,
+            {52, 70, 87, 104, 105, 140});
+        row("proportional 30: header section", QStyle::PM_HeaderDefaultSectionSizeVertical,
+            {22, 30, 37, 44, 45, 60});
+        row("proportional 30: dialog button", QStyle::PM_DialogButtonsButtonHeight, {22, 30, 37, 44, 45, 60});
+        row("proportional 4: sub-window frame", QStyle::PM_MdiSubWindowFrameWidth, {3, 4, 5, 5, 6, 8});
+        row("proportional 4: header margin", QStyle::PM_HeaderMargin, {3, 4, 5, 5, 6, 8});
+        row("proportional 196: minimised sub-window", QStyle::PM_MdiSubWindowMinimizedWidth,
+            {147, 196, 245, 291, 294, 392});
+        row("proportional 2: dock button", QStyle::PM_DockWidgetTitleBarButtonMargin, {1, 2, 2, 2, 3, 4});
+        row("proportional 20: tree", QStyle::PM_TreeViewIndentation, {15, 20, 25, 29, 30, 40});
+        row("proportional 100: header section", QStyle::PM_HeaderDefaultSectionSizeHorizontal,
+            {75, 100, 125, 148, 150, 200});
+        row("whole 12: scroll bar", QStyle::PM_ScrollBarExtent, {12, 12, 12, 12, 24, 24});
+        row("whole 24: tool bar icon", QStyle::PM_ToolBarIconSize, {24, 24, 24, 24, 48, 48});
+        row("whole 32: large icon", QStyle::PM_LargeIconSize, {32, 32, 32, 32, 64, 64});
+        row("whole 32: message icon", QStyle::PM_MessageBoxIconSize, {32, 32, 32, 32, 64, 64});
+        row("whole 16: small icon", QStyle::PM_SmallIconSize, {16, 16, 16, 16, 32, 32});
+        row("whole 16: title bar icon", QStyle::PM_TitleBarButtonIconSize, {16, 16, 16, 16, 32, 32});
+        row("none: default frame", QStyle::PM_DefaultFrameWidth, {0, 0, 0, 0, 0, 0});
+        row("none: tab scroll overlap", QStyle::PM_TabBar_ScrollButtonOverlap, {0, 0, 0, 0, 0, 0});
+        row("always 1: dock frame", QStyle::PM_DockWidgetFrameWidth, {1, 1, 1, 1, 1, 1});
+        row("always 1: tool tip frame", QStyle::PM_ToolTipLabelFrameWidth, {1, 1, 1, 1, 1, 1});
+        row("always 3: tab overlap", QStyle::PM_TabBarTabOverlap, {3, 3, 3, 3, 3, 3});
+        row("always 9: progress chunk", QStyle::PM_ProgressBarChunkWidth, {9, 9, 9, 9, 9, 9});
+        row("always 2: menu bar panel", QStyle::PM_MenuBarPanelWidth, {2, 2, 2, 2, 2, 2});
+        row("always 2: focus frame", QStyle::PM_FocusFrameHMargin, {2, 2, 2, 2, 2, 2});
+        row("margin of a widget in a window", QStyle::PM_LayoutLeftMargin, {6, 9, 11, 13, 13, 18});
+        row("less than the menu's panel", QStyle::PM_SubMenuOverlap, QList<int>(6, -s_nPanel));
+    }
+
+    void metrics()
+    {
+        QFETCH(Metric, metric);
+        QWidget window;
+        auto *pChild = new QWidget(&window);
+        QList<int> values;
+        for (const int nDPI : s_dpis) {
+            moveTo(window, nDPI);
+            values.append(m_style.pixelMetric(metric, nullptr, pChild));
+        }
+        QTEST(values, "expected");
+    }
+
+    void othersAreThoseOfThePlatform()
+    {
+        const QProxyStyle platform;
+        for (const Metric metric : {QStyle::PM_MaximumDragDistance, QStyle::PM_SplitterWidth,
+                 QStyle::PM_TabBarTabHSpace, QStyle::PM_CustomBase})
+            QCOMPARE(m_style.pixelMetric(metric, nullptr, nullptr),
+                platform.pixelMetric(metric, nullptr, nullptr));
+    }
+
+    // By the option if there is one, else by the widget.
+    void layoutMarginsOfWindowsAreLarger()
+    {
+        QWidget window;
+        moveTo(window, 144);
+        QStyleOption option;
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutTopMargin, nullptr, &window), 16);
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutTopMargin, &option, &window), 13);
+        option.state = QStyle::State_Window;
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutBottomMargin, &option, &window), 16);
+        QWidget *pChild = new QWidget(&window);
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutRightMargin, nullptr, pChild), 13);
+    }
+
+    void toolBarExtensionIsMeasuredOnTheMainWindow()
+    {
+        const TestProgram program;
+        MainWindow main(nullptr);
+        moveTo(main, 192);
+        QWidget other;
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarExtensionExtent, nullptr, &other), 52);
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, &other), 24);
+        QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, nullptr), 48);
+    }
+
+    void titleBarHoldsItsText_data()
+    {
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<bool>("dock");
+        QTest::addColumn<QList<int>>("expected"); // at 72, 96, 120, 143, 144 and 192 DPI
+        QTest::newRow("a window") << int(Qt::Window) << false << QList<int> {13, 18, 22, 26, 27, 36};
+        QTest::newRow("a tool window") << int(Qt::Tool) << false << QList<int> {12, 16, 20, 23, 24, 32};
+        QTest::newRow("a dock") << int(Qt::Window) << true << QList<int> {9, 13, 16, 19, 19, 26};
+    }
+
+    void titleBarHoldsItsText()
+    {
+        QFETCH(int, flags);
+        QFETCH(bool, dock);
+        QDockWidget dockWidget;
+        QWidget plain;
+        QWidget &widget = dock ? dockWidget : plain;
+        QStyleOptionTitleBar option;
+        option.titleBarFlags = Qt::WindowFlags(flags);
+        const auto height = [&](const QWidget *pWidget) {
+            return m_style.pixelMetric(QStyle::PM_TitleBarHeight, &option, pWidget);
+        };
+        QFont font = widget.font();
+        font.setPixelSize(3);
+        widget.setFont(font);
+        QList<int> values;
+        for (const int nDPI : s_dpis) {
+            moveTo(widget, nDPI);
+            values.append(height(&widget));
+        }
+        QTEST(values, "expected");
+        font.setPixelSize(60);
+        widget.setFont(font);
+        QCOMPARE(height(&widget), QFontMetrics(font).height());
+        QApplication::setFont(font);
+        const int nByApplication = height(nullptr);
+        QApplication::setFont(QFont());
+        QCOMPARE(nByApplication, QFontMetrics(font).height());
+    }
+
+    void sliders_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<int>("ticks");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<int>("space");
+        QTest::newRow("lying, ticks on both sides")
+            << Qt::Horizontal << int(QSlider::TicksBothSides) << 5 << 70;
+        QTest::newRow("lying, ticks above") << Qt::Horizontal << int(QSlider::TicksAbove) << 11 << 70;
+        QTest::newRow("lying, ticks below: the platform decides")
+            << Qt::Horizontal << int(QSlider::TicksBelow)
+            << QProxyStyle().pixelMetric(QStyle::PM_SliderTickmarkOffset, nullptr, nullptr) << 70;
+        QTest::newRow("standing, ticks on both sides")
+            << Qt::Vertical << int(QSlider::TicksBothSides) << 45 << -9;
+        QTest::newRow("standing, ticks above") << Qt::Vertical << int(QSlider::TicksAbove) << 90 << -9;
+    }
+
+    void sliders()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(int, ticks);
+        QStyleOptionSlider option;
+        option.rect = QRect(0, 0, 100, 21);
+        option.orientation = orientation;
+        option.tickPosition = QSlider::TickPosition(ticks);
+        QTEST(m_style.pixelMetric(QStyle::PM_SliderTickmarkOffset, &option, nullptr), "offset");
+        QTEST(m_style.pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, nullptr), "space");
+        const QProxyStyle platform;
+        const QStyleOption none;
+        for (const Metric metric : {QStyle::PM_SliderTickmarkOffset, QStyle::PM_SliderSpaceAvailable})
+            QCOMPARE(
+                m_style.pixelMetric(metric, &none, nullptr), platform.pixelMetric(metric, &none, nullptr));
+    }
+
+    void checkBox_data()
+    {
+        QTest::addColumn<int>("dpi");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QColor>("outer");
+        QTest::addColumn<QColor>("inner");
+        const int nEnabled = QStyle::State_Enabled;
+        const int nHover = QStyle::State_MouseOver;
+        const auto rows = [](const char *pName, int nState, QRgb outer, QRgb inner) {
+            for (const int nDPI : s_dpis)
+                QTest::addRow("%s at %d", pName, nDPI) << nDPI << nState << QColor(outer) << QColor(inner);
+        };
+        rows("enabled", nEnabled, 0x494949, 0x2a2a2a);
+        rows("under the mouse", nEnabled | nHover, 0xf7941d, 0x303030);
+        rows("disabled", 0, 0x494949, 0x383838);
+        rows("disabled under the mouse", nHover, 0x494949, 0x383838);
+    }
+
+    void checkBox()
+    {
+        QFETCH(int, dpi);
+        QFETCH(int, state);
+        QFETCH(QColor, outer);
+        QFETCH(QColor, inner);
+        const int nLine = dpi / 96;
+        const int nSide = 13 * dpi / 96;
+        const QRect box(5, 5 + nLine, nSide, nSide);
+        const QImage plain = drawn(dpi, state | QStyle::State_Off);
+        QCOMPARE(areaOf(plain, QColor(Qt::white), true), box);
+        QCOMPARE(plain.pixelColor(box.topLeft()), nLine ? outer : inner);
+        QCOMPARE(plain.pixelColor(box.bottomRight()), nLine ? outer : inner);
+        QCOMPARE(areaOf(plain, inner), box.adjusted(nLine, nLine, -nLine, -nLine));
+
+        const QImage partial = drawn(dpi, state | QStyle::State_NoChange);
+        const QRect square = areaOf(partial, s_text);
+        QCOMPARE(square.center(), areaOf(plain, inner).center());
+        QVERIFY(square.width() > 2 && square.width() < nSide - 2 * nLine - 1);
+        QCOMPARE(square.width(), square.height());
+    }
+
+    // Pixels that the mark fills wholly: with a mark beside the grid there would be none.
+    void checkMarkIsCrispAtEveryScale()
+    {
+        for (const int nDPI : s_dpis) {
+            const QImage image = drawn(nDPI, QStyle::State_Enabled | QStyle::State_On);
+            const QRect mark = areaOf(image, s_text);
+            const QRect inner = areaOf(drawn(nDPI, QStyle::State_Enabled), QColor(0x2a2a2a));
+            QVERIFY2(mark.width() > inner.width() / 3, qPrintable(QString::number(nDPI)));
+            const QRect ink = areaOf(image, QColor(Qt::white), true);
+            QCOMPARE(ink, areaOf(drawn(nDPI, QStyle::State_Enabled), QColor(Qt::white), true));
+            QVERIFY(inner.adjusted(1, 1, -1, -1).contains(mark));
+            QVERIFY(qAbs(mark.center().x() - inner.center().x()) <= 1);
+            QVERIFY(qAbs(mark.center().y() - inner.center().y()) <= 1);
+        }
+    }
+
+    void painterIsLeftAsItWas()
+    {
+        QImage image(20, 20, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.setPen(QPen(Qt::red, 7));
+        QStyleOption option;
+        option.rect = image.rect();
+        option.state = QStyle::State_On | QStyle::State_Enabled;
+        m_style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, nullptr);
+        QCOMPARE(painter.pen(), QPen(Qt::red, 7));
+        QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
+    }
+
+private:
+    const QColor s_text = QColor(0x12, 0xfe, 0x34);
+
+    // On white.
+    [[nodiscard]] QImage drawn(int nDPI, int nState) const
+    {
+        QWidget widget;
+        moveTo(widget, nDPI);
+        QImage image(60, 60, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QStyleOption option;
+        option.rect = QRect(5, 5, 13 * nDPI / 96, 13 * nDPI / 96);
+        option.state = QStyle::State(nState);
+        option.palette.setColor(QPalette::Text, s_text);
+        QPainter painter(&image);
+        m_style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, &widget);
+        return image;
+    }
+
+    // The rectangle around all pixels of a colour, or of all others.
+    static QRect areaOf(const QImage &image, const QColor &colour, bool bOthers = false)
+    {
+        QRect area;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if ((image.pixelColor(x, y) == colour) != bOthers)
+                    area |= QRect(x, y, 1, 1);
+            }
+        }
+        return area;
+    }
+
+    const Proxy m_style;
+};
+
+QTEST_MAIN(tst_KPAppStyle)
+#include "tst_kpappstyle.moc"

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "updatetest.h"
+
+#include "testserver.h"

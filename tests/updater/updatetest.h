@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+// What the tests of the updater share: a home of their own, what would have been opened, and the user's
+// answers to the offer.
+#pragma once
+
+#include <support/coretest.h>
+#include <updater/downloader.h>
+#include <updater/kpreleasenotedlg.h>
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QNetworkAccessManager>
+
+/// A home folder without downloads, and an end to everything being opened for real.
+class TestHome : public QObject
+{
+    Q_OBJECT
+
+public:
+    TestHome()
+    {
+        qputenv("HOME", m_folder.path().toLocal8Bit());
+        for (const QString &strScheme : schemes())
+            QDesktopServices::setUrlHandler(strScheme, this, "open");
+    }
+    ~TestHome() override
+    {
+        for (const QString &strScheme : schemes())
+            QDesktopServices::unsetUrlHandler(strScheme);
+        for (QWidget *pWidget : QApplication::topLevelWidgets())
+            pWidget->hide();
+        qputenv("HOME", m_oldHome);
+    }
+
+    [[nodiscard]] QString path() const { return m_folder.path(); }
+    [[nodiscard]] static QStringList downloads()
+    {
+        return QDir(Downloader::downloadFolder())
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    }
+    [[nodiscard]] static QByteArray content(const QString &strName)
+    {
+        QFile file(Downloader::downloadFolder() + strName);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QStringList opened;
+
+public slots:
+    void open(const QUrl &url) { opened.append(url.toString()); }
+
+private:
+    static QStringList schemes()
+    {
+        return {QStringLiteral("file"), QStringLiteral("http"), QStringLiteral("https"),
+            QStringLiteral("ftp"), QStringLiteral("javascript"), QStringLiteral("mailto")};
+    }
+
+    QTemporaryDir m_folder;
+    const QByteArray m_oldHome = qgetenv("HOME");
+};
+
+/// Presses one button of each offer that comes up, once it can be pressed.
+class OfferAnswers
+{
+public:
+    explicit OfferAnswers(const QString &strButton)
+        : m_strButton(strButton)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { answer(); });
+        m_timer.start(1);
+    }
+
+    QStringList headings;
+
+private:
+    void answer()
+    {
+        auto *pDialog = qobject_cast<KPReleaseNoteDlg *>(QApplication::activeModalWidget());
+        if (!pDialog || !pDialog->isVisible() || pDialog == m_pAnswered)
+            return;
+        auto *pButton = pDialog->findChild<QPushButton *>(m_strButton);
+        if (!pButton->isEnabled())
+            return;
+        m_pAnswered = pDialog;
+        headings.append(pDialog->findChild<QLabel *>(QStringLiteral("m_pHeadingLabel"))->text());
+        pButton->click();
+    }
+
+    const QString m_strButton;
+    QTimer m_timer;
+    QPointer<QWidget> m_pAnswered;
+};
+
+/// A feed with one entry for the platform "windows".
+inline QByteArray feed(const QString &strVersion, const QString &strDownload, const QJsonObject &more = {})
+{
+    QJsonObject entry {{QStringLiteral("latest-version"), strVersion},
+        {QStringLiteral("download-url"), strDownload},
+        {QStringLiteral("changelog"), QStringLiteral("<p>News</p>")}};
+    for (auto it = more.begin(); it != more.end(); ++it)
+        entry[it.key()] = it.value();
+    const QJsonObject updates {{QStringLiteral("windows"), entry}};
+    return QJsonDocument(QJsonObject {{QStringLiteral("updates"), updates}}).toJson();
+}
+
+inline void shortenTimeout(const QObject *pOwner, int nMs)
+{
+    for (auto *pManager : pOwner->findChildren<QNetworkAccessManager *>())
+        pManager->setTransferTimeout(nMs);
+}

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QToolButton>
+#include <QWidget>
+
+/// Looks at a window: are all texts translated, and is there room for them? Texts of the language for tests
+/// stand in brackets. Takes a picture if it has a folder for it.
+class Survey
+{
+public:
+    void setFolder(const QString &strFolder) { m_strFolder = strFolder; }
+    void setName(const QString &strName) { m_strName = strName; }
+    void allowAnyText() { m_bAnyText = true; }
+
+    void look(QWidget *pWindow, const QString &strWhat)
+    {
+        m_strWhat = strWhat;
+        if (pWindow->isWindow())
+            checkText(pWindow, pWindow->windowTitle());
+        checkWidget(pWindow);
+        const auto children = pWindow->findChildren<QWidget *>();
+        for (QWidget *pChild : children) {
+            if (pChild->isVisibleTo(pWindow) && pChild->window() == pWindow)
+                checkWidget(pChild);
+        }
+        if (m_strFolder.isEmpty())
+            return;
+        QDir().mkpath(m_strFolder);
+        pWindow->grab().save(QStringLiteral("%1/%2-%3.png").arg(m_strFolder, strWhat, m_strName));
+    }
+
+    QStringList takeFaults() { return std::exchange(m_faults, {}); }
+
+private:
+    // Names, paths and numbers are the same in every language; standard buttons and the like have Qt's texts.
+    static bool isOurs(const QWidget *pWidget, const QString &strText)
+    {
+        static const QStringList s_names = {"Kelpa Studio", "card", "Card", "Kelpa Studio*"};
+        const bool bLetters =
+            std::any_of(strText.cbegin(), strText.cend(), [](QChar c) { return c.isLetter(); });
+        if (!bLetters || s_names.contains(strText) || strText.contains('/'))
+            return false;
+        return !qobject_cast<const QDialogButtonBox *>(pWidget->parentWidget())
+            && !pWidget->inherits("CloseButton") && !pWidget->objectName().startsWith("qt_")
+            && !pWidget->objectName().contains("language", Qt::CaseInsensitive);
+    }
+
+    void fault(const QWidget *pWidget, const QString &strFault)
+    {
+        m_faults.append(
+            QString("%1: %2 \"%3\": %4")
+                .arg(m_strWhat, pWidget->metaObject()->className(), pWidget->objectName(), strFault));
+    }
+
+    void checkText(const QWidget *pWidget, const QString &strText)
+    {
+        if (!m_bAnyText && isOurs(pWidget, strText) && !(strText.contains('[') && strText.contains("~]")))
+            fault(pWidget, "not translated: " + strText);
+    }
+
+    void checkTexts(const QWidget *pWidget, const QStringList &texts)
+    {
+        for (const QString &strText : texts)
+            checkText(pWidget, strText);
+    }
+
+    void checkRoom(const QWidget *pWidget, const QSize &needed)
+    {
+        if (pWidget->width() < needed.width() || pWidget->height() < needed.height())
+            fault(pWidget,
+                QString("needs %1 x %2, has %3 x %4")
+                    .arg(needed.width())
+                    .arg(needed.height())
+                    .arg(pWidget->width())
+                    .arg(pWidget->height()));
+    }
+
+    void checkWidget(QWidget *pWidget)
+    {
+        checkTexts(pWidget, {pWidget->toolTip(), pWidget->accessibleName(), pWidget->statusTip()});
+        if (const auto *pLabel = qobject_cast<QLabel *>(pWidget))
+            checkLabel(pLabel);
+        else if (const auto *pButton = qobject_cast<QAbstractButton *>(pWidget))
+            checkButton(pButton);
+        else if (const auto *pBox = qobject_cast<QGroupBox *>(pWidget))
+            checkTitled(pBox, pBox->title());
+        else if (const auto *pEdit = qobject_cast<QLineEdit *>(pWidget))
+            checkText(pEdit, pEdit->placeholderText());
+        else if (const auto *pMenu = qobject_cast<QMenu *>(pWidget))
+            checkActions(pMenu);
+        else if (const auto *pList = qobject_cast<QListWidget *>(pWidget))
+            checkList(pList);
+        else if (qobject_cast<QAbstractSpinBox *>(pWidget) || qobject_cast<QComboBox *>(pWidget))
+            checkRoom(pWidget, pWidget->minimumSizeHint());
+    }
+
+    // One line that gives way shows the rest as its tool tip.
+    void checkLabel(const QLabel *pLabel)
+    {
+        checkText(pLabel, pLabel->text());
+        if (pLabel->text().isEmpty() || pLabel->objectName() == "m_pMessageLabel")
+            return;
+        if (pLabel->wordWrap())
+            checkRoom(pLabel, QSize(0, pLabel->heightForWidth(pLabel->width())));
+        else
+            checkRoom(pLabel, pLabel->sizeHint());
+    }
+
+    void checkButton(const QAbstractButton *pButton)
+    {
+        const auto *pToolButton = qobject_cast<const QToolButton *>(pButton);
+        checkText(pButton, pButton->text());
+        if (pToolButton && pToolButton->defaultAction())
+            checkTexts(
+                pButton, {pToolButton->defaultAction()->toolTip(), pToolButton->defaultAction()->text()});
+        const bool bIconOnly = pToolButton && pToolButton->toolButtonStyle() == Qt::ToolButtonIconOnly;
+        if (!pButton->text().isEmpty() && !bIconOnly)
+            checkRoom(pButton, pButton->minimumSizeHint());
+        else if (pButton->text().isEmpty() && pButton->accessibleName().isEmpty()
+            && pButton->toolTip().isEmpty() && pButton->isEnabled()
+            && !pButton->objectName().startsWith("qt_"))
+            fault(pButton, "has neither a text nor a name");
+    }
+
+    void checkTitled(const QWidget *pBox, const QString &strTitle)
+    {
+        checkText(pBox, strTitle);
+        checkRoom(pBox, pBox->minimumSizeHint());
+    }
+
+    void checkActions(const QMenu *pMenu)
+    {
+        const auto actions = pMenu->actions();
+        for (const QAction *pAction : actions) {
+            if (!pAction->isSeparator() && pAction->isVisible() && !pMenu->objectName().endsWith("Language"))
+                checkTexts(pMenu, {pAction->text(), pAction->toolTip(), pAction->statusTip()});
+        }
+        checkRoom(pMenu, pMenu->sizeHint());
+    }
+
+    void checkList(const QListWidget *pList)
+    {
+        for (int i = 0; i < pList->count(); ++i)
+            checkText(pList, pList->item(i)->text());
+        if (pList->count() > 0 && pList->viewport()->width() < pList->sizeHintForColumn(0))
+            fault(pList, "cuts its entries off");
+    }
+
+    QString m_strFolder;
+    QString m_strName;
+    QString m_strWhat;
+    QStringList m_faults;
+    bool m_bAnyText = false;
+};

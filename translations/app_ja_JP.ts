@@ -1,0 +1,776 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>AppearancePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>メインウィンドウがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>BackupOptionPage</name>
+    <message>
+        <source>Backup</source>
+        <translation>バックアップ</translation>
+    </message>
+    <message>
+        <source>&amp;Back up open projects automatically</source>
+        <translation>開いているプロジェクトを自動的にバックアップする(&amp;B)</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Seconds between two backups</source>
+        <translation>バックアップの間隔（秒）</translation>
+    </message>
+    <message>
+        <source>&amp;Interval:</source>
+        <translation>間隔(&amp;I):</translation>
+    </message>
+</context>
+<context>
+    <name>EditingOptionPage</name>
+    <message>
+        <source>Editing</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>&amp;Paste SVG as freeform shapes</source>
+        <translation>SVG を自由な図形として貼り付ける(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Horizontal breakpoints</source>
+        <translation>横方向のブレークポイント</translation>
+    </message>
+    <message>
+        <source>Vertical breakpoints</source>
+        <translation>縦方向のブレークポイント</translation>
+    </message>
+    <message>
+        <source>Restore &amp;Defaults</source>
+        <translation>既定値に戻す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Restore the default breakpoints</source>
+        <translation>既定のブレークポイントに戻す</translation>
+    </message>
+    <message>
+        <source>%1, in pixels</source>
+        <translation>%1（ピクセル）</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionSystem::CommandLine</name>
+    <message>
+        <source>Look for plug-ins here too; may be repeated.</source>
+        <translation>ここでもプラグインを探します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Load only this plug-in and what it needs; may be repeated.</source>
+        <translation>このプラグインと必要なものだけを読み込みます。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Leave this plug-in out; may be repeated.</source>
+        <translation>このプラグインを除外します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Keep the user&apos;s settings here.</source>
+        <translation>ユーザーの設定をここに保存します。</translation>
+    </message>
+    <message>
+        <source>Print how long each plug-in takes to start.</source>
+        <translation>各プラグインの起動時間を表示します。</translation>
+    </message>
+    <message>
+        <source>Start even when the program is already running.</source>
+        <translation>プログラムがすでに実行中でも起動します。</translation>
+    </message>
+    <message>
+        <source>Print the version and exit.</source>
+        <translation>バージョンを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Print this help and exit.</source>
+        <translation>このヘルプを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Projects to open.</source>
+        <translation>開くプロジェクト。</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionSystem::PluginManager</name>
+    <message>
+        <source>--help lists the options.</source>
+        <translation>オプションの一覧は --help で表示されます。</translation>
+    </message>
+    <message>
+        <source>No plug-in could be loaded from %1.</source>
+        <translation>%1 からプラグインを読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 cannot start.</source>
+        <translation>%1 を起動できません。</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionSystem::SingleInstance</name>
+    <message>
+        <source>There is no safe place for the socket on which other starts could be heard.</source>
+        <translation>ほかの起動を受け付けるソケットの安全な置き場所がありません。</translation>
+    </message>
+    <message>
+        <source>The command line is too long to hand over to a running instance.</source>
+        <translation>コマンドラインが長すぎて、実行中のプログラムに渡せません。</translation>
+    </message>
+    <message>
+        <source>The running instance does not answer; another one is started.</source>
+        <translation>実行中のプログラムが応答しないため、もう一つ起動します。</translation>
+    </message>
+    <message>
+        <source>The lock file %1 cannot be had; another instance is started.</source>
+        <translation>ロックファイル %1 を取得できないため、もう一つ起動します。</translation>
+    </message>
+    <message>
+        <source>The running instance cannot be reached (%1); another one is started.</source>
+        <translation>実行中のプログラムに接続できないため（%1）、もう一つ起動します。</translation>
+    </message>
+    <message>
+        <source>Other starts cannot be heard on %1: %2</source>
+        <translation>%1 でほかの起動を受け付けられません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralOptionPage</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>言語(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Another language takes effect at the next start.</source>
+        <translation>言語の変更は次回の起動時に反映されます。</translation>
+    </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>言語を変更できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>IDocument</name>
+    <message>
+        <source>Save changes made to %1?</source>
+        <translation>%1 への変更を保存しますか？</translation>
+    </message>
+    <message>
+        <source>Could not save project %1.</source>
+        <translation>プロジェクト %1 を保存できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMenuWidget</name>
+    <message>
+        <source>Restore Down</source>
+        <translation>元のサイズに戻す</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>KPNotificationBar</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>最近使ったプロジェクト</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>File.New</source>
+        <translation>File.New</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新規(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Create a new project</source>
+        <translation>新しいプロジェクトを作成します</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>プロジェクトを開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Open an existing project</source>
+        <translation>既存のプロジェクトを開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save the current project</source>
+        <translation>現在のプロジェクトを保存します</translation>
+    </message>
+    <message>
+        <source>Other Project</source>
+        <translation>別のプロジェクト</translation>
+    </message>
+    <message>
+        <source>Save the current project as a new one</source>
+        <translation>現在のプロジェクトを新しいプロジェクトとして保存します</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the current project</source>
+        <translation>現在のプロジェクトを閉じます</translation>
+    </message>
+    <message>
+        <source>Preview Current Scene in Browser</source>
+        <translation>現在のシーンをブラウザーでプレビュー</translation>
+    </message>
+    <message>
+        <source>Preview Project in Browser</source>
+        <translation>プロジェクトをブラウザーでプレビュー</translation>
+    </message>
+    <message>
+        <source>Export to HTML5</source>
+        <translation>HTML5 に書き出し</translation>
+    </message>
+    <message>
+        <source>Export to Video</source>
+        <translation>動画に書き出し</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>終了(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>プログラムを終了します</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>設定(&amp;P)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>Help Contents</source>
+        <translation>ヘルプの目次</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>問題を報告</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>提案を送る</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>更新を確認...</translation>
+    </message>
+    <message>
+        <source>The language change will take effect from the next run.</source>
+        <translation>言語の変更は次回の起動時に反映されます。</translation>
+    </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>言語を変更できませんでした。</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Help document is missing.</source>
+        <translation>ヘルプ文書が見つかりません。</translation>
+    </message>
+    <message>
+        <source>Could not open help file.</source>
+        <translation>ヘルプファイルを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Cannot open this file type.</source>
+        <translation>この種類のファイルは開けません。</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>プロジェクト [%1] は存在しません。
+この項目を履歴から削除しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>The file holds no shortcuts.</source>
+        <translation>ファイルにショートカットがありません。</translation>
+    </message>
+    <message>
+        <source>The shortcut of &quot;%1&quot; is no key sequence.</source>
+        <translation>&quot;%1&quot; のショートカットはキー操作ではありません。</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>ファイルが大きすぎます。</translation>
+    </message>
+</context>
+<context>
+    <name>StageCommands</name>
+    <message>
+        <source>add %1</source>
+        <translation>%1 の追加</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>move</source>
+        <translation>移動</translation>
+    </message>
+</context>
+<context>
+    <name>StageDocument</name>
+    <message>
+        <source>Could not create project %1.
+A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
+        <translation>プロジェクト %1 を作成できませんでした。
+%2 × %3 ピクセル、毎秒 %4 フレームのステージは作れません。</translation>
+    </message>
+    <message>
+        <source>Scene 1</source>
+        <translation>シーン 1</translation>
+    </message>
+    <message>
+        <source>Could not open project %1.</source>
+        <translation>プロジェクト %1 を開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Could not read project %1 again.</source>
+        <translation>プロジェクト %1 を読み直せませんでした。</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>%1 を保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 を保存しました</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>名前を付けてプロジェクトを保存</translation>
+    </message>
+    <message>
+        <source>Kelpa projects (*%1)</source>
+        <translation>Kelpa プロジェクト (*%1)</translation>
+    </message>
+    <message>
+        <source>%1 exists. Replace it?</source>
+        <translation>%1 はすでに存在します。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 は開かれています。先に閉じてください。</translation>
+    </message>
+</context>
+<context>
+    <name>StageEditor</name>
+    <message>
+        <source>Sce&amp;ne:</source>
+        <translation>シーン(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>シーン</translation>
+    </message>
+</context>
+<context>
+    <name>StageFactory</name>
+    <message>
+        <source>Open Project</source>
+        <translation>プロジェクトを開く</translation>
+    </message>
+    <message>
+        <source>Kelpa projects (*.kelpa)</source>
+        <translation>Kelpa プロジェクト (*.kelpa)</translation>
+    </message>
+</context>
+<context>
+    <name>StageNewDialog</name>
+    <message>
+        <source>New Project</source>
+        <translation>新規プロジェクト</translation>
+    </message>
+    <message>
+        <source>&amp;Width (pixels):</source>
+        <translation>幅（ピクセル）(&amp;W):</translation>
+    </message>
+    <message>
+        <source>&amp;Height (pixels):</source>
+        <translation>高さ（ピクセル）(&amp;H):</translation>
+    </message>
+    <message>
+        <source>&amp;Frames per second:</source>
+        <translation>毎秒のフレーム数(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;Responsive: follow the width of the page</source>
+        <translation>レスポンシブ: ページの幅に合わせる(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Responsive</source>
+        <translation>レスポンシブ</translation>
+    </message>
+    <message>
+        <source>What is missing</source>
+        <translation>足りないもの</translation>
+    </message>
+    <message>
+        <source>&amp;Project file:</source>
+        <translation>プロジェクトファイル(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Project file</source>
+        <translation>プロジェクトファイル</translation>
+    </message>
+    <message>
+        <source>untitled</source>
+        <translation>無題</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Browse for the project file</source>
+        <translation>プロジェクトファイルを参照</translation>
+    </message>
+    <message>
+        <source>Kelpa projects (*%1)</source>
+        <translation>Kelpa プロジェクト (*%1)</translation>
+    </message>
+    <message>
+        <source>Enter the name of the project file.</source>
+        <translation>プロジェクトファイルの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>Enter the whole path of the project file, with its folder.</source>
+        <translation>プロジェクトファイルの完全なパスをフォルダーも含めて入力してください。</translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>フォルダー %1 は存在しません。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written to.</source>
+        <translation>フォルダー %1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 はファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%1 exists. Replace it?</source>
+        <translation>%1 はすでに存在します。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 は開かれています。先に閉じてください。</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionsDlg</name>
+    <message>
+        <source>Preferences</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>StagePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>メインウィンドウがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>StageReader</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>is missing; it must be %1</source>
+        <translation>がありません。%1 でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be %1, not %2</source>
+        <translation>は %2 ではなく %1 でなければなりません</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>%1 から %2 までの数</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数</translation>
+    </message>
+    <message>
+        <source>a text of %1 to %2 characters</source>
+        <translation>%1 から %2 文字のテキスト</translation>
+    </message>
+    <message>
+        <source>a colour such as &quot;#0080ff&quot;, or &quot;none&quot;</source>
+        <translation>&quot;#0080ff&quot; のような色、または &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true または false</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>%1 のいずれか</translation>
+    </message>
+    <message>
+        <source>the project was written by a newer program (format version %1; this program reads up to %2)</source>
+        <translation>プロジェクトは新しいプログラムで書かれています（形式バージョン %1、このプログラムは %2 まで読めます）</translation>
+    </message>
+    <message>
+        <source>must hold 1 to %1 scenes, not %2</source>
+        <translation>には %2 ではなく 1 から %1 のシーンが必要です</translation>
+    </message>
+    <message>
+        <source>a project may hold %1 elements at most</source>
+        <translation>プロジェクトに入れられる要素は最大 %1 個です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is used by another element</source>
+        <translation>&quot;%1&quot; は別の要素で使われています</translation>
+    </message>
+    <message>
+        <source>the path of a file</source>
+        <translation>ファイルのパス</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>%1 行 %2 列</translation>
+    </message>
+    <message>
+        <source>the file holds more than %1 values</source>
+        <translation>ファイルの値が %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>%1: not valid JSON (%2)</source>
+        <translation>%1: 正しい JSON ではありません（%2）</translation>
+    </message>
+    <message>
+        <source>line 1: the file must hold an object</source>
+        <translation>1 行: ファイルにはオブジェクトが必要です</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>ファイルが存在しません</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1</source>
+        <translation>ファイルが %1 を超えています</translation>
+    </message>
+</context>
+<context>
+    <name>StageToolBar</name>
+    <message>
+        <source>Add &amp;Rectangle</source>
+        <translation>四角形を追加(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Add &amp;Ellipse</source>
+        <translation>楕円を追加(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Add &amp;Text</source>
+        <translation>テキストを追加(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Add &amp;Image...</source>
+        <translation>画像を追加(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Add Image</source>
+        <translation>画像を追加</translation>
+    </message>
+    <message>
+        <source>Images (*.svg *.png *.jpg *.jpeg *.gif)</source>
+        <translation>画像 (*.svg *.png *.jpg *.jpeg *.gif)</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>ステージ</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Undo the last change</source>
+        <translation>最後の変更を元に戻します</translation>
+    </message>
+    <message>
+        <source>Redo the last change undone</source>
+        <translation>元に戻した最後の変更をやり直します</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete (Del)</source>
+        <translation>削除 (Del)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>The project holds as many elements as it can.</source>
+        <translation>プロジェクトにはこれ以上要素を追加できません。</translation>
+    </message>
+</context>
+<context>
+    <name>StageView</name>
+    <message>
+        <source>Stage</source>
+        <translation>ステージ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n element(s) selected</source>
+        <translation>
+            <numerusform>%n 個の要素を選択中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 selected, at %2, %3</source>
+        <translation>%1 を選択中、位置 %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>Failed to change theme.</source>
+        <translation>テーマを変更できませんでした。</translation>
+    </message>
+    <message>
+        <source>The theme change will take effect from the next run.</source>
+        <translation>テーマの変更は次回の起動時に反映されます。</translation>
+    </message>
+</context>
+</TS>

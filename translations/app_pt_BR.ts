@@ -1,0 +1,777 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en_US">
+<context>
+    <name>AppearancePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Não há janela principal.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupOptionPage</name>
+    <message>
+        <source>Backup</source>
+        <translation>Cópia de segurança</translation>
+    </message>
+    <message>
+        <source>&amp;Back up open projects automatically</source>
+        <translation>Fazer cópias de segurança &amp;automáticas dos projetos abertos</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Seconds between two backups</source>
+        <translation>Segundos entre duas cópias de segurança</translation>
+    </message>
+    <message>
+        <source>&amp;Interval:</source>
+        <translation>&amp;Intervalo:</translation>
+    </message>
+</context>
+<context>
+    <name>EditingOptionPage</name>
+    <message>
+        <source>Editing</source>
+        <translation>Edição</translation>
+    </message>
+    <message>
+        <source>&amp;Paste SVG as freeform shapes</source>
+        <translation>&amp;Colar SVG como formas livres</translation>
+    </message>
+    <message>
+        <source>Horizontal breakpoints</source>
+        <translation>Pontos de quebra horizontais</translation>
+    </message>
+    <message>
+        <source>Vertical breakpoints</source>
+        <translation>Pontos de quebra verticais</translation>
+    </message>
+    <message>
+        <source>Restore &amp;Defaults</source>
+        <translation>&amp;Restaurar padrões</translation>
+    </message>
+    <message>
+        <source>Restore the default breakpoints</source>
+        <translation>Restaurar os pontos de quebra padrão</translation>
+    </message>
+    <message>
+        <source>%1, in pixels</source>
+        <translation>%1, em pixels</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionSystem::CommandLine</name>
+    <message>
+        <source>Look for plug-ins here too; may be repeated.</source>
+        <translation>Procurar plug-ins também aqui; pode ser repetido.</translation>
+    </message>
+    <message>
+        <source>Load only this plug-in and what it needs; may be repeated.</source>
+        <translation>Carregar somente este plug-in e o que ele precisa; pode ser repetido.</translation>
+    </message>
+    <message>
+        <source>Leave this plug-in out; may be repeated.</source>
+        <translation>Deixar este plug-in de fora; pode ser repetido.</translation>
+    </message>
+    <message>
+        <source>Keep the user&apos;s settings here.</source>
+        <translation>Guardar aqui as configurações do usuário.</translation>
+    </message>
+    <message>
+        <source>Print how long each plug-in takes to start.</source>
+        <translation>Mostrar quanto tempo cada plug-in leva para iniciar.</translation>
+    </message>
+    <message>
+        <source>Start even when the program is already running.</source>
+        <translation>Iniciar mesmo que o programa já esteja em execução.</translation>
+    </message>
+    <message>
+        <source>Print the version and exit.</source>
+        <translation>Mostrar a versão e sair.</translation>
+    </message>
+    <message>
+        <source>Print this help and exit.</source>
+        <translation>Mostrar esta ajuda e sair.</translation>
+    </message>
+    <message>
+        <source>Projects to open.</source>
+        <translation>Projetos a abrir.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionSystem::PluginManager</name>
+    <message>
+        <source>--help lists the options.</source>
+        <translation>--help lista as opções.</translation>
+    </message>
+    <message>
+        <source>No plug-in could be loaded from %1.</source>
+        <translation>Nenhum plug-in pôde ser carregado de %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot start.</source>
+        <translation>%1 não pode iniciar.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionSystem::SingleInstance</name>
+    <message>
+        <source>There is no safe place for the socket on which other starts could be heard.</source>
+        <translation>Não há lugar seguro para o soquete que receberia outras inicializações.</translation>
+    </message>
+    <message>
+        <source>The command line is too long to hand over to a running instance.</source>
+        <translation>A linha de comando é longa demais para ser entregue a um programa em execução.</translation>
+    </message>
+    <message>
+        <source>The running instance does not answer; another one is started.</source>
+        <translation>O programa em execução não responde; outro é iniciado.</translation>
+    </message>
+    <message>
+        <source>The lock file %1 cannot be had; another instance is started.</source>
+        <translation>O arquivo de bloqueio %1 não pode ser obtido; outro programa é iniciado.</translation>
+    </message>
+    <message>
+        <source>The running instance cannot be reached (%1); another one is started.</source>
+        <translation>O programa em execução não pode ser alcançado (%1); outro é iniciado.</translation>
+    </message>
+    <message>
+        <source>Other starts cannot be heard on %1: %2</source>
+        <translation>Outras inicializações não podem ser recebidas em %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralOptionPage</name>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Another language takes effect at the next start.</source>
+        <translation>Outro idioma passa a valer na próxima inicialização.</translation>
+    </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>Não foi possível mudar o idioma.</translation>
+    </message>
+</context>
+<context>
+    <name>IDocument</name>
+    <message>
+        <source>Save changes made to %1?</source>
+        <translation>Salvar as alterações em %1?</translation>
+    </message>
+    <message>
+        <source>Could not save project %1.</source>
+        <translation>Não foi possível salvar o projeto %1.</translation>
+    </message>
+</context>
+<context>
+    <name>IMainMenuWidget</name>
+    <message>
+        <source>Restore Down</source>
+        <translation>Restaurar tamanho</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+</context>
+<context>
+    <name>KPNotificationBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informação</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projetos recentes</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Salvar como</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>File.New</source>
+        <translation>File.New</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Novo</translation>
+    </message>
+    <message>
+        <source>Create a new project</source>
+        <translation>Criar um novo projeto</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>&amp;Abrir projeto</translation>
+    </message>
+    <message>
+        <source>Open an existing project</source>
+        <translation>Abrir um projeto existente</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salvar</translation>
+    </message>
+    <message>
+        <source>Save the current project</source>
+        <translation>Salvar o projeto atual</translation>
+    </message>
+    <message>
+        <source>Other Project</source>
+        <translation>Outro projeto</translation>
+    </message>
+    <message>
+        <source>Save the current project as a new one</source>
+        <translation>Salvar o projeto atual como um novo</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>Close the current project</source>
+        <translation>Fechar o projeto atual</translation>
+    </message>
+    <message>
+        <source>Preview Current Scene in Browser</source>
+        <translation>Visualizar cena atual no navegador</translation>
+    </message>
+    <message>
+        <source>Preview Project in Browser</source>
+        <translation>Visualizar projeto no navegador</translation>
+    </message>
+    <message>
+        <source>Export to HTML5</source>
+        <translation>Exportar para HTML5</translation>
+    </message>
+    <message>
+        <source>Export to Video</source>
+        <translation>Exportar para vídeo</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>Sai&amp;r</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Sair do programa</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>&amp;Preferências</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Help Contents</source>
+        <translation>Conteúdo da ajuda</translation>
+    </message>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Relatar um problema</translation>
+    </message>
+    <message>
+        <source>Provide a Suggestion</source>
+        <translation>Dar uma sugestão</translation>
+    </message>
+    <message>
+        <source>Check Updates...</source>
+        <translation>Verificar atualizações...</translation>
+    </message>
+    <message>
+        <source>The language change will take effect from the next run.</source>
+        <translation>A mudança de idioma terá efeito na próxima execução.</translation>
+    </message>
+    <message>
+        <source>Failed to change language.</source>
+        <translation>Não foi possível mudar o idioma.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Help document is missing.</source>
+        <translation>O documento de ajuda está faltando.</translation>
+    </message>
+    <message>
+        <source>Could not open help file.</source>
+        <translation>Não foi possível abrir o arquivo de ajuda.</translation>
+    </message>
+    <message>
+        <source>Cannot open this file type.</source>
+        <translation>Não é possível abrir este tipo de arquivo.</translation>
+    </message>
+    <message>
+        <source>The project [%1] no longer exists.
+Do you want to remove this entry from history?</source>
+        <translation>O projeto [%1] não existe mais.
+Deseja remover esta entrada do histórico?</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>The file holds no shortcuts.</source>
+        <translation>O arquivo não contém atalhos.</translation>
+    </message>
+    <message>
+        <source>The shortcut of &quot;%1&quot; is no key sequence.</source>
+        <translation>O atalho de &quot;%1&quot; não é uma sequência de teclas.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>O arquivo é grande demais.</translation>
+    </message>
+</context>
+<context>
+    <name>StageCommands</name>
+    <message>
+        <source>add %1</source>
+        <translation>adicionar %1</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>excluir</translation>
+    </message>
+    <message>
+        <source>move</source>
+        <translation>mover</translation>
+    </message>
+</context>
+<context>
+    <name>StageDocument</name>
+    <message>
+        <source>Could not create project %1.
+A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
+        <translation>Não foi possível criar o projeto %1.
+Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</translation>
+    </message>
+    <message>
+        <source>Scene 1</source>
+        <translation>Cena 1</translation>
+    </message>
+    <message>
+        <source>Could not open project %1.</source>
+        <translation>Não foi possível abrir o projeto %1.</translation>
+    </message>
+    <message>
+        <source>Could not read project %1 again.</source>
+        <translation>Não foi possível ler novamente o projeto %1.</translation>
+    </message>
+    <message>
+        <source>Could not save %1: %2</source>
+        <translation>Não foi possível salvar %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 salvo</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Salvar projeto como</translation>
+    </message>
+    <message>
+        <source>Kelpa projects (*%1)</source>
+        <translation>Projetos Kelpa (*%1)</translation>
+    </message>
+    <message>
+        <source>%1 exists. Replace it?</source>
+        <translation>%1 já existe. Substituir?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 está aberto. Feche-o primeiro.</translation>
+    </message>
+</context>
+<context>
+    <name>StageEditor</name>
+    <message>
+        <source>Sce&amp;ne:</source>
+        <translation>Ce&amp;na:</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Cena</translation>
+    </message>
+</context>
+<context>
+    <name>StageFactory</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir projeto</translation>
+    </message>
+    <message>
+        <source>Kelpa projects (*.kelpa)</source>
+        <translation>Projetos Kelpa (*.kelpa)</translation>
+    </message>
+</context>
+<context>
+    <name>StageNewDialog</name>
+    <message>
+        <source>New Project</source>
+        <translation>Novo projeto</translation>
+    </message>
+    <message>
+        <source>&amp;Width (pixels):</source>
+        <translation>&amp;Largura (pixels):</translation>
+    </message>
+    <message>
+        <source>&amp;Height (pixels):</source>
+        <translation>&amp;Altura (pixels):</translation>
+    </message>
+    <message>
+        <source>&amp;Frames per second:</source>
+        <translation>&amp;Quadros por segundo:</translation>
+    </message>
+    <message>
+        <source>&amp;Responsive: follow the width of the page</source>
+        <translation>&amp;Responsivo: acompanhar a largura da página</translation>
+    </message>
+    <message>
+        <source>Responsive</source>
+        <translation>Responsivo</translation>
+    </message>
+    <message>
+        <source>What is missing</source>
+        <translation>O que falta</translation>
+    </message>
+    <message>
+        <source>&amp;Project file:</source>
+        <translation>Arquivo do &amp;projeto:</translation>
+    </message>
+    <message>
+        <source>Project file</source>
+        <translation>Arquivo do projeto</translation>
+    </message>
+    <message>
+        <source>untitled</source>
+        <translation>sem título</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>Pr&amp;ocurar...</translation>
+    </message>
+    <message>
+        <source>Browse for the project file</source>
+        <translation>Procurar o arquivo do projeto</translation>
+    </message>
+    <message>
+        <source>Kelpa projects (*%1)</source>
+        <translation>Projetos Kelpa (*%1)</translation>
+    </message>
+    <message>
+        <source>Enter the name of the project file.</source>
+        <translation>Digite o nome do arquivo do projeto.</translation>
+    </message>
+    <message>
+        <source>Enter the whole path of the project file, with its folder.</source>
+        <translation>Digite o caminho completo do arquivo do projeto, com a pasta.</translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>A pasta %1 não existe.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written to.</source>
+        <translation>Não é possível gravar na pasta %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Replace it?</source>
+        <translation>%1 já existe. Substituir?</translation>
+    </message>
+    <message>
+        <source>%1 is open. Close it first.</source>
+        <translation>%1 está aberto. Feche-o primeiro.</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionsDlg</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferências</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+</context>
+<context>
+    <name>StagePlugin</name>
+    <message>
+        <source>There is no main window.</source>
+        <translation>Não há janela principal.</translation>
+    </message>
+</context>
+<context>
+    <name>StageReader</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>is missing; it must be %1</source>
+        <translation>está faltando; deve ser %1</translation>
+    </message>
+    <message>
+        <source>must be %1, not %2</source>
+        <translation>deve ser %1, não %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>um número de %1 a %2</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>um número inteiro de %1 a %2</translation>
+    </message>
+    <message>
+        <source>a text of %1 to %2 characters</source>
+        <translation>um texto de %1 a %2 caracteres</translation>
+    </message>
+    <message>
+        <source>a colour such as &quot;#0080ff&quot;, or &quot;none&quot;</source>
+        <translation>uma cor como &quot;#0080ff&quot;, ou &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true ou false</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>uma lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>um objeto</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>um de %1</translation>
+    </message>
+    <message>
+        <source>the project was written by a newer program (format version %1; this program reads up to %2)</source>
+        <translation>o projeto foi gravado por um programa mais novo (versão do formato %1; este programa lê até %2)</translation>
+    </message>
+    <message>
+        <source>must hold 1 to %1 scenes, not %2</source>
+        <translation>deve conter de 1 a %1 cenas, não %2</translation>
+    </message>
+    <message>
+        <source>a project may hold %1 elements at most</source>
+        <translation>um projeto pode conter no máximo %1 elementos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is used by another element</source>
+        <translation>&quot;%1&quot; já é usado por outro elemento</translation>
+    </message>
+    <message>
+        <source>the path of a file</source>
+        <translation>o caminho de um arquivo</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>linha %1, coluna %2</translation>
+    </message>
+    <message>
+        <source>the file holds more than %1 values</source>
+        <translation>o arquivo contém mais de %1 valores</translation>
+    </message>
+    <message>
+        <source>%1: not valid JSON (%2)</source>
+        <translation>%1: JSON inválido (%2)</translation>
+    </message>
+    <message>
+        <source>line 1: the file must hold an object</source>
+        <translation>linha 1: o arquivo deve conter um objeto</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>o arquivo não existe</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>não é um arquivo comum</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1</source>
+        <translation>o arquivo é maior que %1</translation>
+    </message>
+</context>
+<context>
+    <name>StageToolBar</name>
+    <message>
+        <source>Add &amp;Rectangle</source>
+        <translation>Adicionar &amp;retângulo</translation>
+    </message>
+    <message>
+        <source>Add &amp;Ellipse</source>
+        <translation>Adicionar &amp;elipse</translation>
+    </message>
+    <message>
+        <source>Add &amp;Text</source>
+        <translation>Adicionar &amp;texto</translation>
+    </message>
+    <message>
+        <source>Add &amp;Image...</source>
+        <translation>Adicionar &amp;imagem...</translation>
+    </message>
+    <message>
+        <source>Add Image</source>
+        <translation>Adicionar imagem</translation>
+    </message>
+    <message>
+        <source>Images (*.svg *.png *.jpg *.jpeg *.gif)</source>
+        <translation>Imagens (*.svg *.png *.jpg *.jpeg *.gif)</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Palco</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Undo the last change</source>
+        <translation>Desfazer a última alteração</translation>
+    </message>
+    <message>
+        <source>Redo the last change undone</source>
+        <translation>Refazer a última alteração desfeita</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;xcluir</translation>
+    </message>
+    <message>
+        <source>Delete (Del)</source>
+        <translation>Excluir (Del)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>The project holds as many elements as it can.</source>
+        <translation>O projeto já contém o máximo de elementos.</translation>
+    </message>
+</context>
+<context>
+    <name>StageView</name>
+    <message>
+        <source>Stage</source>
+        <translation>Palco</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n element(s) selected</source>
+        <translation>
+            <numerusform>%n elemento selecionado</numerusform>
+            <numerusform>%n elementos selecionados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 selected, at %2, %3</source>
+        <translation>%1 selecionado, em %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Dark</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Failed to change theme.</source>
+        <translation>Não foi possível mudar o tema.</translation>
+    </message>
+    <message>
+        <source>The theme change will take effect from the next run.</source>
+        <translation>A mudança de tema terá efeito na próxima execução.</translation>
+    </message>
+</context>
+</TS>
