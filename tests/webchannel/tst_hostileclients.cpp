@@ -407,7 +407,6 @@ private slots:
         row("broken JSON of 1 MB", brokenAtItsEnd(1000000), 20, true, 40);
         row("broken JSON of 16 MB", brokenAtItsEnd(16000000), 60, true, 300);
         row("objects without a type", frame(R"({"a":1})"), 2, true, 24);
-        row("text for the standard output", frame(R"({"type":5,"data":"x"})"), 2, true, 24);
         row("a request without an id and 16 MB of numbers",
             frame(
                 QByteArray(R"({"type":3,"a":[MORE1]})").replace("MORE", QByteArray("1,").repeated(8000000))),
