@@ -486,6 +486,10 @@ Soll der Eintrag aus dem Verlauf entfernt werden?</translation>
         <source>Restore</source>
         <translation>Wiederherstellen</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>Weitere Menüs</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>

@@ -486,6 +486,10 @@ Do you want to remove this entry from history?</source>
         <source>Restore</source>
         <translation>Restaurar</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>Más menús</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>

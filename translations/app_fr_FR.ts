@@ -486,6 +486,10 @@ Voulez-vous retirer cette entrée de l&apos;historique ?</translation>
         <source>Restore</source>
         <translation>Restaurer</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>Autres menus</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>

@@ -486,6 +486,10 @@ Do you want to remove this entry from history?</source>
         <source>Restore</source>
         <translation>元に戻す</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>その他のメニュー</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>

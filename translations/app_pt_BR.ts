@@ -486,6 +486,10 @@ Deseja remover esta entrada do histórico?</translation>
         <source>Restore</source>
         <translation>Restaurar</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>Mais menus</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>

@@ -486,6 +486,10 @@ Bạn có muốn xóa mục này khỏi lịch sử không?</translation>
         <source>Restore</source>
         <translation>Khôi phục</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>Các trình đơn khác</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>

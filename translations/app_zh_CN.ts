@@ -486,6 +486,10 @@ Do you want to remove this entry from history?</source>
         <source>Restore</source>
         <translation>还原</translation>
     </message>
+    <message>
+        <source>More menus</source>
+        <translation>更多菜单</translation>
+    </message>
 </context>
 <context>
     <name>KPNotificationBar</name>
