@@ -4,18 +4,34 @@
 #include "icore.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QLoggingCategory>
 #include <QSettings>
+#include <QThread>
 
 namespace {
 
 Q_LOGGING_CATEGORY(lcRecent, "kelpa.core.recent")
 
 const QString s_key = QStringLiteral("Kelpa/RecentProjects");
-constexpr int s_lockWaitMs = 1000;
+constexpr int s_lockWaitMs = 2000;
+constexpr int s_lockPauseMs = 2;
 } // namespace
+
+// Looks often: the lock is held for milliseconds, and QLockFile's own wait sleeps longer each time.
+static bool lockSoon(QLockFile &lock)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!lock.tryLock(0)) {
+        if (lock.error() != QLockFile::LockFailedError || timer.hasExpired(s_lockWaitMs))
+            return false;
+        QThread::msleep(s_lockPauseMs);
+    }
+    return true;
+}
 
 template class ISingleton<IRecentFilesManager>;
 
@@ -51,7 +67,7 @@ void IRecentFilesManager::change(const std::function<void(QStringList &)> &edit)
         return;
     QDir().mkpath(QFileInfo(pSettings->fileName()).path()); // at the very first start there is none
     QLockFile lock(pSettings->fileName() + QStringLiteral(".recent.lock"));
-    if (!lock.tryLock(s_lockWaitMs))
+    if (!lockSoon(lock))
         qCWarning(lcRecent, "%s: not locked, error %d", qUtf8Printable(pSettings->fileName()), lock.error());
     pSettings->sync();
     QStringList files = pSettings->value(s_key).toStringList();

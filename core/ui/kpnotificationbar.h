@@ -12,8 +12,8 @@ class KPNotificationBar;
 }
 
 /// One line under the menus that tells the user something without a dialog. The title bar owns it; GUI thread
-/// only. It stays until the user closes it or its owner hides it. Screen readers are told of each message by an
-/// alert; one that also reads alerts as they appear may read the first message of a hidden bar twice.
+/// only. It stays until the user closes it or its owner hides it. Screen readers are told of each message by
+/// an alert; one that also reads alerts as they appear may read the first message of a hidden bar twice.
 class CORE_EXPORT KPNotificationBar : public QFrame
 {
     Q_OBJECT
