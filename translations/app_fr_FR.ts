@@ -468,7 +468,7 @@ Voulez-vous retirer cette entrée de l&apos;historique ?</translation>
     <name>IMainMenuWidget</name>
     <message>
         <source>Restore Down</source>
-        <translation>Réduire la fenêtre</translation>
+        <translation>Restaurer la taille</translation>
     </message>
     <message>
         <source>Maximize</source>
@@ -1025,7 +1025,7 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
     </message>
     <message>
         <source>Stage</source>
-        <translation>Scène</translation>
+        <translation>Plateau</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1064,7 +1064,7 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
     <name>StageView</name>
     <message>
         <source>Stage</source>
-        <translation>Scène</translation>
+        <translation>Plateau</translation>
     </message>
     <message numerus="yes">
         <source>%n element(s) selected</source>

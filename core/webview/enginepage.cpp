@@ -2,6 +2,7 @@
 #include "enginepage.h"
 
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInfo>
 #include <updater/updatetexts.h>
@@ -148,5 +149,8 @@ void EnginePage::javaScriptConsoleMessage(
     JavaScriptConsoleMessageLevel level, const QString &strText, int nLine, const QString &strSource)
 {
     Q_UNUSED(level)
-    qCDebug(lcWeb, "%s:%d: %s", qUtf8Printable(strSource), nLine, qUtf8Printable(strText));
+    // The engine names addresses that fail, and what follows the "?" may be a secret.
+    static const QRegularExpression s_query(QStringLiteral("\\?[^\\s'\"]+"));
+    const QString strShown = QString(strText).replace(s_query, QStringLiteral("?..."));
+    qCDebug(lcWeb, "%s:%d: %s", qUtf8Printable(strSource), nLine, qUtf8Printable(strShown));
 }

@@ -39,6 +39,8 @@ EngineView::~EngineView()
 
 void EngineView::load(const QUrl &url)
 {
+    m_bLoading = true;
+    m_bLoaded = false;
     m_pView->load(url);
 }
 
@@ -49,12 +51,20 @@ void EngineView::setHtml(const QString &strHtml)
 
 void EngineView::setZoomFactor(double fFactor)
 {
+    m_fZoom = fFactor;
     m_pView->setZoomFactor(fFactor);
 }
 
 void EngineView::onLoaded(bool bOk)
 {
     m_bLoaded = bOk;
+    if (bOk) {
+        m_pView->setZoomFactor(m_fZoom); // a page after a dead process begins anew
+        if (m_bDataCameLate)
+            announcePageData();
+    }
+    m_bDataCameLate = false;
+    m_bLoading = false;
     emit loadFinished(bOk);
 }
 
@@ -70,8 +80,17 @@ void EngineView::setPageData(const QJsonObject &pageData)
     QWebEnginePage *pPage = m_pView->page();
     pPage->scripts().clear();
     pPage->scripts().insert(script);
+    m_strPageData = strSource;
     if (m_bLoaded)
-        pPage->runJavaScript(strSource + QStringLiteral("window.dispatchEvent(new Event('pagedata'));"));
+        announcePageData();
+    else
+        m_bDataCameLate = m_bLoading; // the document may be there already
+}
+
+void EngineView::announcePageData()
+{
+    m_pView->page()->runJavaScript(
+        m_strPageData + QStringLiteral("window.dispatchEvent(new Event('pagedata'));"));
 }
 
 void EngineView::setBackground(const QColor &color)

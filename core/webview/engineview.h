@@ -23,9 +23,14 @@ public:
 
 private:
     void onLoaded(bool bOk);
+    void announcePageData();
 
     QWebEngineView *m_pView;
+    QString m_strPageData; ///< the script that sets it
+    double m_fZoom = 1;
+    bool m_bLoading = false;
     bool m_bLoaded = false;
+    bool m_bDataCameLate = false;
 };
 
 class EngineFactory : public QObject, public WebViewFactory

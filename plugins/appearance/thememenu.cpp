@@ -57,17 +57,15 @@ ThemeMenu::ThemeMenu()
 }
 
 // The check mark stays with the theme in force. Going back to that one after another choice is a choice too,
-// but needs no next start.
+// but needs no next start; another one is told each time it is chosen.
 void ThemeMenu::choose(QAction *pAction)
 {
     IThemesManager &manager = IThemesManager::getInstance();
     const QString strId = pAction->data().toString();
-    if (strId != manager.getSaveThemeId()) {
-        if (!manager.saveThemes(strId))
-            tell(tr("Failed to change theme."));
-        else if (strId != manager.getCurrentThemeId())
-            tell(tr("The theme change will take effect from the next run."));
-    }
+    if (strId != manager.getSaveThemeId() && !manager.saveThemes(strId))
+        tell(tr("Failed to change theme."));
+    else if (strId != manager.getCurrentThemeId())
+        tell(tr("The theme change will take effect from the next run."));
     pAction->setChecked(false);
     if (m_pCurrent)
         m_pCurrent->setChecked(true);

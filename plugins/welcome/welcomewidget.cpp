@@ -92,6 +92,7 @@ void WelcomeWidget::createView()
     }
     m_pView = WebViewLoader::createView(WebAccess::OwnPages, this);
     m_pContent = m_pView;
+    setFocusProxy(m_pContent);
     connect(m_pView, &WebView::loadFinished, this, &WelcomeWidget::onLoaded);
     connect(m_pView, &WebView::titleChanged, this, [](const QString &strTitle) {
         if (strTitle == WelcomePage::title())
@@ -133,6 +134,8 @@ void WelcomeWidget::onLoaded(bool bOk)
 void WelcomeWidget::recover()
 {
     m_bRecovering = false;
+    if (!m_pView)
+        return;
     if (m_bRetried) {
         showList();
         return;
@@ -145,9 +148,11 @@ void WelcomeWidget::recover()
 void WelcomeWidget::showList()
 {
     qCWarning(lcWelcome, "The home page failed again; the recent projects are listed without it.");
+    m_pView->disconnect(this);
     delete m_pView;
     m_pView = nullptr;
     m_pContent = new RecentList(m_pArea, this);
+    setFocusProxy(m_pContent);
     layout()->addWidget(m_pContent);
     takeFocus();
 }

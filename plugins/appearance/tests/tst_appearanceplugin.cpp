@@ -112,7 +112,7 @@ private slots:
     {
         start();
         QVERIFY(entry("Dark")->isChecked() && !entry("Light")->isChecked());
-        BoxAnswers answers({QMessageBox::Ok});
+        BoxAnswers answers({QMessageBox::Ok, QMessageBox::Ok});
         entry("Light")->trigger();
         QCOMPARE(answers.texts(), QStringList({"The theme change will take effect from the next run."}));
         QCOMPARE(answers.boxes.first().title, "Kelpa Studio");
@@ -121,7 +121,7 @@ private slots:
 
         entry("Light")->trigger();
         entry("Dark")->trigger();
-        QCOMPARE(answers.boxes.size(), 1);
+        QCOMPARE(answers.boxes.size(), 2);
         QCOMPARE(PluginManager::settings()->value("Kelpa/Theme").toString(), "Dark");
         QVERIFY(entry("Dark")->isChecked());
     }
