@@ -311,6 +311,9 @@ private:
         const auto documents = DocumentManager::getDocuments();
         for (IDocument *pDoc : documents)
             emit pDoc->requestClosing(false);
+        // Those of documents that went by themselves.
+        for (const auto &pEditor : std::as_const(m_pFactory->editors))
+            delete pEditor;
         m_pFactory->documents.clear();
         m_pFactory->editors.clear();
         m_pFactory->deleted.clear();
