@@ -11,6 +11,7 @@ const lastDelay = 8000;
 let program = null; // the object on the channel, while there is a connection
 let delay = firstDelay;
 let wasLost = false;
+const leaving = new Set(); // paths whose removal the list has not shown yet
 
 const byId = id => document.getElementById(id);
 const text = (name, ...values) =>
@@ -39,6 +40,22 @@ function say(message)
     byId("status").textContent = message;
 }
 
+// Fills a list anew. The focus stays on what it was on, or at its place in the list when that is gone.
+function refill(list, items)
+{
+    const controls = item => [item, ...item.querySelectorAll("*")].filter(part => part.matches("button, a"));
+    const old = [...list.children];
+    const at = old.findIndex(item => item.contains(document.activeElement));
+    const part = at < 0 ? -1 : controls(old[at]).indexOf(document.activeElement);
+    list.replaceChildren(...items);
+    showConnection();
+    if (at < 0)
+        return;
+    const next = items.find(item => item.dataset.path === old[at].dataset.path)
+        ?? items[Math.min(at, items.length - 1)];
+    (next ? controls(next)[part] : document.querySelector("[data-command]")).focus();
+}
+
 // Without the program nothing happens; the page has said so already.
 function ask(method, ...values)
 {
@@ -62,7 +79,7 @@ function applyData()
         target.setAttribute("aria-label", text(target.dataset.label));
     for (const button of document.querySelectorAll("[data-command]"))
         applyCommand(button, data.commands[button.dataset.command]);
-    byId("examples").replaceChildren(...data.examples.map(exampleItem));
+    refill(byId("examples"), data.examples.map(exampleItem));
     document.body.hidden = false;
 }
 
@@ -80,7 +97,9 @@ function exampleItem(example)
         element("strong", {textContent: example.title}),
         element("span", {textContent: example.description}));
     button.onclick = () => ask("openFile", example.file);
-    return element("li", {}, button);
+    const item = element("li", {}, button);
+    item.dataset.path = example.file;
+    return item;
 }
 
 // ---- Recent projects ----
@@ -92,61 +111,69 @@ function fileParts(path)
     return {name: file.replace(/\.(kelpa|kelpapack)$/i, "") || file, folder: path.slice(0, Math.max(at, 0))};
 }
 
-function smallButton(name, label, action)
+// Its label names the project, its description the folder: two projects may have one name.
+function smallButton(name, label, folderId, action)
 {
     const button = element("button", {type: "button", className: "small", title: label, onclick: action});
     button.setAttribute("aria-label", label);
+    button.setAttribute("aria-describedby", folderId);
     button.append(icon(name));
     return button;
 }
 
-function recentItem(path)
+function recentItem(path, index)
 {
     const {name, folder} = fileParts(path);
+    const folderId = "folder-" + index;
     const open = element("button", {type: "button", className: "open", title: path},
         icon("project"),
         element("strong", {textContent: name}),
-        element("span", {textContent: folder}));
+        element("span", {id: folderId, textContent: folder}));
     open.onclick = () => ask("openFile", path);
-    const item = element("li", {}, open,
-        smallButton("show", text("show", name), () => ask("showInExplorer", path)),
-        smallButton("remove", text("remove", name), () => removeRecent(item)));
+    const show = smallButton("show", text("show", name), folderId, () => ask("showInExplorer", path));
+    const remove = smallButton("remove", text("remove", name), folderId, () => removeRecent(path));
+    remove.setAttribute("aria-keyshortcuts", "Delete");
+    const item = element("li", {}, open, show, remove);
     item.dataset.path = path;
     return item;
 }
 
-function removeRecent(item)
+function removeRecent(path)
 {
     if (!program)
         return;
-    say(text("removed", fileParts(item.dataset.path).name));
-    ask("removeFile", item.dataset.path);
+    leaving.add(path);
+    say("");
+    ask("removeFile", path);
 }
 
-// The focus stays at its place in the list, also when what had it is gone.
+function sayRemoved(paths)
+{
+    const gone = [...leaving].filter(path => !paths.includes(path));
+    if (gone.length !== 0)
+        say(gone.map(path => text("removed", fileParts(path).name)).join(" "));
+    for (const path of gone)
+        leaving.delete(path);
+}
+
 function showRecent(paths)
 {
-    const list = byId("recent");
-    const items = [...list.children];
-    const at = items.findIndex(item => item.contains(document.activeElement));
-    const part = at < 0 ? -1 : [...items[at].children].indexOf(document.activeElement);
-    list.replaceChildren(...paths.map(recentItem));
-    list.hidden = paths.length === 0;
+    refill(byId("recent"), paths.map(recentItem));
+    byId("recent").hidden = paths.length === 0;
     byId("no-recent").hidden = paths.length !== 0;
-    if (at < 0)
-        return;
-    const next = list.children[Math.min(at, paths.length - 1)];
-    (next ? next.children[part] : document.querySelector("[data-command]")).focus();
+    sayRemoved(paths);
 }
 
 // Up, Down, Home and End walk the list, Delete removes.
 function onRecentKey(event)
 {
+    if (event.ctrlKey || event.altKey || event.metaKey)
+        return;
     const items = [...byId("recent").children];
     const at = items.findIndex(item => item.contains(event.target));
     const goals = {ArrowUp: at - 1, ArrowDown: at + 1, Home: 0, End: items.length - 1};
     if (event.key === "Delete")
-        removeRecent(items[at]);
+        removeRecent(items[at].dataset.path);
     else if (event.key in goals)
         items[goals[event.key]]?.firstElementChild.focus();
     else
@@ -156,18 +183,21 @@ function onRecentKey(event)
 
 // ---- What the program knows ----
 
+function link(name, url)
+{
+    const result = element("a", {href: url, textContent: text(name)});
+    result.dataset.path = url;
+    result.onclick = event => {
+        event.preventDefault();
+        ask("openURL", url);
+    };
+    return result;
+}
+
 function showLinks(urls)
 {
-    byId("links").replaceChildren(...["homepage", "community", "demo", "youtube", "facebook"]
-        .filter(name => urls[name])
-        .map(name => {
-            const link = element("a", {href: urls[name], textContent: text(name)});
-            link.onclick = event => {
-                event.preventDefault();
-                ask("openURL", urls[name]);
-            };
-            return link;
-        }));
+    const names = ["homepage", "community", "demo", "youtube", "facebook"].filter(name => urls[name]);
+    refill(byId("links"), names.map(name => link(name, urls[name])));
 }
 
 // Two frames on, the list is on the screen; who waits for the page waits for its title.
@@ -197,20 +227,23 @@ function fetchAll()
 
 // ---- The connection ----
 
-function setConnected(connected)
+function showConnection()
 {
-    document.body.classList.toggle("lost", !connected);
-    for (const button of document.querySelectorAll("[data-command]"))
-        button.setAttribute("aria-disabled", String(!connected));
+    document.body.classList.toggle("lost", !program);
+    for (const control of document.querySelectorAll("button, a"))
+        control.setAttribute("aria-disabled", String(!program));
 }
 
+// A program without the object is as good as lost; the next time it may have it.
 function onObjects(channel)
 {
     program = channel.objects.kpwelcome ?? null;
-    if (!program)
+    if (!program) {
+        channel.transport.close(); // and onLost says so
         return;
+    }
     delay = firstDelay;
-    setConnected(true);
+    showConnection();
     if (wasLost)
         say(text("found"));
     wasLost = false;
@@ -222,7 +255,7 @@ function onLost()
 {
     program = null;
     wasLost = true;
-    setConnected(false);
+    showConnection();
     say(text("lost"));
     setTimeout(connect, delay);
     delay = Math.min(delay * 2, lastDelay);

