@@ -26,7 +26,9 @@ namespace {
 Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
 
 constexpr int s_nTimeoutMs = 30000;
+constexpr int s_nLongestLog = 500; ///< characters of a reason
 constexpr qint64 s_nReadBuffer = 1024 * 1024;
+constexpr qint64 s_nLargestPage = 1024 * 1024; ///< of an error
 
 QString inQuotes(const QString &strPath)
 {
@@ -113,8 +115,11 @@ void Downloader::begin(const QUrl &url)
 {
     releaseReply();
     forgetCheck();
+    requireKey();
     m_url = url;
     m_nWritten = 0;
+    m_nSkipped = 0;
+    ++m_nDownload;
     m_bCanceled = false;
     resetTexts();
     if (m_strFileName.isEmpty())
@@ -184,11 +189,8 @@ void Downloader::onRedirected(const QUrl &url)
 {
     const QUrl target = m_url.resolved(url);
     const QString strObjection = UpdateTexts::redirectObjection(m_url, target, m_nRedirects);
-    if (!strObjection.isEmpty()) {
-        qCWarning(
-            lcUpdater, "Download of %s: %s", qUtf8Printable(m_url.toString()), qUtf8Printable(strObjection));
+    if (!strObjection.isEmpty())
         return fail(tr("Cannot download update: %1.").arg(strObjection));
-    }
     ++m_nRedirects;
     begin(target);
 }
@@ -257,8 +259,11 @@ void Downloader::onReadyRead()
 // means that the download has ended, for lack of a good answer or with a message.
 bool Downloader::takeData()
 {
-    if (m_pReply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != 200)
+    const int nStatus = m_pReply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (nStatus != 200) {
+        skipPage(nStatus);
         return false;
+    }
     const QByteArray arrived = m_pReply->readAll();
     if (arrived.isEmpty())
         return true;
@@ -276,6 +281,19 @@ bool Downloader::takeData()
     return true;
 }
 
+// Unread it would fill the buffer, and the reply would never end.
+void Downloader::skipPage(int nStatus)
+{
+    m_nSkipped += qMax<qint64>(0, m_pReply->skip(m_pReply->bytesAvailable()));
+    if (m_nSkipped > s_nLargestPage)
+        failWithStatus(nStatus);
+}
+
+void Downloader::failWithStatus(int nStatus)
+{
+    fail(tr("Cannot download update: %1.").arg(tr("the server answered with status %1").arg(nStatus)));
+}
+
 // A reply ends here only when its last progress did not complete the download, or when it failed.
 void Downloader::onFinished()
 {
@@ -285,8 +303,7 @@ void Downloader::onFinished()
     const QVariant length = m_pReply->header(QNetworkRequest::ContentLengthHeader);
     if (!takeData()) {
         if (m_pReply)
-            fail(
-                tr("Cannot download update: %1.").arg(tr("the server answered with status %1").arg(nStatus)));
+            failWithStatus(nStatus);
         return;
     }
     if (length.isValid() && length.toLongLong() != m_nWritten)
@@ -310,14 +327,26 @@ void Downloader::finish()
     if (!part.rename(filePath()))
         return fail(tr("Cannot rename %1 to %2: %3.")
                         .arg(inQuotes(partPath()), inQuotes(filePath()), part.errorString()));
+    // The box shall not run inside a signal of the network, nor for an installer that another one replaces.
+    const auto offer = [this, nDownload = m_nDownload] {
+        if (nDownload == m_nDownload)
+            installUpdate();
+    };
+    QMetaObject::invokeMethod(this, offer, Qt::QueuedConnection);
     emit downloadFinished(m_strUrlId, filePath());
-    // The box shall not run inside a signal of the network.
-    QMetaObject::invokeMethod(this, &Downloader::installUpdate, Qt::QueuedConnection);
+}
+
+// No caller can leave the key out.
+void Downloader::requireKey()
+{
+    if (m_check.strKey.isEmpty())
+        m_check.strKey = InstallerCheck::configuredKey();
 }
 
 // A large installer takes its time, so another thread reads it. What fails is deleted.
 void Downloader::checkThen(const QString &strFileName, Continuation next)
 {
+    requireKey();
     if (!m_check.isNeeded())
         return (this->*next)();
     m_pUi->timeLabel->setText(tr("Checking the signature") + QStringLiteral("..."));
@@ -333,11 +362,21 @@ void Downloader::checkThen(const QString &strFileName, Continuation next)
                 return;
             if (pReason->isEmpty())
                 return (this->*next)();
-            QFile::remove(strFileName);
-            fail(tr("The update is not installed: %1.")
-                     .arg(tr("%1 was deleted, because %2").arg(inQuotes(filePath()), *pReason)));
+            discard(strFileName, *pReason);
         });
     pThread->start();
+}
+
+// What cannot be deleted shall at least not look like an installer.
+void Downloader::discard(const QString &strFileName, const QString &strReason)
+{
+    m_pUi->openButton->setEnabled(false);
+    const bool bDeleted = QFile::remove(strFileName);
+    if (!bDeleted && strFileName != partPath())
+        QFile::rename(strFileName, partPath());
+    fail(tr("The update is not installed: %1.")
+             .arg(bDeleted ? tr("%1 was deleted, because %2").arg(inQuotes(filePath()), strReason)
+                           : strReason));
 }
 
 void Downloader::installUpdate()
@@ -354,8 +393,9 @@ void Downloader::installUpdate()
     box.setInformativeText(tr("Click OK to begin installing the update."));
     box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
     const QPointer<Downloader> pThis = this;
+    const int nDownload = m_nDownload;
     const auto answer = IUi::run(&box, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"));
-    if (!pThis)
+    if (!pThis || nDownload != m_nDownload)
         return;
     if (answer == QMessageBox::Ok)
         return openDownload();
@@ -430,6 +470,7 @@ void Downloader::fail(const QString &strReason)
 // The box shall not run inside a signal of the network.
 void Downloader::refuse(const QString &strReason)
 {
+    qCWarning(lcUpdater) << "No update:" << strReason.left(s_nLongestLog);
     close();
     const auto tell = [strReason] {
         IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strReason);

@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] bool useCustomInstallProcedures() const { return m_bUseCustomInstallProcedures; }
 
-    /// What the next download has to pass.
+    /// What the next download has to pass. Without a key the configured one counts.
     void setInstallerCheck(const InstallerCheck &check) { m_check = check; }
 
     /// "~/Downloads/", with the slash.
@@ -77,10 +77,14 @@ private:
     [[nodiscard]] QString prepareFolder() const;
     void request(const QUrl &url);
     [[nodiscard]] bool takeData();
+    void skipPage(int nStatus);
+    void failWithStatus(int nStatus);
     void complete();
     void finish();
     using Continuation = void (Downloader::*)();
     void checkThen(const QString &strFileName, Continuation next);
+    void requireKey();
+    void discard(const QString &strFileName, const QString &strReason);
     void forgetCheck() { ++m_nCheck; }
     void runInstaller();
     void releaseReply();
@@ -102,6 +106,8 @@ private:
     QUrl m_url; ///< of the request under way
     int m_nRedirects = 0;
     qint64 m_nWritten = 0;
+    qint64 m_nSkipped = 0; ///< bytes of an error's page
+    int m_nDownload = 0; ///< the number of the download whose installer may be offered
     bool m_bCanceled = false;
     int m_nCheck = 0; ///< the number of the check whose result counts
 };

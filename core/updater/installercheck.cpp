@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #ifdef KELPA_SIGNATURES
@@ -61,16 +62,28 @@ bool hasSum(const QString &strSha256, const uchar *pData, qint64 nSize)
     return QString::fromLatin1(hash.result().toHex()) == strSha256.toLower();
 }
 
+// A store that is not there is fine; one that hides what it says is not.
+bool isDamaged(const QSettings &machine)
+{
+    const QFileInfo file(machine.fileName());
+    return machine.status() != QSettings::NoError || (file.exists() && !(file.isFile() && file.isReadable()));
+}
+
 } // namespace
 
+// Where the machine's key cannot be read there may be one, so nothing passes.
 QString InstallerCheck::configuredKey()
 {
+    const QString strDamaged = QStringLiteral("?");
+    const QString strName = QStringLiteral("Updates/PublicKey");
     const QSettings *pMachine = ICore::settings(QSettings::SystemScope);
+    if (pMachine && isDamaged(*pMachine))
+        return strDamaged;
+    if (!pMachine || !pMachine->contains(strName))
+        return QStringLiteral(KELPA_UPDATE_KEY);
     // A value with a comma comes as a list; it is no key, but neither is it none.
-    const QString strPolicy = pMachine
-        ? pMachine->value(QLatin1String("Updates/PublicKey")).toStringList().join(QLatin1Char(','))
-        : QString();
-    return strPolicy.isEmpty() ? QStringLiteral(KELPA_UPDATE_KEY) : strPolicy;
+    const QString strPolicy = pMachine->value(strName).toStringList().join(QLatin1Char(','));
+    return strPolicy.isEmpty() ? strDamaged : strPolicy;
 }
 
 QString InstallerCheck::objection() const

@@ -13,7 +13,8 @@ struct CORE_EXPORT InstallerCheck
     QString strSignature; ///< Base64
 
     /// The key of the machine's settings store ("Updates/PublicKey"), or else the one built in. The user's
-    /// own store cannot change it. GUI thread only.
+    /// own store cannot change it. When the machine's store is damaged or its key is empty, a text that is no
+    /// key, so that nothing passes. GUI thread only.
     [[nodiscard]] static QString configuredKey();
 
     [[nodiscard]] bool isNeeded() const { return !strKey.isEmpty(); }

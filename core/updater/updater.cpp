@@ -15,11 +15,14 @@
 #include <QNetworkReply>
 #include <QPointer>
 
+#include <utility>
+
 namespace {
 
 Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
 
 constexpr int s_nTimeoutMs = 30000;
+constexpr int s_nLongestLog = 200; ///< characters of what came from outside
 constexpr auto s_hops = QNetworkRequest::User; ///< redirects that led to a request
 constexpr char s_pReason[] = "reason"; ///< why a reply was aborted
 
@@ -29,7 +32,7 @@ bool openInBrowser(const QString &strUrl)
     const QUrl url(strUrl);
     if (UpdateTexts::isWebUrl(url))
         return QDesktopServices::openUrl(url);
-    qCWarning(lcUpdater, "Not opened, since it is no address of the web: %s", qUtf8Printable(strUrl));
+    qCWarning(lcUpdater) << "Not opened, since it is no address of the web:" << strUrl.left(s_nLongestLog);
     return false;
 }
 
@@ -122,10 +125,18 @@ void Updater::checkForUpdates(bool bSilentIfNoUpdate)
     get(QUrl(m_strUrl), 0);
 }
 
+// Whoever hears that a check has ended may delete this, or begin and end others.
 void Updater::abort()
 {
-    const auto replies = m_pManager->findChildren<QNetworkReply *>();
-    for (QNetworkReply *pReply : replies) {
+    const QPointer<Updater> pThis = this;
+    QList<QPointer<QNetworkReply>> replies;
+    for (QNetworkReply *pReply : m_pManager->findChildren<QNetworkReply *>())
+        replies.append(pReply);
+    for (const QPointer<QNetworkReply> &pReply : std::as_const(replies)) {
+        if (!pThis)
+            return;
+        if (!pReply)
+            continue;
         pReply->setProperty(s_pReason, tr("it was given up"));
         pReply->abort();
     }
@@ -148,8 +159,10 @@ void Updater::get(const QUrl &url, int nRedirects)
     });
 }
 
+// The reply is still in use by its own signal, even when this and its manager end in here.
 void Updater::onReply(QNetworkReply *reply)
 {
+    reply->setParent(nullptr);
     reply->deleteLater();
     if (follow(reply))
         return;
@@ -159,8 +172,11 @@ void Updater::onReply(QNetworkReply *reply)
     if (!m_bCustomAppcast)
         return readAppcast(data);
     m_strLastError.clear();
-    emit appcastDownloaded(m_strUrl, data);
-    emit checkingFinished(m_strUrl);
+    const QPointer<Updater> pThis = this;
+    const QString strUrl = m_strUrl;
+    emit appcastDownloaded(strUrl, data);
+    if (pThis)
+        emit checkingFinished(strUrl);
 }
 
 // True when the reply was a redirect, which either is followed or ends the check.
@@ -177,7 +193,6 @@ bool Updater::follow(const QNetworkReply *pReply)
         get(url, nFollowed + 1);
         return true;
     }
-    qCWarning(lcUpdater, "%s: %s", qUtf8Printable(m_strUrl), qUtf8Printable(strObjection));
     endWithout(tr("Cannot reach %1: %2.").arg(shown(m_strUrl), strObjection));
     return true;
 }
@@ -196,9 +211,19 @@ void Updater::failToReach(const QNetworkReply *pReply)
 void Updater::endWithout(const QString &strError)
 {
     m_strLastError = strError;
-    qCInfo(lcUpdater, "%s", qUtf8Printable(strError));
-    setUpdateAvailable(false);
-    emit checkingFinished(m_strUrl);
+    qCInfo(lcUpdater) << strError.left(s_nLongestLog);
+    end(false);
+}
+
+// A dialog may come first, and the program may end while it is open.
+void Updater::end(bool bAvailable)
+{
+    const QPointer<Updater> pThis = this;
+    setUpdateAvailable(bAvailable);
+    if (!pThis)
+        return;
+    const QString strUrl = m_strUrl;
+    emit checkingFinished(strUrl);
 }
 
 void Updater::readAppcast(const QByteArray &data)
@@ -207,16 +232,16 @@ void Updater::readAppcast(const QByteArray &data)
     if (!m_appcast.strFault.isEmpty())
         return endWithout(tr("%1 is not a valid feed: %2.").arg(shown(m_strUrl), m_appcast.strFault));
     m_strLastError.clear();
-    setUpdateAvailable(UpdateTexts::isNewer(m_appcast.strLatestVersion, m_strModuleVersion));
-    emit checkingFinished(m_strUrl);
+    const QString &strVersion = m_appcast.strLatestVersion;
+    end(UpdateTexts::isVersion(strVersion) && UpdateTexts::isNewer(strVersion, m_strModuleVersion));
 }
 
 void Updater::setUpdateAvailable(bool available)
 {
     m_bUpdateAvailable = available;
     if (available)
-        qCInfo(lcUpdater, "New version: %s", qUtf8Printable(m_appcast.strLatestVersion));
-    else
+        qCInfo(lcUpdater, "New version: %s", qUtf8Printable(m_appcast.strLatestVersion.left(s_nLongestLog)));
+    else if (m_strLastError.isEmpty())
         qCInfo(lcUpdater, "No updates available.");
     if (available && (m_bNotifyOnUpdate || m_bNotifyOnFinish))
         offer();
@@ -256,8 +281,8 @@ void Updater::accept(const Appcast &appcast)
     }
     const QUrl url(appcast.strDownloadUrl);
     if (!UpdateTexts::isWebUrl(url))
-        qCWarning(lcUpdater, "Not fetched, since it is no address of the web: %s",
-            qUtf8Printable(appcast.strDownloadUrl));
+        qCWarning(lcUpdater) << "Not fetched, since it is no address of the web:"
+                             << appcast.strDownloadUrl.left(s_nLongestLog);
     m_pDownloader->setUrlId(m_strUrl);
     m_pDownloader->setFileName(appcast.strDownloadUrl.section(QLatin1Char('/'), -1));
     m_pDownloader->setInstallerCheck(

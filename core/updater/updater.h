@@ -75,6 +75,7 @@ private:
     void get(const QUrl &url, int nRedirects);
     [[nodiscard]] bool follow(const QNetworkReply *pReply);
     void failToReach(const QNetworkReply *pReply);
+    void end(bool bAvailable);
     void endWithout(const QString &strError);
     void readAppcast(const QByteArray &data);
     void offer();

@@ -56,6 +56,12 @@ bool UpdateTexts::isNewer(const QString &strX, const QString &strY)
     return x.size() > y.size();
 }
 
+bool UpdateTexts::isVersion(const QString &strVersion)
+{
+    static const QRegularExpression s_parts(QStringLiteral("\\A[0-9]+(\\.[0-9]+)*\\z"));
+    return s_parts.match(strVersion).hasMatch();
+}
+
 // Whole numbers need no rounding to two decimals.
 QString UpdateTexts::size(qint64 nBytes)
 {

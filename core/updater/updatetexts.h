@@ -13,6 +13,9 @@ namespace UpdateTexts {
 /// when all shared parts are equal, the version with more parts is the newer one.
 [[nodiscard]] CORE_EXPORT bool isNewer(const QString &strX, const QString &strY);
 
+/// Whether there is nothing but digits between the dots. What is not may compare in surprising ways.
+[[nodiscard]] CORE_EXPORT bool isVersion(const QString &strVersion);
+
 /// Whole bytes, KB or MB of 1024, truncated.
 [[nodiscard]] CORE_EXPORT QString size(qint64 nBytes);
 

@@ -122,6 +122,15 @@ QWebEnginePage *EnginePage::createWindow(WebWindowType type)
     return new LinkCatcher(this);
 }
 
+QStringList EnginePage::chooseFiles(
+    FileSelectionMode mode, const QStringList &oldFiles, const QStringList &mimeTypes)
+{
+    Q_UNUSED(mode)
+    Q_UNUSED(oldFiles)
+    Q_UNUSED(mimeTypes)
+    return {};
+}
+
 void EnginePage::javaScriptAlert(const QUrl &origin, const QString &strText)
 {
     Q_UNUSED(origin)

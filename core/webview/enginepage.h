@@ -27,7 +27,7 @@ private:
 };
 
 /// A page that stays where the program sent it: links lead outside, scripts open neither windows nor boxes,
-/// and redirects keep to the rules of all downloads.
+/// no page asks for files, and redirects keep to the rules of all downloads.
 class EnginePage : public QWebEnginePage
 {
     Q_OBJECT
@@ -43,6 +43,8 @@ signals:
 protected:
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool bMainFrame) override;
     QWebEnginePage *createWindow(WebWindowType type) override;
+    QStringList chooseFiles(
+        FileSelectionMode mode, const QStringList &oldFiles, const QStringList &mimeTypes) override;
     void javaScriptAlert(const QUrl &origin, const QString &strText) override;
     bool javaScriptConfirm(const QUrl &origin, const QString &strText) override;
     bool javaScriptPrompt(

@@ -122,6 +122,42 @@ private slots:
         QCOMPARE(downloaded.size(), reason.isEmpty() ? 1 : 0);
     }
 
+    void damagedStoreOfTheMachineLetsNothingPass_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // null: a folder stands in the place of the file
+        QTest::addColumn<bool>("damaged");
+        QTest::newRow("another section") << QByteArray("[Updates]\nFeedUrl=http://k.example\n") << false;
+        QTest::newRow("an empty store") << QByteArray("") << false;
+        QTest::newRow("an empty key") << QByteArray("[Updates]\nPublicKey=\n") << true;
+        QTest::newRow("a key that is no text") << QByteArray("[Updates]\nPublicKey=@Invalid()\n") << true;
+        QTest::newRow("a line of noise") << QByteArray("[Updates\nnoise\n") << true;
+        QTest::newRow("a folder") << QByteArray() << true;
+    }
+
+    void damagedStoreOfTheMachineLetsNothingPass()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const bool, damaged);
+        TestHome home;
+        TestProgram program;
+        if (content.isNull())
+            QVERIFY(QDir().mkpath(program.filePath("m.ini")));
+        else
+            program.write("m.ini", content);
+        program.manager.setGlobalSettings(
+            std::make_unique<QSettings>(program.filePath("m.ini"), QSettings::IniFormat));
+        QCOMPARE(InstallerCheck::configuredKey().isEmpty(), !damaged);
+        TestServer server;
+        server.body(QStringLiteral("/x"), s_installer);
+        Downloader downloader; // that nobody told a key
+        downloader.setFileName(QStringLiteral("x"));
+        const BoxAnswers boxes({QMessageBox::Ok});
+        downloader.startDownload(QUrl(server.url(QStringLiteral("/x"))));
+        QTRY_COMPARE(boxes.boxes.size(), 1);
+        QTRY_COMPARE(home.opened.size(), damaged ? 0 : 1);
+        QCOMPARE(boxes.texts().first().contains(QStringLiteral("with is damaged")), damaged);
+    }
+
     // Between the download and the click on Open anything may have happened to the file.
     void installerIsCheckedAgainBeforeItIsOpened()
     {
@@ -144,6 +180,30 @@ private slots:
         QVERIFY(
             boxes.texts().last().contains(QStringLiteral("was deleted, because its signature is not valid")));
         QVERIFY(home.downloads().isEmpty() && home.opened.isEmpty());
+    }
+
+    void deletionThatFailedIsNotClaimed()
+    {
+        TestHome home;
+        TestServer server;
+        server.body(QStringLiteral("/x"), s_installer);
+        const Keys keys;
+        Downloader downloader;
+        downloader.setFileName(QStringLiteral("x"));
+        downloader.setInstallerCheck({keys.publicKey(), QString(), keys.sign(s_installer)});
+        const BoxAnswers boxes({QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Ok});
+        downloader.startDownload(QUrl(server.url(QStringLiteral("/x"))));
+        auto *pOpen = downloader.findChild<QPushButton *>(QStringLiteral("openButton"));
+        QTRY_VERIFY(pOpen->isEnabled());
+        const QString strFile = Downloader::downloadFolder() + QLatin1Char('x');
+        QVERIFY(QFile::remove(strFile) && QDir().mkpath(strFile)); // a folder is not deleted as a file is
+        pOpen->click();
+        QTRY_COMPARE(boxes.boxes.size(), 3);
+        const QString strText = boxes.texts().last();
+        QVERIFY2(strText.startsWith(QStringLiteral("The update is not installed: ")), qPrintable(strText));
+        QVERIFY(!strText.contains(QStringLiteral("deleted")));
+        QCOMPARE(home.downloads(), {QStringLiteral("x.part")});
+        QVERIFY(home.opened.isEmpty() && !pOpen->isEnabled());
     }
 
     void windowThatClosesDuringTheCheckStaysClosed()

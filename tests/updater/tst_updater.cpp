@@ -193,6 +193,41 @@ private slots:
                     "<h3>Congratulations! You are running the latest version of &lt;Kelpa&gt;</h3>"));
     }
 
+    void onlyNumbersAreOffered_data()
+    {
+        QTest::addColumn<QString>("version");
+        QTest::addColumn<bool>("offered");
+        const auto row = [](const char *pName, const char *pVersion, bool bOffered) {
+            QTest::newRow(pName) << QString::fromUtf8(pVersion) << bOffered;
+        };
+        row("numbers", "3.1.4.1", true);
+        row("a dot at the end", "3.1.4.", false);
+        row("a letter at the end", "3.1.4.x", false);
+        row("a number below zero", "3.1.4.-1", false);
+        row("a sign", "+4", false);
+        row("a space", "4 ", false);
+        row("an end of line", "4\n", false);
+        row("a dot at the beginning", ".9.1", false);
+        row("digits of another script", "\u0664", false);
+    }
+
+    void onlyNumbersAreOffered()
+    {
+        QFETCH(const QString, version);
+        QFETCH(const bool, offered);
+        TestServer server;
+        server.body(QStringLiteral("/"), feed(version, QString()));
+        Updater updater;
+        updater.setUrl(server.url(QStringLiteral("/")));
+        updater.setModuleVersion(QStringLiteral("3.1.4"));
+        const OfferAnswers offers(QStringLiteral("m_pBtnClose"));
+        const QSignalSpy finished(&updater, &Updater::checkingFinished);
+        updater.checkForUpdates(true);
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(updater.updateAvailable(), offered);
+        QCOMPARE(offers.headings.size(), offered ? 1 : 0);
+    }
+
     void headingOfABoxIsNotCut()
     {
         TestServer server;
@@ -437,6 +472,26 @@ private slots:
         QVERIFY(pFacade->getLastError(strUrl).startsWith(QStringLiteral("Cannot reach ")));
         pFacade->abort(strUrl); // nothing is under way
         QCOMPARE(ended.size(), 1);
+    }
+
+    // With two checks under way, so that something is left to end.
+    void updaterMayBeDeletedWhenACheckEnds()
+    {
+        TestServer server;
+        server.on(QStringLiteral("/"), [](QTcpSocket *) {});
+        const QPointer<Updater> pUpdater = new Updater;
+        pUpdater->setUrl(server.url(QStringLiteral("/")));
+        int nEnded = 0;
+        connect(pUpdater, &Updater::checkingFinished, this, [&] {
+            ++nEnded;
+            delete pUpdater;
+        });
+        pUpdater->checkForUpdates(true);
+        pUpdater->checkForUpdates(true);
+        QTRY_COMPARE(server.paths.size(), 2);
+        pUpdater->abort();
+        QVERIFY(!pUpdater);
+        QCOMPARE(nEnded, 1);
     }
 };
 
