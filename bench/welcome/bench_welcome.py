@@ -55,7 +55,7 @@ def main():
     parser.add_argument("--bound", type=float)
     options = parser.parse_args()
     measure(options.program)
-    for _ in range(3):
+    for _ in range(6):
         times = [measure(options.program) for _ in range(options.runs)]
         median = statistics.median(times)
         print("window to page:", " ".join(f"{time:.0f}" for time in times), f"ms; median {median:.0f} ms")
