@@ -20,10 +20,15 @@ constexpr qint64 PausedBufferSize = 1;
 
 // What a socket reads it works off in one go, and large frames wait in its buffer: there is room for a little
 // more than what waits.
+qint64 roomFor(const QTcpSocket &tcp)
+{
+    return tcp.bytesAvailable() + ClientPolicy::ReadSize;
+}
+
 void makeRoom(QTcpSocket *pTcp)
 {
     if (pTcp->readBufferSize() != PausedBufferSize)
-        pTcp->setReadBufferSize(pTcp->bytesAvailable() + ClientPolicy::ReadSize);
+        pTcp->setReadBufferSize(roomFor(*pTcp));
 }
 
 // Only the object tree leads to it.
@@ -36,37 +41,49 @@ QTcpSocket *tcpSocketOf(const QWebSocketServer &server, const QWebSocket &socket
     return it == all.end() ? nullptr : *it;
 }
 
-// Within its own signal the socket would not take notice of the new room. Pings are answered unseen by the
-// transport, so what a client that only sends leaves unread is looked at here too.
+// Small messages leave the room as it is. Pings are answered unseen by the transport, so what a client that
+// only sends leaves unread is looked at here too.
 void watch(QTcpSocket *pTcp, QWebSocket *pSocket)
 {
     auto nReads = std::make_shared<int>(0);
     QObject::connect(pSocket, &QWebSocket::bytesWritten, pTcp, [nReads] { *nReads = 0; });
     const auto onRead = [pTcp, nReads, pWatched = QPointer<QWebSocket>(pSocket)] {
-        makeRoom(pTcp);
+        // Within its own signal the socket would not take notice of the new room.
+        if (pTcp->readBufferSize() != roomFor(*pTcp))
+            QMetaObject::invokeMethod(
+                pTcp, [pTcp] { makeRoom(pTcp); }, Qt::QueuedConnection);
         const bool bOnlySends = ++*nReads > ClientPolicy::ReadsWithoutWriting;
         if (pWatched)
             dropIfUnread(pWatched, bOnlySends ? ClientPolicy::UnsentSize : ClientPolicy::UnsentSizeAtMost);
     };
-    QObject::connect(pTcp, &QTcpSocket::readyRead, pTcp, onRead, Qt::QueuedConnection);
+    QObject::connect(pTcp, &QTcpSocket::readyRead, pTcp, onRead);
+}
+
+// The server deletes a TCP socket as soon as it has disconnected. Where that happens in an event loop within
+// the web socket's own signal, the web socket would not survive it.
+bool keepUntilDestroyed(const QWebSocketServer &server, QWebSocket *pSocket, QTcpSocket *pTcp)
+{
+    QObject::connect(pSocket, &QObject::destroyed, pTcp, &QObject::deleteLater);
+    return QObject::disconnect(pTcp, &QTcpSocket::disconnected, &server, nullptr);
 }
 
 } // namespace
 
 // Answers do not wait until the client has confirmed the ones before.
-void apply(const QWebSocketServer &server, QWebSocket *pSocket)
+bool apply(const QWebSocketServer &server, QWebSocket *pSocket)
 {
     pSocket->setMaxAllowedIncomingMessageSize(ClientPolicy::MessageSize);
     pSocket->setMaxAllowedIncomingFrameSize(ClientPolicy::MessageSize);
     QTcpSocket *pTcp = tcpSocketOf(server, *pSocket);
     if (!pTcp) {
         qCWarning(lcWebChannel, "A web channel client is not held to its bounds: its socket is not found.");
-        return;
+        return false;
     }
     pTcp->setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption, ClientPolicy::ReceiveBufferSize);
     pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     makeRoom(pTcp);
     watch(pTcp, pSocket);
+    return keepUntilDestroyed(server, pSocket, pTcp);
 }
 
 void pause(QWebSocket *pSocket)

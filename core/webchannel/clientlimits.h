@@ -9,8 +9,9 @@ class QWebSocketServer;
 
 namespace ClientLimits {
 
-/// For a socket just taken from its server, before it works off anything.
-void apply(const QWebSocketServer &server, QWebSocket *pSocket);
+/// For a socket just taken from its server, before it works off anything. Whether its own signals may run an
+/// event loop in which the client leaves.
+[[nodiscard]] bool apply(const QWebSocketServer &server, QWebSocket *pSocket);
 
 /// The socket takes in nothing more between the two.
 void pause(QWebSocket *pSocket);

@@ -48,8 +48,9 @@ constexpr Request s_requests[] = {
 };
 
 // Members are named or numbered.
-bool isShort(const QJsonValue &name)
+bool isShort(const QJsonObject &message, const char *pName)
 {
+    const QJsonValue name = message.value(QLatin1String(pName));
     return !name.isString() || name.toString().size() <= NameCharacters;
 }
 
@@ -81,7 +82,8 @@ bool equalInConstantTime(const QByteArray &first, const QByteArray &second)
     return difference == 0;
 }
 
-bool isForChannel(const QJsonObject &message)
+// Each look into an object takes its time: small messages are measured by these.
+bool isForChannel(const QJsonObject &message, qsizetype nCharacters)
 {
     const int nType = message.value(QLatin1String("type")).toInt(-1);
     const auto *pRequest = std::find_if(std::begin(s_requests), std::end(s_requests),
@@ -92,8 +94,11 @@ bool isForChannel(const QJsonObject &message)
         return false;
     if (!pRequest->pMember)
         return true;
-    const QJsonValue object = message.value(QLatin1String("object"));
-    return object.isString() && isShort(object) && isShort(message.value(QLatin1String(pRequest->pMember)));
+    const auto object = message.constFind(QLatin1String("object"));
+    if (object == message.constEnd() || !object->isString())
+        return false;
+    return nCharacters <= NameCharacters
+        || (isShort(message, "object") && isShort(message, pRequest->pMember));
 }
 
 QString forLog(const QString &strText)

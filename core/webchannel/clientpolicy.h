@@ -20,7 +20,7 @@ namespace ClientPolicy {
 /// Bounds of one client, in bytes unless the name says otherwise.
 constexpr int MessageSize = 16 * 1024 * 1024;
 constexpr int ReceiveBufferSize = 256 * 1024;
-constexpr int ReadSize = 64 * 1024;
+constexpr int ReadSize = 128 * 1024;
 constexpr qint64 UnsentSize = 64 * 1024 * 1024; ///< while the client reads nothing
 constexpr qint64 UnsentSizeAtMost = 256 * 1024 * 1024;
 constexpr int UnreadTimeoutMs = 5000;
@@ -53,8 +53,9 @@ enum class Verdict { Accept, RefuseHost, RefuseOrigin };
 /// Takes as long for a near miss as for a wild guess; only the lengths may be told apart.
 [[nodiscard]] CORE_EXPORT bool equalInConstantTime(const QByteArray &first, const QByteArray &second);
 
-/// Whether the channel knows what to do with it. Anything else the channel would quote whole in the log.
-[[nodiscard]] CORE_EXPORT bool isForChannel(const QJsonObject &message);
+/// Whether the channel knows what to do with a message, whose text has `nCharacters`. Anything else the
+/// channel would quote whole in the log.
+[[nodiscard]] CORE_EXPORT bool isForChannel(const QJsonObject &message, qsizetype nCharacters);
 
 /// What of a client's text goes into the log: all, or its beginning and its length.
 [[nodiscard]] CORE_EXPORT QString forLog(const QString &strText);

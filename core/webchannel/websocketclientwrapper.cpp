@@ -73,6 +73,7 @@ void WebSocketClientWrapper::handleNewConnection()
         refuse(pSocket, handshake, verdict);
         return;
     }
-    ClientLimits::apply(*m_server, pSocket);
-    emit clientConnected(new WebSocketTransport(pSocket));
+    const bool bLasting = ClientLimits::apply(*m_server, pSocket);
+    emit clientConnected(
+        new WebSocketTransport(pSocket, bLasting ? Qt::DirectConnection : Qt::QueuedConnection));
 }

@@ -28,14 +28,13 @@ QThreadPool *parsingPool()
 
 } // namespace
 
-// Queued: what is called may run an event loop for a dialog, in which a client that leaves takes its socket
-// along. Neither the socket nor the watcher can do without themselves in their own signals.
-WebSocketTransport::WebSocketTransport(QWebSocket *socket)
+// Queued: neither the socket nor the watcher can do without themselves in their own signals.
+WebSocketTransport::WebSocketTransport(QWebSocket *socket, Qt::ConnectionType delivery)
     : QWebChannelAbstractTransport(socket)
     , m_socket(socket)
 {
-    connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived,
-        Qt::QueuedConnection);
+    connect(
+        socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::textMessageReceived, delivery);
     connect(
         socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
     connect(
@@ -46,7 +45,8 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket)
 WebSocketTransport::~WebSocketTransport()
 {
     reportUnlogged();
-    m_socket->deleteLater();
+    if (!m_bInSocket)
+        m_socket->deleteLater();
 }
 
 void WebSocketTransport::sendMessage(const QJsonObject &message)
@@ -66,9 +66,23 @@ void WebSocketTransport::textMessageReceived(const QString &message)
     if (m_waiting.size() > 1)
         setPaused(true);
     else if (message.size() <= ClientPolicy::CharactersParsedAtOnce)
-        workOff(parse(message));
+        workOffInSocket(message);
     else
         parseWaiting();
+}
+
+// Whoever gets the message may delete this transport, also in an event loop of its own, for a dialog. The
+// socket stays until its signal has returned.
+void WebSocketTransport::workOffInSocket(const QString &strMessage)
+{
+    const QPointer<WebSocketTransport> pThis(this);
+    QWebSocket *pSocket = m_socket;
+    m_bInSocket = true;
+    workOff(parse(strMessage));
+    if (pThis)
+        m_bInSocket = false;
+    else
+        pSocket->deleteLater();
 }
 
 WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
@@ -103,7 +117,6 @@ void WebSocketTransport::onParsed()
     workOff(m_parsing.result());
 }
 
-// Whoever gets the message may delete this transport.
 void WebSocketTransport::workOff(const Parsed &parsed)
 {
     const QPointer<WebSocketTransport> pThis(this);
@@ -131,7 +144,7 @@ void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
 {
     const auto &[document, error] = parsed;
     const QJsonObject object = document.object();
-    if (ClientPolicy::isForChannel(object)) {
+    if (ClientPolicy::isForChannel(object, strMessage.size())) {
         emit messageReceived(object, this);
         return;
     }

@@ -21,7 +21,9 @@ class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
     Q_DISABLE_COPY_MOVE(WebSocketTransport)
 
 public:
-    explicit WebSocketTransport(QWebSocket *socket);
+    /// Messages are delivered within the socket's signal only where that is safe: they may show a dialog, in
+    /// whose event loop the client leaves.
+    explicit WebSocketTransport(QWebSocket *socket, Qt::ConnectionType delivery = Qt::QueuedConnection);
     ~WebSocketTransport() override;
 
     /// Sends one line of compact JSON. A client that leaves too much unread is dropped; one that reads may
@@ -44,6 +46,7 @@ private:
     void parseWaiting();
     void onParsed();
     void workOff(const Parsed &parsed);
+    void workOffInSocket(const QString &strMessage);
     void setPaused(bool bPaused);
     void onDisconnected();
     [[nodiscard]] bool mayWarn();
@@ -52,6 +55,7 @@ private:
     QWebSocket *m_socket;
     QQueue<QString> m_waiting; ///< the first one is being worked off
     bool m_bPaused = false;
+    bool m_bInSocket = false; ///< in the signal of the socket
     QFutureWatcher<Parsed> m_parsing;
     QElapsedTimer m_unread; ///< since the client has left too much unread and taken in nothing
     QElapsedTimer m_warningPeriod;

@@ -127,6 +127,34 @@ private slots:
         program.counter.add(1);
     }
 
+    // As a call that shows a dialog does. What the client had sent before it left still counts.
+    void eitherMayGoWhileACallRunsAnEventLoop_data() { transportAndSocketGoTogether_data(); }
+
+    void eitherMayGoWhileACallRunsAnEventLoop()
+    {
+        QFETCH(const bool, byClient);
+        ChannelServer program;
+        Client client(program.url());
+        QVERIFY(client.connected.wait());
+        const QPointer<WebSocketTransport> pTransport =
+            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const QPointer<QObject> pSocket = pTransport->parent();
+        bool bSocketStayed = false;
+        connect(&program.counter, &Counter::marked, this, [&] {
+            QSignalSpy left(&client.socket, &QWebSocket::disconnected);
+            if (byClient)
+                client.socket.close();
+            else
+                delete pTransport;
+            left.wait(byClient ? 5000 : 100);
+            bSocketStayed = pSocket;
+        });
+        client.socket.sendTextMessage(QString::fromLatin1(call("mark")));
+        client.socket.sendTextMessage(QString::fromLatin1(call("add", "[5]")));
+        QTRY_VERIFY(bSocketStayed && !pTransport && !pSocket);
+        QCOMPARE(program.counter.total(), byClient ? 5 : 0);
+    }
+
     void faultyMessagesAreLoggedAndTheSocketStays_data()
     {
         QTest::addColumn<QString>("message");
