@@ -4,9 +4,16 @@
 #include <extensionsystem/pluginmanager.h>
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QMessageBox>
 
 #include <cstdio>
+
+#ifdef KELPA_FONTCONFIG
+#include <fontconfig/fontconfig.h>
+#include <future>
+#include <thread>
+#endif
 
 using ExtensionSystem::PluginManager;
 
@@ -43,7 +50,20 @@ int main(int argc, char *argv[])
 {
     // The program scales by itself; its children shall not inherit that.
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // the menus stand in the title bar
+#ifdef KELPA_FONTCONFIG
+    // The description of the system's fonts takes milliseconds to read: meanwhile the libraries are loaded.
+    std::promise<void> started;
+    const std::jthread fonts([&started] {
+        FcInit();
+        started.get_future().wait();
+        QFontDatabase::families();
+    });
+#endif
     QApplication application(argc, argv);
+#ifdef KELPA_FONTCONFIG
+    started.set_value();
+#endif
     qunsetenv("QT_ENABLE_HIGHDPI_SCALING");
     QCoreApplication::setApplicationName(QStringLiteral("Kelpa Studio"));
     QCoreApplication::setOrganizationName(QStringLiteral("ORVEN"));

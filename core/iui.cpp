@@ -4,9 +4,11 @@
 #include "displayscale.h"
 #include "icore.h"
 #include "mainwindow.h"
+#include "pngimage.h"
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QScreen>
 
@@ -119,8 +121,8 @@ QPixmap IUi::getPixmap(const QString &strName, int nMode, bool bDisabled, const 
 {
     const QString strPath = imagePath(strName, nMode, bDisabled, strFolder);
     QPixmap &pixmap = getInstance()->m_pixmaps[strPath];
-    if (pixmap.isNull())
-        pixmap.load(strPath, "PNG"); // to find the format out would load libraries for all others
+    if (QFile file(strPath); pixmap.isNull() && file.open(QIODevice::ReadOnly))
+        pixmap = QPixmap::fromImage(imageFromPng(file.readAll()));
     return pixmap;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "lazyicon.h"
 
+#include "pngimage.h"
+
 #include <QDataStream>
 #include <QFile>
 #include <QIconEngine>
@@ -46,11 +48,13 @@ public:
         const int nSide = std::min({size.width(), size.height(), nLargest});
         return {nSide, nSide};
     }
+    // The X window system reads and sends all of these as soon as there is a window.
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
     {
         QList<QSize> sizes;
         for (const Entry &entry : entries())
-            sizes.append({entry.nSide, entry.nSide});
+            if (entry.nSide <= 128)
+                sizes.append({entry.nSide, entry.nSide});
         return sizes;
     }
     bool isNull() override { return false; }
@@ -95,10 +99,8 @@ private:
             return {};
         auto it = std::find_if(list.begin(), list.end(), [=](const Entry &e) { return e.nSide >= nSide; });
         const Entry &entry = it == list.end() ? list.last() : *it;
-        QPixmap image;
-        if (file.seek(entry.nOffset))
-            image.loadFromData(file.read(entry.nLength), "PNG");
-        return image;
+        file.seek(entry.nOffset);
+        return QPixmap::fromImage(imageFromPng(file.read(entry.nLength)));
     }
 
     const QString m_strFile;

@@ -48,6 +48,7 @@ KPNotificationBar::KPNotificationBar(QWidget *pParent)
     m_pUi->setupUi(this);
     // The window is moved by the title bar, which is the parent, and not by this.
     setAttribute(Qt::WA_NoMousePropagation);
+    m_pUi->m_pCloseButton->setIcon(IUi::getIcon(QStringLiteral("close")));
     setAutoFillBackground(true);
     connect(m_pUi->m_pCloseButton, &QToolButton::clicked, this, &KPNotificationBar::hide);
     connect(m_pUi->m_pButton, &QPushButton::clicked, this, &KPNotificationBar::buttonClicked);
