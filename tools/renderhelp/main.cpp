@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // renderhelp INPUT.md OUTPUT.pdf: sets a help document, written in Markdown, for A4 paper and the screen.
+#include <QBuffer>
 #include <QCommandLineParser>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <QSaveFile>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -66,6 +68,18 @@ void spaceBlocks(const QTextDocument &document)
     }
 }
 
+// In memory: the writer does not tell what became of a file.
+QByteArray printed(const QTextDocument &document)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setTitle(document.firstBlock().text());
+    document.print(&writer);
+    return buffer.data();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -85,12 +99,9 @@ int main(int argc, char *argv[])
     dressTables(document);
     spaceBlocks(document);
 
-    QFile output(files.last());
-    if (!output.open(QIODevice::WriteOnly))
+    const QByteArray pdf = printed(document);
+    QSaveFile output(files.last());
+    if (!output.open(QIODevice::WriteOnly) || output.write(pdf) != pdf.size() || !output.commit())
         fail(files.last(), output.errorString());
-    QPdfWriter writer(&output);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setTitle(document.firstBlock().text());
-    document.print(&writer);
     return 0;
 }
