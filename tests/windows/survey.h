@@ -50,7 +50,7 @@ private:
     static bool isOurs(const QWidget *pWidget, const QString &strText)
     {
         static const QStringList s_names = {
-            "Kelpa Studio", "card", "Card", "Kelpa Studio*", "core", "stage", "appearance", "updates", "welcome"};
+            "Kelpa Studio", "card", "card*", "Card", "Kelpa Studio*", "core", "stage", "appearance", "updates", "welcome"};
         const bool bLetters =
             std::any_of(strText.cbegin(), strText.cend(), [](QChar c) { return c.isLetter(); });
         if (!bLetters || s_names.contains(strText) || strText.contains('/'))

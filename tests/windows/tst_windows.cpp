@@ -47,6 +47,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY(m_folder.isValid());
+        QCoreApplication::setApplicationVersion("1.0");
         QSettings settings(m_folder.filePath("KelpaStudio.ini"), QSettings::IniFormat);
         settings.setValue("Kelpa/Theme", environment("KELPA_THEME", "Dark"));
         settings.setValue("Kelpa/Language", environment("KELPA_LANGUAGE", "en_US"));
@@ -158,7 +159,9 @@ private slots:
         pUndoStack->push(new QUndoCommand);
         inDialog([] { command("File.Close")->trigger(); }, look("message-save"));
         QVERIFY(QDir(m_folder.path()).rename("projects", "elsewhere"));
-        inDialog([] { command("File.Save")->trigger(); }, look("message-save-failed"));
+        command("File.Save")->trigger();
+        QTest::qWait(1);
+        m_survey.look(window(), "save-failed");
         QVERIFY(QDir(m_folder.path()).rename("elsewhere", "projects"));
         pUndoStack->undo();
     }
@@ -167,34 +170,40 @@ private slots:
     {
         for (const QByteArray &answer : {feedFor("0.1"), QByteArray("<html>")}) {
             m_server.body("/feed", answer);
-            checkUpdates(look(answer.startsWith('<') ? "message-no-feed" : "message-newest"));
+            checkUpdates({{look(answer.startsWith('<') ? "message-no-feed" : "message-newest")}});
         }
         m_server.body("/feed", feedFor("99.0"));
-        checkUpdates(look("release-notes"));
+        checkUpdates({{look("release-notes")}});
     }
 
     void downloadOfAnUpdate()
     {
-        const QByteArray half(500'000, 'x');
+        const QByteArray part(400'000, 'x');
         QPointer<QTcpSocket> pSocket;
         m_server.on("/setup.bin", [&](QTcpSocket *p) {
-            p->write("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n" + half);
+            p->write("HTTP/1.1 200 OK\r\nContent-Length: 1200000\r\n\r\n" + part);
             pSocket = p;
+            QTimer::singleShot(200, p, [p, part] { p->write(part); }); // what comes at once is not told
         });
         m_server.body("/feed", feedFor("99.0", m_server.url("/setup.bin")));
-        checkUpdates([](QDialog *) {}, QDialog::Accepted);
+        const Step accept = {[](QDialog *) {}, QDialog::Accepted};
+        checkUpdates({accept});
         QTRY_VERIFY(downloadWindow());
         QWidget *pWindow = downloadWindow();
         QTRY_VERIFY(pWindow->findChild<QProgressBar *>()->value() > 0);
         m_survey.look(pWindow, "download");
         auto *pStop = pWindow->findChild<QPushButton *>("stopButton");
         inDialog([&] { pStop->click(); }, look("message-stop"));
-        inDialog([&] { pSocket->write(half); }, look("message-install"));
+        inDialog([&] { pSocket->write(part); }, look("message-install"));
         QTest::qWait(1);
         m_survey.look(pWindow, "download-complete");
         QVERIFY(QFile::remove(Downloader::downloadFolder() + "setup.bin"));
-        inDialog([&] { pWindow->findChild<QPushButton *>("openButton")->click(); }, look("message-gone"));
+        const Step install = {[](QDialog *pBox) { pBox->findChild<QPushButton *>()->click(); }};
+        inDialogs([&] { pWindow->findChild<QPushButton *>("openButton")->click(); },
+            {install, {look("message-gone")}});
         pWindow->close();
+        m_server.answer("/setup.bin", "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+        checkUpdates({accept, {look("message-download-failed")}});
     }
 
     // Of lists and trees, where the current entry need not be a selected one.
@@ -382,15 +391,28 @@ private:
         return nullptr;
     }
 
-    std::function<void(QDialog *)> look(const QString &strName)
+    using Look = std::function<void(QDialog *)>;
+
+    // What to do with a dialog, and the result to close it with; without a choice unless told.
+    struct Step
+    {
+        Look look;
+        int nResult = -1;
+    };
+
+    Look look(const QString &strName)
     {
         return [this, strName](QDialog *pDialog) { m_survey.look(pDialog, strName); };
     }
 
-    template <typename Look>
-    void checkUpdates(Look look, int nResult = -1)
+    void checkUpdates(const QList<Step> &steps)
     {
-        inDialog([] { command("Help.CheckUpdates")->trigger(); }, look, nResult);
+        inDialogs([] { command("Help.CheckUpdates")->trigger(); }, steps);
+    }
+
+    void inDialog(const std::function<void()> &open, const Look &onlyLook)
+    {
+        inDialogs(open, {{onlyLook}});
     }
 
     void lookAtMenu(QMenu *pMenu, const QString &strName)
@@ -410,26 +432,26 @@ private:
         pMenu->close();
     }
 
-    // Opens a modal dialog, at once or in a while, looks at it and closes it, without a choice unless told.
-    template <typename Open, typename Look>
-    void inDialog(Open open, Look look, int nResult = -1)
+    // Opens modal dialogs, at once or in a while, one after the other.
+    void inDialogs(const std::function<void()> &open, QList<Step> steps)
     {
-        bool bSeen = false;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] {
             const QPointer<QDialog> pDialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!pDialog || !pDialog->isVisible() || pDialog == m_pLast)
+            if (steps.isEmpty() || !pDialog || !pDialog->isVisible() || pDialog == m_pLast)
                 return;
             timer.stop();
             m_pLast = pDialog;
             QCoreApplication::sendPostedEvents(); // the layout may be waiting
-            look(pDialog.data());
-            bSeen = true;
-            pDialog->done(nResult);
+            const Step step = steps.takeFirst();
+            step.look(pDialog);
+            timer.start();
+            if (pDialog && pDialog->isVisible())
+                pDialog->done(step.nResult);
         });
         timer.start(20);
         open();
-        QTRY_VERIFY(bSeen);
+        QTRY_VERIFY(steps.isEmpty());
     }
 
     QTemporaryDir m_folder;
