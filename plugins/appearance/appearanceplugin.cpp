@@ -29,8 +29,8 @@ bool AppearancePlugin::initialize(const QStringList &arguments, QString *errorSt
     return true;
 }
 
-// The sheets of the other themes carry no sizes of their own, and would be lost. The window also tells the scale
-// that it starts with.
+// The sheets of the other themes carry no sizes of their own, and would be lost. The window also tells the
+// scale that it starts with.
 void AppearancePlugin::followDensity()
 {
     const int nDPI = DisplayScale::logicalDpi(ICore::getMainWindow());

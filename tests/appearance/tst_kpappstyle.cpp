@@ -59,7 +59,8 @@ private slots:
     void metrics_data()
     {
         QTest::addColumn<Metric>("metric");
-        QTest::addColumn<QList<int>>("expected"); // at 72, 96, 120, 143, 144 and 192 DPI, of a widget in a window
+        QTest::addColumn<QList<int>>(
+            "expected"); // at 72, 96, 120, 143, 144 and 192 DPI, of a widget in a window
         const auto row = [](const char *pName, Metric metric, const QList<int> &expected) {
             QTest::newRow(pName) << metric << expected;
         };
@@ -136,7 +137,7 @@ private slots:
         QCOMPARE(valuesOf(QStyle::PM_LayoutTopMargin, window, &option, &window),
             QList<int>({6, 9, 11, 13, 13, 18}));
         option.state = QStyle::State_Window;
-        QCOMPARE(valuesOf(QStyle::PM_LayoutBottomMargin, window, &option, nullptr), larger);
+        QCOMPARE(valuesOf(QStyle::PM_LayoutBottomMargin, window, &option, new QWidget(&window)), larger);
     }
 
     void toolBarExtensionIsMeasuredOnTheMainWindow()

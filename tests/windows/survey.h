@@ -49,8 +49,8 @@ private:
     // Names, paths and numbers are the same in every language; standard buttons and the like have Qt's texts.
     static bool isOurs(const QWidget *pWidget, const QString &strText)
     {
-        static const QStringList s_names = {
-            "Kelpa Studio", "card", "card*", "Card", "Kelpa Studio*", "core", "stage", "appearance", "updates", "welcome"};
+        static const QStringList s_names = {"Kelpa Studio", "card", "card*", "Card", "Kelpa Studio*", "core",
+            "stage", "appearance", "updates", "welcome"};
         const bool bLetters =
             std::any_of(strText.cbegin(), strText.cend(), [](QChar c) { return c.isLetter(); });
         if (!bLetters || s_names.contains(strText) || strText.contains('/'))
@@ -81,6 +81,9 @@ private:
 
     void checkRoom(const QWidget *pWidget, const QSize &needed)
     {
+        const QWidget *pWindow = pWidget->window();
+        if (!pWindow->rect().contains(QRect(pWidget->mapTo(pWindow, QPoint(0, 0)), pWidget->size())))
+            fault(pWidget, "is cut off by its window");
         if (pWidget->width() < needed.width() || pWidget->height() < needed.height())
             fault(pWidget,
                 QString("needs %1 x %2, has %3 x %4")
@@ -201,8 +204,8 @@ private:
         QStyleOptionComboBox option;
         option.initFrom(pCombo);
         option.editable = pCombo->isEditable();
-        const QRect field =
-            pCombo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, pCombo);
+        const QRect field = pCombo->style()->subControlRect(
+            QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, pCombo);
         for (int i = 0; i < pCombo->count(); ++i) {
             checkText(pCombo, pCombo->itemText(i));
             if (field.width() < pCombo->fontMetrics().horizontalAdvance(pCombo->itemText(i)))

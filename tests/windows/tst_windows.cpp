@@ -132,7 +132,10 @@ private slots:
         inDialog([] { command("File.New")->trigger(); }, replace);
     }
 
-    void about() { inDialog([] { command("Help.About")->trigger(); }, look("about")); }
+    void about()
+    {
+        inDialog([] { command("Help.About")->trigger(); }, look("about"));
+    }
 
     void preferences()
     {
@@ -366,7 +369,8 @@ private:
         for (qsizetype i = 0; i < row.size(); ++i) {
             QVERIFY2(frame.contains(row[i]), qPrintable(QString::number(i)));
             if (i > 0)
-                QVERIFY2(isMirrored() ? row[i].right() < row[i - 1].left() : row[i].left() > row[i - 1].right(),
+                QVERIFY2(
+                    isMirrored() ? row[i].right() < row[i - 1].left() : row[i].left() > row[i - 1].right(),
                     qPrintable(QString::number(i)));
         }
     }
@@ -410,10 +414,7 @@ private:
         inDialogs([] { command("Help.CheckUpdates")->trigger(); }, steps);
     }
 
-    void inDialog(const std::function<void()> &open, const Look &onlyLook)
-    {
-        inDialogs(open, {{onlyLook}});
-    }
+    void inDialog(const std::function<void()> &open, const Look &onlyLook) { inDialogs(open, {{onlyLook}}); }
 
     void lookAtMenu(QMenu *pMenu, const QString &strName)
     {

@@ -80,6 +80,19 @@ QByteArray printed(const QTextDocument &document)
     return buffer.data();
 }
 
+// A full disk may take a beginning first; only the next attempt names the reason.
+bool writeAll(QIODevice *pOutput, const QByteArray &content)
+{
+    qint64 nDone = 0;
+    while (nDone < content.size()) {
+        const qint64 nWritten = pOutput->write(content.constData() + nDone, content.size() - nDone);
+        if (nWritten <= 0)
+            return false;
+        nDone += nWritten;
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -99,9 +112,8 @@ int main(int argc, char *argv[])
     dressTables(document);
     spaceBlocks(document);
 
-    const QByteArray pdf = printed(document);
     QSaveFile output(files.last());
-    if (!output.open(QIODevice::WriteOnly) || output.write(pdf) != pdf.size() || !output.commit())
+    if (!output.open(QIODevice::WriteOnly) || !writeAll(&output, printed(document)) || !output.commit())
         fail(files.last(), output.errorString());
     return 0;
 }
