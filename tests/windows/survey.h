@@ -166,7 +166,12 @@ private:
     {
         for (int i = 0; i < pBar->count(); ++i) {
             checkTexts(pBar, {pBar->tabText(i), pBar->tabToolTip(i)});
-            if (pBar->tabRect(i).width() < pBar->fontMetrics().horizontalAdvance(pBar->tabText(i)))
+            int nNeeded = pBar->fontMetrics().horizontalAdvance(pBar->tabText(i));
+            if (!pBar->tabIcon(i).isNull())
+                nNeeded += pBar->iconSize().width();
+            for (const auto side : {QTabBar::LeftSide, QTabBar::RightSide})
+                nNeeded += pBar->tabButton(i, side) ? pBar->tabButton(i, side)->width() : 0;
+            if (pBar->tabRect(i).width() < nNeeded)
                 fault(pBar, "cuts off " + pBar->tabText(i));
         }
     }

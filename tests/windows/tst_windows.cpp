@@ -228,7 +228,7 @@ private slots:
             list.setCurrentRow(0, QItemSelectionModel::NoUpdate);
             const int nBefore = edge();
             list.setCurrentRow(1, QItemSelectionModel::NoUpdate);
-            QVERIFY(qAbs(edge() - nBefore) > 50);
+            QVERIFY(qAbs(edge() - nBefore) > 40);
         }
     }
 

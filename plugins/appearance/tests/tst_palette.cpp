@@ -62,6 +62,7 @@ constexpr Pair s_pairs[] = {
     {"accent", "hover", s_fControl},
     {"progress", "progressBase", s_fControl},
     {"selection", "base", s_fControl},
+    {"text", "selection", s_fControl},
     {"disabled", "window", s_fControl},
 };
 
