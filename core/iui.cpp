@@ -57,9 +57,17 @@ int naturalWidth(QLabel *pLabel)
     return nWidth;
 }
 
+// A message box never gets wider than this, whatever its labels need. Beside them are the icon and margins.
+int mostWidth(const QLabel *pLabel)
+{
+    const int nScreen = pLabel->screen() ? pLabel->screen()->availableSize().width() : 960;
+    const int nBox = nScreen > 1024 ? qMin(nScreen - 480, 1000) : nScreen;
+    return qMin(nScreen * 2 / 3, nBox - DisplayScale::proportional(DisplayScale::logicalDpi(pLabel), 110));
+}
+
 void widenLabel(QLabel *pLabel)
 {
-    const int nCap = pLabel->screen() ? pLabel->screen()->availableSize().width() * 2 / 3 : 640;
+    const int nCap = mostWidth(pLabel);
     const int nWidth = naturalWidth(pLabel);
     if (nWidth > nCap) {
         if (pLabel->textFormat() == Qt::PlainText)

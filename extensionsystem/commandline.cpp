@@ -78,8 +78,9 @@ QList<PluginError> CommandLine::addPluginOptions(const QList<PluginRecord> &reco
             const QString strName = withoutDashes(argument.name);
             if (m_ownerOf.value(strName) == record.spec.name)
                 continue;
+            const QString strDescription = translated(argument.description.toUtf8().constData());
             if (!m_ownerOf.contains(strName)
-                && m_parser.addOption({strName, argument.description, argument.parameter})) {
+                && m_parser.addOption({strName, strDescription, argument.parameter})) {
                 m_ownerOf.insert(strName, record.spec.name);
                 m_declared.insert(strName, argument);
                 continue;

@@ -93,16 +93,12 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
     }
     QList<PluginRecord> records = findPlugins(line.pluginFolders());
     const auto clashes = line.addPluginOptions(records);
-    if (!line.parse()) {
-        tell(Message::UsageError, line.errorText() + QLatin1Char('\n') + tr("--help lists the options."));
-        return 1;
-    }
-    if (line.wantsHelp()) {
-        tell(Message::Output, line.helpText());
-        return 0;
-    }
     const QString strGiven = line.settingsFolder();
     const QString strSettings = strGiven.isEmpty() ? SettingsStore::defaultFolder() : strGiven;
+    if (!line.parse() || line.wantsHelp()) {
+        openSettings(strSettings);
+        return explainOptions(commandLine, records);
+    }
     QDir().mkpath(strSettings);
     if (const auto exitCode = claimInstance(strSettings))
         return exitCode;
@@ -115,6 +111,20 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
         record.arguments = line.pluginOptions(record.spec.name);
     emit aboutToLoadPlugins();
     return startPlugins(records);
+}
+
+// Made anew, now that there are catalogues for its texts.
+int PluginManager::explainOptions(const QStringList &commandLine, const QList<PluginRecord> &records)
+{
+    emit aboutToLoadPlugins();
+    CommandLine line(commandLine);
+    line.addPluginOptions(records);
+    if (line.parse()) {
+        tell(Message::Output, line.helpText());
+        return 0;
+    }
+    tell(Message::UsageError, line.errorText() + QLatin1Char('\n') + tr("--help lists the options."));
+    return 1;
 }
 
 std::optional<int> PluginManager::claimInstance(const QString &strSettingsFolder)

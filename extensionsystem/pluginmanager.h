@@ -112,7 +112,8 @@ public:
     }
 
 signals:
-    /// Settings and arguments are there, and no plug-in has been loaded: the time for catalogues.
+    /// The settings are there, and no plug-in has been loaded: the time for catalogues. Comes also when the
+    /// program only explains its options.
     void aboutToLoadPlugins();
 
     /// All plug-ins have finished their delayed initialisation.
@@ -126,6 +127,7 @@ private:
 
     void tell(Message kind, const QString &text) const;
     void report(const PluginError &error);
+    [[nodiscard]] int explainOptions(const QStringList &commandLine, const QList<PluginRecord> &records);
     [[nodiscard]] std::optional<int> claimInstance(const QString &strSettingsFolder);
     void openSettings(const QString &strFolder);
     [[nodiscard]] std::optional<int> startPlugins(const QList<PluginRecord> &records);

@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>Zu öffnende Projekte.</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>Die Startseite in diesem Lauf nicht zeigen.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

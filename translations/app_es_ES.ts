@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>Proyectos que se abrirán.</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>No mostrar la página de inicio en esta ejecución.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

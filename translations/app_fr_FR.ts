@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>Projets à ouvrir.</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>Ne pas montrer la page d&apos;accueil cette fois-ci.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

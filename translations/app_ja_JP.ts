@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>開くプロジェクト。</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>今回はホーム画面を表示しません。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>Projetos a abrir.</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>Não mostrar a página inicial nesta execução.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>Các dự án cần mở.</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>Không hiện trang đầu trong lần chạy này.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

@@ -363,6 +363,10 @@
         <source>Projects to open.</source>
         <translation>要打开的项目。</translation>
     </message>
+    <message>
+        <source>Do not show the home page in this run.</source>
+        <translation>本次运行不显示主页。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionSystem::PluginManager</name>

@@ -4,8 +4,11 @@
 #include "thememenu.h"
 
 #include <appearance/ithemesmanager.h>
+#include <displayscale.h>
 #include <icore.h>
 #include <mainwindow.h>
+
+#include <utility>
 
 AppearancePlugin::AppearancePlugin() = default;
 AppearancePlugin::~AppearancePlugin() = default;
@@ -20,14 +23,18 @@ bool AppearancePlugin::initialize(const QStringList &arguments, QString *errorSt
         return false;
     }
     IThemesManager::getInstance().initialize();
+    m_nDPI = DisplayScale::logicalDpi(pMainWindow);
     connect(pMainWindow, &MainWindow::dpiChanged, this, &AppearancePlugin::followDensity);
     m_pMenu = std::make_unique<ThemeMenu>();
     return true;
 }
 
-// The sheets of the other themes carry no sizes of their own, and would be lost.
+// The sheets of the other themes carry no sizes of their own, and would be lost. The window also tells the
+// scale that it starts with.
 void AppearancePlugin::followDensity()
 {
-    if (IThemesManager::getInstance().getCurrentThemeId() == QLatin1String("Dark"))
+    const int nDPI = DisplayScale::logicalDpi(ICore::getMainWindow());
+    if (std::exchange(m_nDPI, nDPI) != nDPI
+        && IThemesManager::getInstance().getCurrentThemeId() == QLatin1String("Dark"))
         IThemesManager::getInstance().processDPIChange();
 }

@@ -25,4 +25,5 @@ private:
     void followDensity();
 
     std::unique_ptr<ThemeMenu> m_pMenu;
+    int m_nDPI = 0; // that the widgets are dressed for
 };

@@ -4,6 +4,7 @@
 #include "stagedocument.h"
 #include "stageformat.h"
 
+#include <displayscale.h>
 #include <iui.h>
 
 #include <QCheckBox>
@@ -57,7 +58,7 @@ void StageNewDialog::addPathRow(QFormLayout *pLayout)
     m_pPath = new QLineEdit(this);
     m_pPath->setObjectName(QStringLiteral("path"));
     m_pPath->setAccessibleName(tr("Project file"));
-    m_pPath->setMinimumWidth(360);
+    m_pPath->setMinimumWidth(DisplayScale::proportional(DisplayScale::logicalDpi(this), 360));
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     m_pPath->setText(QDir::toNativeSeparators(folder.absoluteFilePath(tr("untitled") + s_suffix)));
     pLabel->setBuddy(m_pPath);

@@ -101,6 +101,7 @@ AboutDialog::AboutDialog(QWidget *pParent)
     auto *pCopy = pButtons->addButton(tr("Copy"), QDialogButtonBox::ActionRole);
     connect(pCopy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(text()); });
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    pButtons->button(QDialogButtonBox::Close)->setDefault(true);
 
     auto *pLayout = new QVBoxLayout(this);
     pLayout->addLayout(pHead);

@@ -12,6 +12,14 @@
 #include <QApplication>
 #include <QTimer>
 
+namespace {
+
+// As the metadata describes it; the framework translates that.
+[[maybe_unused]] constexpr const char *s_option =
+    QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Do not show the home page in this run.");
+
+} // namespace
+
 WelcomePlugin::WelcomePlugin() = default;
 
 // The code of the widget goes with this library, so the widget must not outlive it.

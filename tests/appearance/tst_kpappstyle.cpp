@@ -59,7 +59,8 @@ private slots:
     void metrics_data()
     {
         QTest::addColumn<Metric>("metric");
-        QTest::addColumn<QList<int>>("expected"); // at 72, 96, 120, 143, 144 and 192 DPI
+        QTest::addColumn<QList<int>>(
+            "expected"); // at 72, 96, 120, 143, 144 and 192 DPI, of a widget in a window
         const auto row = [](const char *pName, Metric metric, const QList<int> &expected) {
             QTest::newRow(pName) << metric << expected;
         };
@@ -75,6 +76,7 @@ private slots:
         row("proportional 13: indicator width", QStyle::PM_IndicatorWidth, {9, 13, 16, 19, 19, 26});
         row("proportional 13: size grip", QStyle::PM_SizeGripSize, {9, 13, 16, 19, 19, 26});
         row("proportional 12: radio button", QStyle::PM_ExclusiveIndicatorHeight, {9, 12, 15, 17, 18, 24});
+        row("proportional 12: its width", QStyle::PM_ExclusiveIndicatorWidth, {9, 12, 15, 17, 18, 24});
         row("proportional 5: dialog separator", QStyle::PM_DialogButtonsSeparator, {3, 5, 6, 7, 7, 10});
         row("proportional 70: dialog button", QStyle::PM_DialogButtonsButtonWidth,
             {52, 70, 87, 104, 105, 140});
@@ -103,7 +105,8 @@ private slots:
         row("always 9: progress chunk", QStyle::PM_ProgressBarChunkWidth, {9, 9, 9, 9, 9, 9});
         row("always 2: menu bar panel", QStyle::PM_MenuBarPanelWidth, {2, 2, 2, 2, 2, 2});
         row("always 2: focus frame", QStyle::PM_FocusFrameHMargin, {2, 2, 2, 2, 2, 2});
-        row("margin of a widget in a window", QStyle::PM_LayoutLeftMargin, {6, 9, 11, 13, 13, 18});
+        row("left margin", QStyle::PM_LayoutLeftMargin, {6, 9, 11, 13, 13, 18});
+        row("lower margin", QStyle::PM_LayoutBottomMargin, {6, 9, 11, 13, 13, 18});
         row("less than the menu's panel", QStyle::PM_SubMenuOverlap, QList<int>(6, -s_nPanel));
     }
 
@@ -111,13 +114,7 @@ private slots:
     {
         QFETCH(Metric, metric);
         QWidget window;
-        auto *pChild = new QWidget(&window);
-        QList<int> values;
-        for (const int nDPI : s_dpis) {
-            moveTo(window, nDPI);
-            values.append(m_style.pixelMetric(metric, nullptr, pChild));
-        }
-        QTEST(values, "expected");
+        QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
     }
 
     void othersAreThoseOfThePlatform()
@@ -133,24 +130,24 @@ private slots:
     void layoutMarginsOfWindowsAreLarger()
     {
         QWidget window;
-        moveTo(window, 144);
         QStyleOption option;
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutTopMargin, nullptr, &window), 16);
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutTopMargin, &option, &window), 13);
+        const QList<int> larger = {8, 11, 13, 16, 16, 22};
+        for (const Metric metric : {QStyle::PM_LayoutTopMargin, QStyle::PM_LayoutRightMargin})
+            QCOMPARE(valuesOf(metric, window, nullptr, &window), larger);
+        QCOMPARE(valuesOf(QStyle::PM_LayoutTopMargin, window, &option, &window),
+            QList<int>({6, 9, 11, 13, 13, 18}));
         option.state = QStyle::State_Window;
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutBottomMargin, &option, &window), 16);
-        QWidget *pChild = new QWidget(&window);
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_LayoutRightMargin, nullptr, pChild), 13);
+        QCOMPARE(valuesOf(QStyle::PM_LayoutBottomMargin, window, &option, new QWidget(&window)), larger);
     }
 
     void toolBarExtensionIsMeasuredOnTheMainWindow()
     {
         const TestProgram program;
         MainWindow main(nullptr);
-        moveTo(main, 192);
-        QWidget other;
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarExtensionExtent, nullptr, &other), 52);
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, &other), 24);
+        const QWidget other;
+        QCOMPARE(valuesOf(QStyle::PM_ToolBarExtensionExtent, main, nullptr, &other),
+            QList<int>({26, 26, 26, 26, 52, 52}));
+        QCOMPARE(valuesOf(QStyle::PM_ToolBarIconSize, main, nullptr, &other), QList<int>(6, 24));
         QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, nullptr), 48);
     }
 
@@ -179,12 +176,7 @@ private slots:
         QFont font = widget.font();
         font.setPixelSize(3);
         widget.setFont(font);
-        QList<int> values;
-        for (const int nDPI : s_dpis) {
-            moveTo(widget, nDPI);
-            values.append(height(&widget));
-        }
-        QTEST(values, "expected");
+        QTEST(valuesOf(QStyle::PM_TitleBarHeight, widget, &option, &widget), "expected");
         font.setPixelSize(60);
         widget.setFont(font);
         QCOMPARE(height(&widget), QFontMetrics(font).height());
@@ -298,6 +290,18 @@ private slots:
     }
 
 private:
+    // While `moved` goes from screen to screen.
+    [[nodiscard]] QList<int> valuesOf(
+        Metric metric, QWidget &moved, const QStyleOption *pOption, const QWidget *pWidget) const
+    {
+        QList<int> values;
+        for (const int nDPI : s_dpis) {
+            moveTo(moved, nDPI);
+            values.append(m_style.pixelMetric(metric, pOption, pWidget));
+        }
+        return values;
+    }
+
     const QColor s_text = QColor(0x12, 0xfe, 0x34);
 
     // On white.

@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QMenu>
+#include <QSpinBox>
+#include <QStyleOption>
+#include <QTabBar>
 #include <QToolButton>
 #include <QWidget>
 
@@ -46,7 +49,8 @@ private:
     // Names, paths and numbers are the same in every language; standard buttons and the like have Qt's texts.
     static bool isOurs(const QWidget *pWidget, const QString &strText)
     {
-        static const QStringList s_names = {"Kelpa Studio", "card", "Card", "Kelpa Studio*"};
+        static const QStringList s_names = {"Kelpa Studio", "card", "card*", "Card", "Kelpa Studio*", "core",
+            "stage", "appearance", "updates", "welcome"};
         const bool bLetters =
             std::any_of(strText.cbegin(), strText.cend(), [](QChar c) { return c.isLetter(); });
         if (!bLetters || s_names.contains(strText) || strText.contains('/'))
@@ -77,6 +81,9 @@ private:
 
     void checkRoom(const QWidget *pWidget, const QSize &needed)
     {
+        const QWidget *pWindow = pWidget->window();
+        if (!pWindow->rect().contains(QRect(pWidget->mapTo(pWindow, QPoint(0, 0)), pWidget->size())))
+            fault(pWidget, "is cut off by its window");
         if (pWidget->width() < needed.width() || pWidget->height() < needed.height())
             fault(pWidget,
                 QString("needs %1 x %2, has %3 x %4")
@@ -99,10 +106,16 @@ private:
             checkText(pEdit, pEdit->placeholderText());
         else if (const auto *pMenu = qobject_cast<QMenu *>(pWidget))
             checkActions(pMenu);
-        else if (const auto *pList = qobject_cast<QListWidget *>(pWidget))
-            checkList(pList);
-        else if (qobject_cast<QAbstractSpinBox *>(pWidget) || qobject_cast<QComboBox *>(pWidget))
-            checkRoom(pWidget, pWidget->minimumSizeHint());
+        else if (const auto *pBar = qobject_cast<QTabBar *>(pWidget))
+            checkTabs(pBar);
+        else if (const auto *pHeader = qobject_cast<QHeaderView *>(pWidget))
+            checkHeader(pHeader);
+        else if (const auto *pView = qobject_cast<QAbstractItemView *>(pWidget))
+            checkItems(pView);
+        else if (auto *pCombo = qobject_cast<QComboBox *>(pWidget))
+            checkCombo(pCombo);
+        else if (const auto *pSpinBox = qobject_cast<QSpinBox *>(pWidget))
+            checkSpinBox(pSpinBox);
     }
 
     // One line that gives way shows the rest as its tool tip.
@@ -149,12 +162,66 @@ private:
         checkRoom(pMenu, pMenu->sizeHint());
     }
 
-    void checkList(const QListWidget *pList)
+    void checkTabs(const QTabBar *pBar)
     {
-        for (int i = 0; i < pList->count(); ++i)
-            checkText(pList, pList->item(i)->text());
-        if (pList->count() > 0 && pList->viewport()->width() < pList->sizeHintForColumn(0))
-            fault(pList, "cuts its entries off");
+        for (int i = 0; i < pBar->count(); ++i) {
+            checkTexts(pBar, {pBar->tabText(i), pBar->tabToolTip(i)});
+            int nNeeded = pBar->fontMetrics().horizontalAdvance(pBar->tabText(i));
+            if (!pBar->tabIcon(i).isNull())
+                nNeeded += pBar->iconSize().width();
+            for (const auto side : {QTabBar::LeftSide, QTabBar::RightSide})
+                nNeeded += pBar->tabButton(i, side) ? pBar->tabButton(i, side)->width() : 0;
+            if (pBar->tabRect(i).width() < nNeeded)
+                fault(pBar, "cuts off " + pBar->tabText(i));
+        }
+    }
+
+    void checkHeader(const QHeaderView *pHeader)
+    {
+        for (int i = 0; i < pHeader->count(); ++i) {
+            const QString strText = pHeader->model()->headerData(i, pHeader->orientation()).toString();
+            checkText(pHeader, strText);
+            if (!pHeader->isSectionHidden(i) && pHeader->sectionSize(i) < pHeader->sectionSizeHint(i))
+                fault(pHeader, "cuts off " + strText);
+        }
+    }
+
+    void checkItems(const QAbstractItemView *pView)
+    {
+        const QAbstractItemModel *pModel = pView->model();
+        for (int nRow = 0; pModel && nRow < pModel->rowCount(); ++nRow) {
+            for (int nColumn = 0; nColumn < pModel->columnCount(); ++nColumn) {
+                const QModelIndex index = pModel->index(nRow, nColumn);
+                checkText(pView, index.data().toString());
+                const QRect rect = pView->visualRect(index);
+                if (!rect.isEmpty() && rect.width() < pView->sizeHintForIndex(index).width())
+                    fault(pView, "cuts off " + index.data().toString());
+            }
+        }
+        if (qobject_cast<const QListView *>(pView) && pView->model()->rowCount() > 0
+            && pView->viewport()->width() < pView->sizeHintForColumn(0))
+            fault(pView, "cuts its entries off");
+    }
+
+    void checkCombo(QComboBox *pCombo)
+    {
+        checkRoom(pCombo, pCombo->minimumSizeHint());
+        QStyleOptionComboBox option;
+        option.initFrom(pCombo);
+        option.editable = pCombo->isEditable();
+        const QRect field = pCombo->style()->subControlRect(
+            QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, pCombo);
+        for (int i = 0; i < pCombo->count(); ++i) {
+            checkText(pCombo, pCombo->itemText(i));
+            if (field.width() < pCombo->fontMetrics().horizontalAdvance(pCombo->itemText(i)))
+                fault(pCombo, "cuts off " + pCombo->itemText(i));
+        }
+    }
+
+    void checkSpinBox(const QSpinBox *pSpinBox)
+    {
+        checkTexts(pSpinBox, {pSpinBox->prefix(), pSpinBox->suffix(), pSpinBox->specialValueText()});
+        checkRoom(pSpinBox, pSpinBox->minimumSizeHint());
     }
 
     QString m_strFolder;

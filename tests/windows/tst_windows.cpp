@@ -2,7 +2,8 @@
 // A walk through every window and dialog of the whole program.
 #include "survey.h"
 
-#include <support/coretest.h>
+#include <updater/testserver.h>
+#include <updater/updatetest.h>
 
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/actionmanager.h>
@@ -12,9 +13,12 @@
 #include <mainwindow.h>
 #include <ui/imainmenuwidget.h>
 
+#include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QScreen>
 #include <QToolButton>
 #include <QTranslator>
@@ -28,6 +32,11 @@ QString environment(const char *pName, const char *pDefault)
     return qEnvironmentVariable(pName, QLatin1String(pDefault));
 }
 
+QByteArray feedFor(const char *pVersion, const QString &strDownload = {})
+{
+    return feed(QLatin1String(pVersion), strDownload).replace("\"windows\"", "\"linux\"");
+}
+
 } // namespace
 
 class tst_Windows : public QObject
@@ -38,12 +47,16 @@ private slots:
     void initTestCase()
     {
         QVERIFY(m_folder.isValid());
+        QCoreApplication::setApplicationVersion("1.0");
         QSettings settings(m_folder.filePath("KelpaStudio.ini"), QSettings::IniFormat);
         settings.setValue("Kelpa/Theme", environment("KELPA_THEME", "Dark"));
         settings.setValue("Kelpa/Language", environment("KELPA_LANGUAGE", "en_US"));
         settings.setValue("Designer/Shown", true);
+        settings.setValue("Updates/FeedUrl", m_server.url("/feed"));
+        settings.setValue("Updates/Asked", true);
         settings.sync();
-        m_strProject = m_folder.filePath("card.kelpa");
+        m_strProject = m_folder.filePath("projects/card.kelpa");
+        QVERIFY(QDir(m_folder.path()).mkdir("projects"));
         QVERIFY(QFile::copy(KELPA_EXAMPLES "/card.kelpa", m_strProject));
 
         m_survey.setFolder(environment("KELPA_SHOTS", ""));
@@ -61,6 +74,7 @@ private slots:
         window()->resize(QSize(1280, 800) * dScale);
         QTRY_COMPARE(EditorManager::getEditors().size(), 1);
         QTest::qWait(1); // one turn for the layouts
+        QCOMPARE(QGuiApplication::layoutDirection(), QLocale().textDirection());
     }
 
     void cleanup() { QCOMPARE(m_survey.takeFaults().join('\n'), QString()); }
@@ -104,8 +118,23 @@ private slots:
 
     void newProject()
     {
-        inDialog(
-            [] { command("File.New")->trigger(); }, [&](QDialog *pDialog) { m_survey.look(pDialog, "new"); });
+        const auto replace = [&](QDialog *pDialog) {
+            m_survey.look(pDialog, "new");
+            const QString strFile = m_folder.filePath("KelpaStudio.ini.kelpa");
+            QVERIFY(QFile::copy(m_strProject, strFile));
+            pDialog->findChild<QLineEdit *>("path")->setText(strFile);
+            auto *pOk = pDialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+            inDialog([&] { pOk->click(); }, look("message-replace"));
+            pDialog->findChild<QLineEdit *>("path")->setText("/no/such/folder/a.kelpa");
+            QTest::qWait(1);
+            m_survey.look(pDialog, "new-problem");
+        };
+        inDialog([] { command("File.New")->trigger(); }, replace);
+    }
+
+    void about()
+    {
+        inDialog([] { command("Help.About")->trigger(); }, look("about"));
     }
 
     void preferences()
@@ -125,16 +154,82 @@ private slots:
 
     void messages()
     {
-        const auto look = [&](const char *pName) {
-            return [this, pName](QDialog *pDialog) { m_survey.look(pDialog, pName); };
-        };
         inDialog([] { otherEntry("View.Language")->trigger(); }, look("message-language"));
         inDialog([] { otherEntry("View.Theme")->trigger(); }, look("message-theme"));
         inDialog([&] { window()->loadFile(m_folder.filePath("picture.bmp")); }, look("message-type"));
         inDialog([&] { window()->loadFile(m_folder.filePath("missing.kelpa")); }, look("message-missing"));
-        EditorManager::activeEditor()->getDocument()->getUndoStack()->push(new QUndoCommand);
+        QUndoStack *pUndoStack = EditorManager::activeEditor()->getDocument()->getUndoStack();
+        pUndoStack->push(new QUndoCommand);
         inDialog([] { command("File.Close")->trigger(); }, look("message-save"));
-        EditorManager::activeEditor()->getDocument()->getUndoStack()->undo();
+        QVERIFY(QDir(m_folder.path()).rename("projects", "elsewhere"));
+        command("File.Save")->trigger();
+        QTest::qWait(1);
+        m_survey.look(window(), "save-failed");
+        QVERIFY(QDir(m_folder.path()).rename("elsewhere", "projects"));
+        pUndoStack->undo();
+    }
+
+    void answersToTheQuestionForUpdates()
+    {
+        for (const QByteArray &answer : {feedFor("0.1"), QByteArray("<html>")}) {
+            m_server.body("/feed", answer);
+            checkUpdates({{look(answer.startsWith('<') ? "message-no-feed" : "message-newest")}});
+        }
+        m_server.body("/feed", feedFor("99.0"));
+        checkUpdates({{look("release-notes")}});
+    }
+
+    void downloadOfAnUpdate()
+    {
+        const QByteArray part(400'000, 'x');
+        QPointer<QTcpSocket> pSocket;
+        m_server.on("/setup.bin", [&](QTcpSocket *p) {
+            p->write("HTTP/1.1 200 OK\r\nContent-Length: 1200000\r\n\r\n" + part);
+            pSocket = p;
+            QTimer::singleShot(200, p, [p, part] { p->write(part); }); // what comes at once is not told
+        });
+        m_server.body("/feed", feedFor("99.0", m_server.url("/setup.bin")));
+        const Step accept = {[](QDialog *) {}, QDialog::Accepted};
+        checkUpdates({accept});
+        QTRY_VERIFY(downloadWindow());
+        QWidget *pWindow = downloadWindow();
+        QTRY_VERIFY(pWindow->findChild<QProgressBar *>()->value() > 0);
+        m_survey.look(pWindow, "download");
+        auto *pStop = pWindow->findChild<QPushButton *>("stopButton");
+        inDialog([&] { pStop->click(); }, look("message-stop"));
+        inDialog([&] { pSocket->write(part); }, look("message-install"));
+        QTest::qWait(1);
+        m_survey.look(pWindow, "download-complete");
+        QVERIFY(QFile::remove(Downloader::downloadFolder() + "setup.bin"));
+        const Step install = {[](QDialog *pBox) { pBox->findChild<QPushButton *>()->click(); }};
+        inDialogs([&] { pWindow->findChild<QPushButton *>("openButton")->click(); },
+            {install, {look("message-gone")}});
+        pWindow->close();
+        m_server.answer("/setup.bin", "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+        checkUpdates({accept, {look("message-download-failed")}});
+    }
+
+    // Of lists and trees, where the current entry need not be a selected one.
+    void currentEntryIsSeen()
+    {
+        QListWidget list;
+        list.addItems({"one", "two"});
+        list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list.show();
+        list.activateWindow();
+        list.setFocus();
+        QTRY_VERIFY(list.hasFocus());
+        const auto edge = [&] {
+            const QRect rect = list.visualItemRect(list.item(1));
+            return list.viewport()->grab().toImage().pixelColor(rect.center().x(), rect.bottom()).lightness();
+        };
+        for (const auto selection : {QItemSelectionModel::Clear, QItemSelectionModel::Select}) {
+            list.selectionModel()->select(list.model()->index(1, 0), selection);
+            list.setCurrentRow(0, QItemSelectionModel::NoUpdate);
+            const int nBefore = edge();
+            list.setCurrentRow(1, QItemSelectionModel::NoUpdate);
+            QVERIFY(qAbs(edge() - nBefore) > 40);
+        }
     }
 
     void oneKeyOpensOneEntry()
@@ -156,18 +251,19 @@ private slots:
         QCOMPARE(faults.join("; "), QString());
     }
 
-    // The two commands that share their keys have none that works.
+    // In the languages that there is help in. The two commands that share their keys have none that works.
     void helpNamesTheKeys()
     {
-        QFile file(KELPA_HELP "/en.md");
-        QVERIFY(file.open(QIODevice::ReadOnly));
+        QFile file(QString(KELPA_HELP "/%1.md").arg(environment("KELPA_LANGUAGE", "en").section('_', 0, 0)));
+        if (!file.open(QIODevice::ReadOnly))
+            return;
         const QString strHelp = QString::fromUtf8(file.readAll());
         QMultiMap<QString, QString> ids;
         const auto commands = ActionManager::getActions();
         for (const ContextAction *pCommand : commands) {
             const QKeySequence keys = pCommand->getAction()->shortcut();
             if (!keys.isEmpty())
-                ids.insert(keys.toString(QKeySequence::PortableText), pCommand->getId());
+                ids.insert(keys.toString(QKeySequence::NativeText), pCommand->getId());
         }
         QVERIFY(ids.size() > 5);
         for (const QString &strKeys : ids.uniqueKeys()) {
@@ -176,30 +272,59 @@ private slots:
         }
     }
 
-    // Last: it turns everything round.
-    void rightToLeftMirrorsWithoutOverlap()
+    void titleBarGoesInTheDirectionOfReading()
     {
-        window()->showNotification("[text~]", KPNotificationBar::Warning, "[button~]", true);
-        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-        QTest::qWait(1);
-        // In the order in which they are read.
         QList<QRect> row = {placeOf(menuBar()->cornerWidget(Qt::TopLeftCorner))};
         const auto actions = menuBar()->actions();
         for (QAction *pAction : actions)
             row.append(menuBar()->actionGeometry(pAction).translated(placeOf(menuBar()).topLeft()));
         for (const char *pName : {"minizeButton", "maximizeButton", "closeButton"})
             row.append(placeOf(titleBar()->findChild<QWidget *>(pName)));
-        compareMirrored(row, placeOf(titleBar()));
+        compareOrder(row, placeOf(titleBar()));
+    }
 
+    void notificationBarGoesInTheDirectionOfReading()
+    {
+        window()->showNotification("[text~]", KPNotificationBar::Warning, "[button~]", true);
+        QTest::qWait(1);
         KPNotificationBar *pBar = window()->getNotificationBar();
-        row.clear();
+        QList<QRect> row;
         for (const char *pName : {"m_pIconLabel", "m_pMessageLabel", "m_pButton", "m_pCloseButton"})
             row.append(placeOf(pBar->findChild<QWidget *>(pName)));
-        compareMirrored(row, placeOf(pBar));
-        m_survey.look(window(), "rtl");
-        lookAtMenu(actions.first()->menu(), "rtl-menu");
+        compareOrder(row, placeOf(pBar));
         window()->hideNotification();
-        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
+    // Below its entry and flush with where that begins; its own menu lies behind it.
+    void menusOpenInTheDirectionOfReading()
+    {
+        QMenu *pMenu = ActionManager::getActionContainer("MenuBar.View")->getMenu();
+        QAction *pSubmenu = ActionManager::getActionContainer("View.Language")->getMenu()->menuAction();
+        menuBar()->setActiveAction(pMenu->menuAction());
+        QTRY_VERIFY(pMenu->isVisible());
+        pMenu->setActiveAction(pSubmenu);
+        QTest::keyClick(pMenu, isMirrored() ? Qt::Key_Left : Qt::Key_Right);
+        QTRY_VERIFY(pSubmenu->menu()->isVisible());
+        const QRect entry = menuBar()->actionGeometry(pMenu->menuAction());
+        const QRect bar(menuBar()->mapToGlobal(entry.topLeft()), entry.size());
+        const QRect menu = pMenu->geometry();
+        const QRect submenu = pSubmenu->menu()->geometry();
+        QVERIFY(menu.top() >= bar.bottom());
+        QCOMPARE(isMirrored() ? menu.right() : menu.left(), isMirrored() ? bar.right() : bar.left());
+        const int nBeside = isMirrored() ? menu.left() - submenu.right() : submenu.left() - menu.right();
+        QVERIFY2(qAbs(nBeside) < 12, qPrintable(QString::number(nBeside)));
+        pSubmenu->menu()->close();
+        pMenu->close();
+    }
+
+    // Last: the project goes. There is no module with the browser engine here.
+    void startPageWithoutAnEngine()
+    {
+        command("File.Close")->trigger();
+        QTRY_VERIFY(listOfProjects());
+        QTest::qWait(1);
+        QVERIFY(listOfProjects()->findChild<QListWidget *>()->count() > 0);
+        m_survey.look(window(), "start");
     }
 
 private:
@@ -236,15 +361,60 @@ private:
         return QRect(pWidget->mapTo(window(), QPoint(0, 0)), pWidget->size());
     }
 
-    // Each lies left of the one before, all within `frame`.
-    static void compareMirrored(const QList<QRect> &row, const QRect &frame)
+    static bool isMirrored() { return QGuiApplication::isRightToLeft(); }
+
+    // Each lies behind the one before, all within `frame`.
+    static void compareOrder(const QList<QRect> &row, const QRect &frame)
     {
         for (qsizetype i = 0; i < row.size(); ++i) {
             QVERIFY2(frame.contains(row[i]), qPrintable(QString::number(i)));
             if (i > 0)
-                QVERIFY2(row[i].right() < row[i - 1].left(), qPrintable(QString::number(i)));
+                QVERIFY2(
+                    isMirrored() ? row[i].right() < row[i - 1].left() : row[i].left() > row[i - 1].right(),
+                    qPrintable(QString::number(i)));
         }
     }
+
+    static QWidget *downloadWindow()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget *pWindow : windows) {
+            if (qobject_cast<Downloader *>(pWindow) && pWindow->isVisible())
+                return pWindow;
+        }
+        return nullptr;
+    }
+
+    static QWidget *listOfProjects()
+    {
+        const auto children = window()->findChildren<QWidget *>();
+        for (QWidget *pChild : children) {
+            if (pChild->inherits("RecentList") && pChild->isVisible())
+                return pChild;
+        }
+        return nullptr;
+    }
+
+    using Look = std::function<void(QDialog *)>;
+
+    // What to do with a dialog, and the result to close it with; without a choice unless told.
+    struct Step
+    {
+        Look look;
+        int nResult = -1;
+    };
+
+    Look look(const QString &strName)
+    {
+        return [this, strName](QDialog *pDialog) { m_survey.look(pDialog, strName); };
+    }
+
+    void checkUpdates(const QList<Step> &steps)
+    {
+        inDialogs([] { command("Help.CheckUpdates")->trigger(); }, steps);
+    }
+
+    void inDialog(const std::function<void()> &open, const Look &onlyLook) { inDialogs(open, {{onlyLook}}); }
 
     void lookAtMenu(QMenu *pMenu, const QString &strName)
     {
@@ -263,29 +433,33 @@ private:
         pMenu->close();
     }
 
-    // Opens a modal dialog, looks at it and closes it without a choice.
-    template <typename Open, typename Look>
-    void inDialog(Open open, Look look)
+    // Opens modal dialogs, at once or in a while, one after the other.
+    void inDialogs(const std::function<void()> &open, QList<Step> steps)
     {
-        bool bSeen = false;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] {
-            auto *pDialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!pDialog || !pDialog->isVisible())
+            const QPointer<QDialog> pDialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (steps.isEmpty() || !pDialog || !pDialog->isVisible() || pDialog == m_pLast)
                 return;
+            timer.stop();
+            m_pLast = pDialog;
             QCoreApplication::sendPostedEvents(); // the layout may be waiting
-            if (!bSeen)
-                look(pDialog);
-            bSeen = true;
-            pDialog->done(-1);
+            const Step step = steps.takeFirst();
+            step.look(pDialog);
+            timer.start();
+            if (pDialog && pDialog->isVisible())
+                pDialog->done(step.nResult);
         });
         timer.start(20);
         open();
-        QVERIFY(bSeen);
+        QTRY_VERIFY(steps.isEmpty());
     }
 
     QTemporaryDir m_folder;
     QString m_strProject;
+    QPointer<QDialog> m_pLast; // looked at
+    TestHome m_home;
+    TestServer m_server;
     Survey m_survey;
     std::unique_ptr<PluginManager> m_pManager;
 };

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // renderhelp INPUT.md OUTPUT.pdf: sets a help document, written in Markdown, for A4 paper and the screen.
+#include <QBuffer>
 #include <QCommandLineParser>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <QSaveFile>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -66,6 +68,31 @@ void spaceBlocks(const QTextDocument &document)
     }
 }
 
+// In memory: the writer does not tell what became of a file.
+QByteArray printed(const QTextDocument &document)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setTitle(document.firstBlock().text());
+    document.print(&writer);
+    return buffer.data();
+}
+
+// A full disk may take a beginning first; only the next attempt names the reason.
+bool writeAll(QIODevice *pOutput, const QByteArray &content)
+{
+    qint64 nDone = 0;
+    while (nDone < content.size()) {
+        const qint64 nWritten = pOutput->write(content.constData() + nDone, content.size() - nDone);
+        if (nWritten <= 0)
+            return false;
+        nDone += nWritten;
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -85,12 +112,8 @@ int main(int argc, char *argv[])
     dressTables(document);
     spaceBlocks(document);
 
-    QFile output(files.last());
-    if (!output.open(QIODevice::WriteOnly))
+    QSaveFile output(files.last());
+    if (!output.open(QIODevice::WriteOnly) || !writeAll(&output, printed(document)) || !output.commit())
         fail(files.last(), output.errorString());
-    QPdfWriter writer(&output);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setTitle(document.firstBlock().text());
-    document.print(&writer);
     return 0;
 }

@@ -79,6 +79,7 @@ private slots:
         start();
         m_pWindow->extensionsInitialized();
         QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+        emit m_pWindow->dpiChanged(100); // as it tells the scale that it starts with
         QCOMPARE(restyled.names.join("; "), QString());
         QVERIFY(!qApp->styleSheet().isEmpty());
         QCOMPARE(IThemesManager::getInstance().getCurrentThemeId(), theme);

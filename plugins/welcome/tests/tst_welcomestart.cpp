@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When the program, started as a user does, takes the browser engine in.
+// The program, started as a user does: when it takes the browser engine in, and how it explains its options.
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -114,6 +114,17 @@ private slots:
         QVERIFY2(program.says("Page painted"), program.log().constData());
         QVERIFY(program.hasEngine());
         QVERIFY(program.log().indexOf("Window painted") < program.log().indexOf("Page painted"));
+    }
+
+    void optionsAreExplainedInTheLanguageOfTheUser()
+    {
+        const QByteArray german("[Kelpa]\nLanguage=de_DE\n");
+        Program help({"--help"}, german);
+        QVERIFY2(help.says("Die Startseite in diesem Lauf nicht zeigen."), help.log().constData());
+        QVERIFY2(help.log().contains("Diese Hilfe ausgeben") && !help.log().contains("Options:"),
+            help.log().constData());
+        Program fault({"--rust"}, german);
+        QVERIFY2(fault.says("Unbekannte Option"), fault.log().constData());
     }
 };
 
