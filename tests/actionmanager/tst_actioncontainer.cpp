@@ -3,9 +3,6 @@
 
 #include <actionmanager/actioncontainer.h>
 
-#include <QMenu>
-#include <QMenuBar>
-
 class tst_ActionContainer : public QObject
 {
     Q_OBJECT

@@ -3,10 +3,6 @@
 
 #include <actionmanager/actioncontainer.h>
 
-#include <QMenu>
-#include <QRegularExpression>
-#include <QSignalSpy>
-
 class tst_ActionManager : public QObject
 {
     Q_OBJECT
@@ -50,9 +46,9 @@ private slots:
 
     void aCommandMayUnregisterItselfWhenTriggered_data()
     {
-        QTest::addColumn<bool>("checkable");
-        QTest::newRow("a plain action") << false;
-        QTest::newRow("a checkable action") << true;
+        const auto row = columns<bool>("checkable");
+        row("a plain action", false);
+        row("a checkable action", true);
     }
     void aCommandMayUnregisterItselfWhenTriggered()
     {
@@ -126,15 +122,14 @@ private slots:
 
     void garbageInTheStoreGivesTheDefault_data()
     {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<bool>("warned");
-        QTest::newRow("a word") << QVariant("Nonsense") << true;
-        QTest::newRow("a modifier and nothing") << QVariant("Ctrl+") << true;
-        QTest::newRow("a good and a bad key") << QVariant("Ctrl+A, Bogus") << true;
-        QTest::newRow("a hundred thousand letters") << QVariant(QString(100000, 'x')) << true;
-        QTest::newRow("bytes that are no text") << QVariant(QByteArray("\xff\xfe\0\x01", 4)) << true;
-        QTest::newRow("a list") << QVariant(QVariantList {1, "two", 3.0}) << false;
-        QTest::newRow("a rectangle") << QVariant(QRect(1, 2, 3, 4)) << false;
+        const auto row = columns<QVariant, bool>("stored", "warned");
+        row("a word", QVariant("Nonsense"), true);
+        row("a modifier and nothing", QVariant("Ctrl+"), true);
+        row("a good and a bad key", QVariant("Ctrl+A, Bogus"), true);
+        row("a hundred thousand letters", QVariant(QString(100000, 'x')), true);
+        row("bytes that are no text", QVariant(QByteArray("\xff\xfe\0\x01", 4)), true);
+        row("a list", QVariant(QVariantList {1, "two", 3.0}), false);
+        row("a rectangle", QVariant(QRect(1, 2, 3, 4)), false);
     }
     void garbageInTheStoreGivesTheDefault()
     {

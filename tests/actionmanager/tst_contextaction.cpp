@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commandtest.h"
 
-#include <QSignalSpy>
-
 class tst_ContextAction : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ private slots:
         QCOMPARE(ContextManager::getActiveContext(pMiddle).id, "Outer");
         QCOMPARE(ContextManager::getContextId(pLeaf), QString());
         QCOMPARE(ContextManager::getContextName(pInner), "Inside");
-        QCOMPARE(ContextManager::getContextName(QStringLiteral("Outer")), "Outside");
+        QCOMPARE(ContextManager::getContextName("Outer"), "Outside");
         QCOMPARE(ContextManager::getContextWidget("Inner"), pInner);
         QCOMPARE(ContextManager::getContextWidget("inner"), nullptr);
     }

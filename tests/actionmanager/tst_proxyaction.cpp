@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <actionmanager/proxyaction.h>
 
-#include <QSignalSpy>
-#include <QTest>
+#include <support/rows.h>
+
+#include <QtTest>
 
 #include <memory>
 
@@ -64,9 +65,9 @@ private slots:
     // The same-pointer rule speaks of actions that live.
     void aDeadActionEndsDisabled_data()
     {
-        QTest::addColumn<bool>("hides");
-        QTest::newRow("visible without an action") << false;
-        QTest::newRow("hidden without an action") << true;
+        const auto row = columns<bool>("hides");
+        row("visible without an action", false);
+        row("hidden without an action", true);
     }
     void aDeadActionEndsDisabled()
     {

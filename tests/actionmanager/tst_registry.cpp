@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commandtest.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QRandomGenerator>
-#include <QToolBar>
-#include <QVBoxLayout>
-
 #include <map>
 #include <set>
 #include <vector>

@@ -3,12 +3,6 @@
 
 #include <ui/imainmdiarea.h>
 
-#include <QApplication>
-#include <QHBoxLayout>
-#include <QLineEdit>
-#include <QMdiSubWindow>
-#include <QProcess>
-
 // Keys that reach commands through the focus. On an X server they come from its keyboard.
 class tst_ShortcutKeys : public QObject
 {

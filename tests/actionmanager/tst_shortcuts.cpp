@@ -4,8 +4,6 @@
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/shortcuts.h>
 
-#include <QMenu>
-
 class tst_Shortcuts : public QObject
 {
     Q_OBJECT
@@ -55,14 +53,13 @@ private slots:
 
     void searchingFindsAllWords_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("found");
-        QTest::newRow("nothing finds all") << "" << QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"};
-        QTest::newRow("a word of the id") << "zoom" << QStringList {"View.Zoom"};
-        QTest::newRow("a word of the menu and one of the text") << " EDIT  fin " << QStringList {"Edit.Find"};
-        QTest::newRow("the shortcut in force") << "ctrl+y" << QStringList {"Edit.Copy"};
-        QTest::newRow("the description") << "described" << QStringList {"Edit.Copy"};
-        QTest::newRow("a mnemonic is not in the text") << "&" << QStringList {};
+        const auto row = columns<QString, QStringList>("text", "found");
+        row("nothing finds all", "", QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"});
+        row("a word of the id", "zoom", QStringList {"View.Zoom"});
+        row("a word of the menu and one of the text", " EDIT  fin ", QStringList {"Edit.Find"});
+        row("the shortcut in force", "ctrl+y", QStringList {"Edit.Copy"});
+        row("the description", "described", QStringList {"Edit.Copy"});
+        row("a mnemonic is not in the text", "&", QStringList {});
     }
     void searchingFindsAllWords()
     {
@@ -113,16 +110,16 @@ private slots:
 
     void aBadFileChangesNothing_data()
     {
-        QTest::addColumn<QByteArray>("content");
+        const auto row = columns<QByteArray>("content");
         const QByteArray head = R"({"format": "kelpa-shortcuts", "Shortcuts": )";
-        QTest::newRow("an empty file") << QByteArray();
-        QTest::newRow("no JSON") << QByteArray("shortcuts!");
-        QTest::newRow("JSON of another kind") << QByteArray(R"({"Shortcuts": {"Edit.Copy": "F2"}})");
-        QTest::newRow("a list in place of the shortcuts") << head + R"([]})";
-        QTest::newRow("a number for a shortcut") << head + R"({"Edit.Copy": "F2", "Z": 3}})";
-        QTest::newRow("no key sequence") << head + R"({"Edit.Copy": "F2", "Z": "Nonsense"}})";
-        QTest::newRow("a command without a name") << head + R"({"": "F2", "Edit.Copy": "F2"}})";
-        QTest::newRow("cut in the middle") << head + R"({"Edit.Copy": "F2",)";
+        row("an empty file", QByteArray());
+        row("no JSON", QByteArray("shortcuts!"));
+        row("JSON of another kind", QByteArray(R"({"Shortcuts": {"Edit.Copy": "F2"}})"));
+        row("a list in place of the shortcuts", head + R"([]})");
+        row("a number for a shortcut", head + R"({"Edit.Copy": "F2", "Z": 3}})");
+        row("no key sequence", head + R"({"Edit.Copy": "F2", "Z": "Nonsense"}})");
+        row("a command without a name", head + R"({"": "F2", "Edit.Copy": "F2"}})");
+        row("cut in the middle", head + R"({"Edit.Copy": "F2",)");
     }
     void aBadFileChangesNothing()
     {

@@ -5,10 +5,6 @@
 #include <icore.h>
 #include <mainwindow.h>
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QPluginLoader>
-
 using ExtensionSystem::IPlugin;
 using ExtensionSystem::PluginManager;
 
@@ -29,29 +25,9 @@ private slots:
 
     void cleanup()
     {
-        for (const auto &pDocument : std::as_const(m_pFactory->documents))
-            delete pDocument;
-        for (const auto &pEditor : std::as_const(m_pFactory->editors))
-            delete pEditor;
-        delete m_pPlugin;
         m_pFactory.reset();
+        delete m_pPlugin;
         m_pProgram.reset();
-    }
-
-    void metadata()
-    {
-        const QJsonObject header = m_loader.metaData();
-        QCOMPARE(header.value("IID").toString(), "com.ORVEN.Kelpa.Plugin");
-        QCOMPARE(header.value("className").toString(), "CorePlugin");
-        const QJsonObject data = header.value("MetaData").toObject();
-        QCOMPARE(data.keys(),
-            QStringList({"Arguments", "Category", "CompatVersion", "Copyright", "Dependencies", "Description",
-                "License", "Name", "Required", "Url", "Vendor", "Version"}));
-        QCOMPARE(data.value("Name").toString(), "core");
-        QCOMPARE(data.value("Version").toString(), "1.0.0");
-        QCOMPARE(data.value("CompatVersion").toString(), "1.0.0");
-        QVERIFY(data.value("Required").toBool());
-        QVERIFY(data.value("Dependencies").toArray().isEmpty());
     }
 
     void lifeFromConstructionToTheEnd()
@@ -111,11 +87,6 @@ private slots:
             QVERIFY(file.open(QIODevice::ReadOnly));
             QVERIFY(file.readAll().contains(QByteArray("late=") + pStore));
         }
-    }
-
-    void resourcesLieBesideTheProgram()
-    {
-        QCOMPARE(ICore::resourcePath(), QFileInfo(QCoreApplication::applicationFilePath()).path());
     }
 
 private:

@@ -27,13 +27,8 @@ private slots:
 
     void closing_data()
     {
-        QTest::addColumn<bool>("temporary");
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<bool>("savingSucceeds");
-        QTest::addColumn<Buttons>("answers");
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<QStringList>("calls");
-        QTest::addColumn<QStringList>("recent");
+        const auto row = columns<bool, bool, bool, Buttons, bool, QStringList, QStringList>(
+            "temporary", "modified", "savingSucceeds", "answers", "closed", "calls", "recent");
 
         const QStringList old = {"/p/intro.final.kelpa", "/p/other.kelpa"};
         const QStringList dropped = {"/p/other.kelpa"};
@@ -42,24 +37,20 @@ private slots:
         const QStringList saveAsOnly = {"close", "saveAs"};
         const QStringList none = {"close"};
         using Q = QMessageBox;
-        QTest::newRow("unmodified asks nothing")
-            << false << false << true << Buttons {} << true << none << old;
-        QTest::newRow("cancel keeps it open")
-            << false << true << true << Buttons {Q::Cancel} << false << none << old;
-        QTest::newRow("a closed box keeps it open")
-            << false << true << true << Buttons {Q::NoButton} << false << none << old;
-        QTest::newRow("no saves nothing") << false << true << true << Buttons {Q::No} << true << none << old;
-        QTest::newRow("yes saves") << false << true << true << Buttons {Q::Yes} << true << saveOnly << old;
-        QTest::newRow("a save that fails is told and keeps it open")
-            << false << true << false << Buttons {Q::Yes, Q::Ok} << false << saveOnly << old;
-        QTest::newRow("a temporary one always asks")
-            << true << false << true << Buttons {Q::Cancel} << false << none << old;
-        QTest::newRow("no to a temporary one drops its recent entry")
-            << true << false << true << Buttons {Q::No} << true << none << dropped;
-        QTest::newRow("yes to a temporary one renames its recent entry")
-            << true << true << true << Buttons {Q::Yes} << true << saveAsOnly << renamed;
-        QTest::newRow("a save-as that was cancelled says nothing more")
-            << true << true << false << Buttons {Q::Yes} << false << saveAsOnly << old;
+        row("unmodified asks nothing", false, false, true, Buttons {}, true, none, old);
+        row("cancel keeps it open", false, true, true, Buttons {Q::Cancel}, false, none, old);
+        row("a closed box keeps it open", false, true, true, Buttons {Q::NoButton}, false, none, old);
+        row("no saves nothing", false, true, true, Buttons {Q::No}, true, none, old);
+        row("yes saves", false, true, true, Buttons {Q::Yes}, true, saveOnly, old);
+        row("a save that fails is told and keeps it open", false, true, false, Buttons {Q::Yes, Q::Ok}, false,
+            saveOnly, old);
+        row("a temporary one always asks", true, false, true, Buttons {Q::Cancel}, false, none, old);
+        row("no to a temporary one drops its recent entry", true, false, true, Buttons {Q::No}, true, none,
+            dropped);
+        row("yes to a temporary one renames its recent entry", true, true, true, Buttons {Q::Yes}, true,
+            saveAsOnly, renamed);
+        row("a save-as that was cancelled says nothing more", true, true, false, Buttons {Q::Yes}, false,
+            saveAsOnly, old);
     }
 
     void closing()

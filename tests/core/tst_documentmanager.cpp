@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <support/coretest.h>
 
-#include <QUndoGroup>
-
 namespace {
 
 using Breakpoints = DocumentManager::Breakpoints;
@@ -104,12 +102,11 @@ private slots:
 
     void oddIntervalsNeitherSpinNorOverflow_data()
     {
-        QTest::addColumn<int>("seconds");
-        QTest::addColumn<int>("wait");
-        QTest::newRow("zero waits a second") << 0 << 1000;
-        QTest::newRow("negative waits a second") << -5 << 1000;
-        QTest::newRow("the largest number waits as long as a timer can")
-            << std::numeric_limits<int>::max() << std::numeric_limits<int>::max() / 1000 * 1000;
+        const auto row = columns<int, int>("seconds", "wait");
+        row("zero waits a second", 0, 1000);
+        row("negative waits a second", -5, 1000);
+        row("the largest number waits as long as a timer can", std::numeric_limits<int>::max(),
+            std::numeric_limits<int>::max() / 1000 * 1000);
     }
 
     void oddIntervalsNeitherSpinNorOverflow()

@@ -66,12 +66,11 @@ private slots:
 
     void removalHandsTheActivationOn_data()
     {
-        QTest::addColumn<int>("removed");
-        QTest::addColumn<QStringList>("log");
-        QTest::newRow("the middle one to its follower")
-            << 1 << QStringList {"leaving B", "deactivated B", "aboutTo C", "activated C"};
-        QTest::newRow("the last one to the one before")
-            << 2 << QStringList {"leaving C", "deactivated C", "aboutTo B", "activated B"};
+        const auto row = columns<int, QStringList>("removed", "log");
+        row("the middle one to its follower", 1,
+            QStringList {"leaving B", "deactivated B", "aboutTo C", "activated C"});
+        row("the last one to the one before", 2,
+            QStringList {"leaving C", "deactivated C", "aboutTo B", "activated B"});
     }
 
     void removalHandsTheActivationOn()

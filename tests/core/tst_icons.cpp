@@ -3,14 +3,16 @@
 
 #include <QImage>
 #include <QImageReader>
-#include <QTest>
+#include <support/rows.h>
+
+#include <QtTest>
 
 #include <algorithm>
 
 namespace {
 
-const QString s_core = QStringLiteral(":/core/images/");
-const QString s_designer = QStringLiteral(":/designer/images/");
+const QString s_core = ":/core/images/";
+const QString s_designer = ":/designer/images/";
 
 // What is to be seen of an image: how much ink, and how far its strongest colour is from grey.
 struct Look
@@ -65,10 +67,10 @@ private slots:
         QFETCH(QString, name);
         for (const int nSize : {0, 12, 16, 24, 32, 48, 64}) {
             for (const int nFactor : {1, 2}) {
-                const QString strStem = nSize == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(nSize);
-                const QString strScale = nFactor == 2 ? QStringLiteral("_2x.png") : QStringLiteral(".png");
+                const QString strStem = nSize == 0 ? name : QString("%1_%2").arg(name).arg(nSize);
+                const QString strScale = nFactor == 2 ? "_2x.png" : ".png";
                 const QImage normal(folder + strStem + strScale);
-                const QImage disabled(folder + strStem + QStringLiteral("_d") + strScale);
+                const QImage disabled(folder + strStem + "_d" + strScale);
                 const int nPixels = (nSize == 0 ? 32 : nSize) * nFactor;
                 QCOMPARE(normal.size(), QSize(nPixels, nPixels));
                 QCOMPARE(disabled.size(), QSize(nPixels, nPixels));
@@ -81,15 +83,15 @@ private slots:
 
     void iconFilesHoldEverySize_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("the program's icon") << QStringLiteral("app_icon");
-        QTest::newRow("a project's icon") << QStringLiteral("project_icon");
+        const auto row = columns<QString>("name");
+        row("the program's icon", "app_icon");
+        row("a project's icon", "project_icon");
     }
 
     void iconFilesHoldEverySize()
     {
         QFETCH(QString, name);
-        QImageReader reader(QStringLiteral(":/app/images/%1.ico").arg(name));
+        QImageReader reader(QString(":/app/images/%1.ico").arg(name));
         QList<int> sizes;
         for (int i = 0; i < reader.imageCount(); ++i) {
             QVERIFY(reader.jumpToImage(i));

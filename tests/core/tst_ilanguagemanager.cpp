@@ -58,21 +58,11 @@ private slots:
 
     void savedChoiceIsTheCurrentLanguage_data()
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("code");
-        QTest::newRow("a language with a country") << "fr_FR"
-                                                   << "fr_FR"
-                                                   << "fr";
-        QTest::newRow("a language alone gets its country") << "ja"
-                                                           << "ja_JP"
-                                                           << "ja";
-        QTest::newRow("nonsense is the C locale") << "no such thing"
-                                                  << "C"
-                                                  << "C";
-        QTest::newRow("an empty value is English") << ""
-                                                   << "en_US"
-                                                   << "en";
+        const auto row = columns<QString, QString, QString>("stored", "id", "code");
+        row("a language with a country", "fr_FR", "fr_FR", "fr");
+        row("a language alone gets its country", "ja", "ja_JP", "ja");
+        row("nonsense is the C locale", "no such thing", "C", "C");
+        row("an empty value is English", "", "en_US", "en");
     }
 
     void savedChoiceIsTheCurrentLanguage()

@@ -45,12 +45,11 @@ void fillDisk()
 
 void onInitializationDone()
 {
-    print(QStringLiteral("done ") + PluginManager::arguments().join(QLatin1Char(' ')));
+    print("done " + PluginManager::arguments().join(' '));
     if (PluginManager::settings())
-        print(QStringLiteral("setting ")
-            + PluginManager::settings()->value(QStringLiteral("sea/level")).toString());
+        print("setting " + PluginManager::settings()->value("sea/level").toString());
     if (qEnvironmentVariableIsSet("HOST_WRITES"))
-        PluginManager::settings()->setValue(QStringLiteral("sea/level"), 7);
+        PluginManager::settings()->setValue("sea/level", 7);
     if (!qEnvironmentVariableIsSet("HOST_STAYS"))
         QCoreApplication::quit();
 }
@@ -64,13 +63,13 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsSet("HOST_DISK_FULL"))
         fillDisk();
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("Host"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QCoreApplication::setApplicationName("Host");
+    QCoreApplication::setApplicationVersion("1.0");
     PluginManager manager;
     QObject::connect(&manager, &PluginManager::initializationDone, onInitializationDone);
     QObject::connect(
         &manager, &PluginManager::settingsFailed, [](const QString &strFile, const QString &strReason) {
-            print(QStringLiteral("fault %1: %2").arg(strFile, strReason));
+            print(QString("fault %1: %2").arg(strFile, strReason));
         });
     if (const auto exitCode = manager.start(QCoreApplication::arguments()))
         return *exitCode;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <extensionsystem/pluginspec.h>
 
-#include <QJsonDocument>
 #include <QtTest>
 
 using ExtensionSystem::PluginSpec;
@@ -16,7 +15,7 @@ PluginSpec read(const char *pMembers)
     const QJsonObject members = QJsonDocument::fromJson(QByteArray("{") + pMembers + "}").object();
     for (auto it = members.begin(); it != members.end(); ++it)
         object.insert(it.key(), it.value());
-    return PluginSpec::fromJson(object, QStringLiteral("/x/liba.so"));
+    return PluginSpec::fromJson(object, "/x/liba.so");
 }
 
 } // namespace
@@ -63,14 +62,13 @@ private slots:
     {
         QFETCH(QByteArray, members);
         QFETCH(QString, problem);
-        QCOMPARE(read(members.constData()).problems.join(QLatin1Char('|')), problem);
+        QCOMPARE(read(members.constData()).problems.join('|'), problem);
     }
 
     void everyProblemIsNamedAndTheRestIsKept()
     {
-        const PluginSpec spec = PluginSpec::fromJson({{QStringLiteral("Required"), true}}, QString());
-        QCOMPARE(spec.problems,
-            QStringList({QStringLiteral("\"Name\" is missing"), QStringLiteral("\"Version\" is missing")}));
+        const PluginSpec spec = PluginSpec::fromJson({{"Required", true}}, QString());
+        QCOMPARE(spec.problems, QStringList({"\"Name\" is missing", "\"Version\" is missing"}));
         QVERIFY(spec.bRequired);
     }
 

@@ -5,11 +5,6 @@
 #include <mainwindow.h>
 #include <ui/kpnotificationbar.h>
 
-#include <QAccessible>
-#include <QLabel>
-#include <QScreen>
-#include <QToolButton>
-
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
@@ -68,19 +63,12 @@ private slots:
 
     void barShowsWhatItIsGiven_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("closable");
-        QTest::newRow("everything") << "Saved & <b>done</b>"
-                                    << "Undo" << true;
-        QTest::newRow("no text") << ""
-                                 << "Undo" << true;
-        QTest::newRow("no button") << "Saved"
-                                   << "" << true;
-        QTest::newRow("not to be closed") << "Saved"
-                                          << "Undo" << false;
-        QTest::newRow("nothing but the icon") << ""
-                                              << "" << false;
+        const auto row = columns<QString, QString, bool>("text", "button", "closable");
+        row("everything", "Saved & <b>done</b>", "Undo", true);
+        row("no text", "", "Undo", true);
+        row("no button", "Saved", "", true);
+        row("not to be closed", "Saved", "Undo", false);
+        row("nothing but the icon", "", "", false);
     }
 
     void barShowsWhatItIsGiven()
@@ -103,15 +91,13 @@ private slots:
 
     void iconFollowsTypeAndDisplay_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<QString>("file");
-        QTest::newRow("information at 100 percent") << 0 << 96 << "info_16.png";
-        QTest::newRow("warning at 100 percent") << 1 << 96 << "warning_16.png";
-        QTest::newRow("any other type is information") << 2 << 96 << "info_16.png";
-        QTest::newRow("warning at 148 percent") << 1 << 143 << "warning_16.png";
-        QTest::newRow("warning at 150 percent") << 1 << 144 << "warning_16_2x.png";
-        QTest::newRow("information at 200 percent") << 0 << 192 << "info_16_2x.png";
+        const auto row = columns<int, int, QString>("type", "dpi", "file");
+        row("information at 100 percent", 0, 96, "info_16.png");
+        row("warning at 100 percent", 1, 96, "warning_16.png");
+        row("any other type is information", 2, 96, "info_16.png");
+        row("warning at 148 percent", 1, 143, "warning_16.png");
+        row("warning at 150 percent", 1, 144, "warning_16_2x.png");
+        row("information at 200 percent", 0, 192, "info_16_2x.png");
     }
 
     void iconFollowsTypeAndDisplay()
@@ -152,16 +138,16 @@ private slots:
         part<QPushButton>("m_pButton")->setFocus();
         QTest::keyClick(m_pBar->focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), part<QToolButton>("m_pCloseButton"));
-        QCOMPARE(QApplication::focusWidget()->accessibleName(), QStringLiteral("Close"));
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), "Close");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QVERIFY(!m_pBar->isVisible());
     }
 
     void escapeClosesOnlyWhatMayBeClosed_data()
     {
-        QTest::addColumn<bool>("closable");
-        QTest::newRow("closable") << true;
-        QTest::newRow("not closable") << false;
+        const auto row = columns<bool>("closable");
+        row("closable", true);
+        row("not closable", false);
     }
 
     void escapeClosesOnlyWhatMayBeClosed()
@@ -192,7 +178,7 @@ private slots:
     void everyEndOfALineIsABlank()
     {
         const auto shown = [this](char16_t separator) {
-            m_pBar->show(QStringLiteral("one") + QChar(separator) + "two", KPNotificationBar::Info, {}, true);
+            m_pBar->show("one" + QChar(separator) + "two", KPNotificationBar::Info, {}, true);
             QTest::qWait(0);
             return part<QLabel>("m_pMessageLabel")->grab().toImage();
         };
@@ -203,9 +189,9 @@ private slots:
 
     void eachMessageIsAnnouncedOnceAndTheFocusStays_data()
     {
-        QTest::addColumn<bool>("focusInBar");
-        QTest::newRow("the focus is elsewhere") << false;
-        QTest::newRow("the focus is in the bar") << true;
+        const auto row = columns<bool>("focusInBar");
+        row("the focus is elsewhere", false);
+        row("the focus is in the bar", true);
     }
 
     void eachMessageIsAnnouncedOnceAndTheFocusStays()

@@ -5,7 +5,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QProcess>
 #include <QWindow>
 #include <QtTest>
 
@@ -24,18 +23,18 @@ protected:
 bool xdotool(const QStringList &arguments)
 {
     QProcess process;
-    process.start(QStringLiteral("xdotool"), arguments);
+    process.start("xdotool", arguments);
     return QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000)
         && process.error() == QProcess::UnknownError && process.exitCode() == 0;
 }
 
 QStringList moveTo(const QPoint &point)
 {
-    return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
+    return {"mousemove", QString::number(point.x()), QString::number(point.y())};
 }
 
-const QStringList s_press {QStringLiteral("mousedown"), QStringLiteral("1")};
-const QStringList s_release {QStringLiteral("mouseup"), QStringLiteral("1")};
+const QStringList s_press {"mousedown", "1"};
+const QStringList s_release {"mouseup", "1"};
 const QRect s_start(300, 200, 400, 300);
 const QPoint s_right(399, 150);
 
@@ -140,7 +139,7 @@ private slots:
     void anOpenMenuTakesThePressAtTheEdge()
     {
         QMenu menu;
-        menu.addAction(QStringLiteral("One"));
+        menu.addAction("One");
         menu.popup(m_pFrame->mapToGlobal(QPoint(100, 100)));
         QVERIFY(QTest::qWaitForWindowExposed(&menu));
         QVERIFY(click(s_right));
@@ -150,7 +149,7 @@ private slots:
 
     void otherButtonsLeaveTheEdgeAlone()
     {
-        const QStringList rightClick {QStringLiteral("click"), QStringLiteral("3")};
+        const QStringList rightClick {"click", "3"};
         QVERIFY(xdotool(moveTo(s_start.topLeft() + s_right) + rightClick));
         QTRY_COMPARE(m_pContent->presses, QList<QPoint>({s_right}));
     }

@@ -7,9 +7,6 @@
 
 #include <support/coretest.h>
 
-#include <QRandomGenerator>
-#include <QSignalSpy>
-
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -45,12 +42,6 @@ void step(StageDocument &document, int nIndex, double dx)
     const QPointF from(element.x, element.y);
     document.submitCommand(
         new StageMoveCommand(document.getModel(), 0, {{nIndex, from, from + QPointF(dx, 0)}}, Kind::Step));
-}
-
-QByteArray contentOf(const QString &strFileName)
-{
-    QFile file(strFileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // Runs the body in a child process; its result is the exit code.
@@ -90,19 +81,17 @@ private slots:
             }
         }
         QVERIFY(pStack->count() > 500);
-        while (pStack->canUndo()) {
-            pStack->undo();
-            QCOMPARE(pModel->project(), states.at(pStack->index()));
-        }
-        while (pStack->canRedo()) {
-            pStack->redo();
-            QCOMPARE(pModel->project(), states.at(pStack->index()));
+        for (const int nEnd : {0, pStack->count()}) {
+            while (pStack->index() != nEnd) {
+                nEnd == 0 ? pStack->undo() : pStack->redo();
+                QCOMPARE(pModel->project(), states.at(pStack->index()));
+            }
         }
     }
 
     void stepsMergeOnlyWhenTheyBelongTogether()
     {
-        const auto pDocument = newDocument(QStringLiteral("x"));
+        const auto pDocument = newDocument("x");
         QUndoStack *pStack = pDocument->getUndoStack();
         pStack->clear();
         step(*pDocument, 0, 1);
@@ -126,62 +115,18 @@ private slots:
         QCOMPARE(pStack->count(), 3);
     }
 
-    void aNewProjectIsModifiedUntilItIsOnDisk()
-    {
-        TestProgram program;
-        StageDocument document;
-        document.setFileName(program.filePath("new.kelpa"));
-        QVERIFY(document.createContent(320, 200, 12, true));
-        QVERIFY(document.isModified());
-        const QSignalSpy spy(&document, &IDocument::modifyChanged);
-        QVERIFY(document.save());
-        QVERIFY(!document.isModified());
-        QCOMPARE(spy.size(), 1);
-        const auto result = StageReader::readFile(document.getFileName());
-        QVERIFY2(result.project, qPrintable(result.error));
-        QCOMPARE(*result.project, document.getModel()->project());
-        QVERIFY(result.project->responsive);
-    }
-
-    void modifiedFollowsTheHistory()
-    {
-        TestProgram program;
-        const auto pDocument = newDocument(program.filePath("a.kelpa"));
-        QVERIFY(pDocument->save());
-        QSignalSpy spy(pDocument.get(), &IDocument::modifyChanged);
-        const QSignalSpy data(pDocument.get(), &IDocument::dataChanged);
-        step(*pDocument, 0, 5);
-        pDocument->getUndoStack()->undo();
-        QCOMPARE(spy.size(), 2);
-        QCOMPARE(spy.at(0).first().toBool(), true);
-        QCOMPARE(spy.at(1).first().toBool(), false);
-        QCOMPARE(data.size(), 2);
-    }
-
-    void impossibleNewProjectsAreRefusedWithOneMessage()
-    {
-        StageDocument document;
-        document.setFileName(QStringLiteral("/x/odd.kelpa"));
-        BoxAnswers answers({QMessageBox::Ok});
-        QVERIFY(!document.createContent(0, 480, 24, false));
-        QCOMPARE(answers.boxes.size(), 1);
-        QVERIFY(answers.texts().first().contains(QLatin1String("odd.kelpa")));
-    }
-
     void openTellsFilePlaceAndReasonInOneMessage()
     {
         TestProgram program;
         StageDocument document;
         document.setFileName(program.write("broken.kelpa", "{\n \"format\": }"));
         BoxAnswers answers({QMessageBox::Ok});
-        QTest::ignoreMessage(
-            QtWarningMsg, QRegularExpression(QStringLiteral("broken.kelpa: line 2, column")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken.kelpa: line 2, column"));
         QVERIFY(!document.open());
         QCOMPARE(answers.boxes.size(), 1);
-        QCOMPARE(answers.boxes.first().title, QStringLiteral("Kelpa Studio"));
         const QString strText = answers.texts().first().remove(QChar(0x200B)); // a place to break at
-        QVERIFY2(strText.contains(program.filePath("broken.kelpa")), qPrintable(strText));
-        QVERIFY2(strText.contains(QLatin1String("line 2, column")), qPrintable(strText));
+        QVERIFY2(
+            strText.contains(program.filePath("broken.kelpa") + ".\nline 2, column"), qPrintable(strText));
         QVERIFY(document.getModel()->project().scenes.isEmpty());
     }
 
@@ -198,7 +143,7 @@ private slots:
         QVERIFY(QFile::remove(pDocument->getFileName()));
         step(*pDocument, 0, 5);
         const BoxAnswers answers({QMessageBox::Ok});
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("does not exist")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not exist"));
         QVERIFY(!pDocument->revert());
         QCOMPARE(pDocument->getModel()->elements(0).first().x, 5.0);
     }
@@ -219,9 +164,9 @@ private slots:
 
     void aSaveThatFailsSaysWhyAndLeavesTheFile_data()
     {
-        QTest::addColumn<bool>("fullDisk");
-        QTest::newRow("in a folder that is not ours") << false;
-        QTest::newRow("on a full disk") << true;
+        const auto row = columns<bool>("fullDisk");
+        row("in a folder that is not ours", false);
+        row("on a full disk", true);
     }
     void aSaveThatFailsSaysWhyAndLeavesTheFile()
     {
@@ -244,11 +189,11 @@ private slots:
             }
             if (pDocument->save() || !pDocument->isModified())
                 return 3;
-            return strStatus.contains(QLatin1String("kept.kelpa: ")) ? 0 : 4;
+            return strStatus.contains("kept.kelpa: ") ? 0 : 4;
         });
         QCOMPARE(nResult, 0);
         QCOMPARE(contentOf(strFile), QByteArray("as it was"));
-        QCOMPARE(QDir(program.folder.path()).entryList({QStringLiteral("kept*")}, QDir::Files).size(), 1);
+        QCOMPARE(QDir(program.folder.path()).entryList({"kept*"}, QDir::Files).size(), 1);
     }
 
     void backupsAreTakenWhenDueAndGoWithASave()

@@ -11,14 +11,13 @@ namespace {
 bool note(const char *pHook, const QStringList &details = {})
 {
     const QString strLine =
-        QStringLiteral("%1 %2 %3")
-            .arg(QStringLiteral(PLUGIN_NAME), QLatin1String(pHook), details.join(QLatin1Char(' ')));
+        "%1 %2 %3".arg(QStringLiteral(PLUGIN_NAME), QLatin1String(pHook), details.join(' '));
     std::printf("%s\n", qUtf8Printable(strLine.trimmed()));
     std::fflush(stdout);
     const QString strBehaviour = QStringLiteral(BEHAVIOUR);
-    if (strBehaviour == QStringLiteral("throw ") + QLatin1String(pHook))
+    if (strBehaviour == "throw " + QLatin1String(pHook))
         throw std::runtime_error("broken on purpose");
-    return strBehaviour != QStringLiteral("fail ") + QLatin1String(pHook);
+    return strBehaviour != "fail " + QLatin1String(pHook);
 }
 
 } // namespace
@@ -36,7 +35,7 @@ TestPlugin::~TestPlugin()
 
 bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
 {
-    *errorString = QStringLiteral("no licence for the sea");
+    *errorString = "no licence for the sea";
     return note("initialize", arguments);
 }
 
