@@ -89,23 +89,6 @@ private slots:
         QCOMPARE(remove.nFired, 1);
     }
 
-    void aShortcutMayUnregisterItsCommand()
-    {
-        QAction action;
-        int nFired = 0;
-        ActionManager::registerAction(&action, "Edit.Once", m_program.window(), false)
-            ->setDefaultKeySequence(keys("Ctrl+U"));
-        connect(&action, &QAction::triggered, [&] {
-            ++nFired;
-            ActionManager::unregisterAction(&action, "Edit.Once");
-        });
-        focus(m_pLeft);
-        press("Ctrl+U");
-        QTRY_COMPARE(nFired, 1);
-        press("Ctrl+U");
-        QCOMPARE(ActionManager::getAction("Edit.Once"), nullptr);
-    }
-
 private:
     // Commands follow changes of the focus only.
     static void focus(QWidget *pWidget)

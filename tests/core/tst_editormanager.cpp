@@ -72,7 +72,6 @@ private slots:
         row("the last one to the one before", 2,
             QStringList {"leaving C", "deactivated C", "aboutTo B", "activated B"});
     }
-
     void removalHandsTheActivationOn()
     {
         QFETCH(int, removed);
@@ -83,18 +82,6 @@ private slots:
         QCOMPARE(m_pRecorder->take(), log);
         QVERIFY(!EditorManager::removeEditor(m_editors.at(removed)));
         QVERIFY(EditorManager::removeEditor(nullptr));
-    }
-
-    void removalOfOthersAndOfTheLastOne()
-    {
-        EditorManager::activateEditor(a());
-        m_pRecorder->take();
-        QVERIFY(EditorManager::removeEditor(b()));
-        QVERIFY(EditorManager::removeEditor(c()));
-        QCOMPARE(m_pRecorder->take(), QStringList());
-        QVERIFY(EditorManager::removeEditor(a()));
-        QCOMPARE(m_pRecorder->take(), QStringList({"leaving A", "deactivated A"}));
-        QCOMPARE(EditorManager::activeEditor(), nullptr);
     }
 
     void deletedEditorLeavesWithoutASignalOfItsOwn()
@@ -125,37 +112,24 @@ private slots:
         QCOMPARE(EditorManager::activeEditor(), c());
     }
 
-    void listKeepsOneOfEachAndFindsTheFirstOfADocument()
-    {
-        EditorManager::addEditor(a());
-        EditorManager::addEditor(nullptr);
-        QCOMPARE(EditorManager::getEditors(), m_editors);
-        FakeDocument document;
-        c()->setDocument(&document);
-        b()->setDocument(&document);
-        QCOMPARE(EditorManager::getEditorOfDocument(&document), b());
-    }
-
     void editorRelaysItsDocumentAndLetsGoOfADyingOne()
     {
         auto pDocument = std::make_unique<FakeDocument>();
         a()->setDocument(pDocument.get());
-        QSignalSpy loaded(a(), &IEditor::documentLoaded);
-        QSignalSpy data(a(), &IEditor::documentDataChanged);
-        QSignalSpy unloading(a(), &IEditor::documentUnloading);
-        QSignalSpy title(a(), &IEditor::documentTitleChanged);
-        QSignalSpy modified(a(), &IEditor::documentModifyChanged);
-        QSignalSpy undo(a(), &IEditor::undoStackChanged);
+        QStringList heard;
+        connect(a(), &IEditor::documentLoaded, this, [&] { heard += "loaded"; });
+        connect(a(), &IEditor::documentDataChanged, this, [&] { heard += "data"; });
+        connect(a(), &IEditor::documentUnloading, this, [&] { heard += "unloading"; });
+        connect(a(), &IEditor::documentTitleChanged, this, [&] { heard += "title"; });
+        connect(a(), &IEditor::documentModifyChanged, this, [&] { heard += "modified"; });
+        connect(a(), &IEditor::undoStackChanged, this, [&] { heard += "undo"; });
         emit pDocument->aboutToOpen();
         emit pDocument->dataChanged(this);
         emit pDocument->aboutToClose();
         emit pDocument->titleChanged();
         emit pDocument->modifyChanged(true);
         emit pDocument->undoStackChanged();
-        const QList<qsizetype> counts = {
-            loaded.count(), data.count(), unloading.count(), title.count(), modified.count(), undo.count()};
-        QCOMPARE(counts, QList<qsizetype>({1, 1, 1, 1, 1, 1}));
-        QCOMPARE(data.first().first().value<QObject *>(), this);
+        QCOMPARE(heard, QStringList({"loaded", "data", "unloading", "title", "modified", "undo"}));
 
         // Already the document's own early notice clears the pointer, before QObject's.
         bool bClearedEarly = false;

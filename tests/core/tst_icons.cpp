@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <iui.h>
 
-#include <QImage>
-#include <QImageReader>
 #include <support/rows.h>
 
+#include <QImage>
+#include <QImageReader>
 #include <QtTest>
 
 #include <algorithm>
 
 namespace {
-
-const QString s_core = ":/core/images/";
-const QString s_designer = ":/designer/images/";
 
 // What is to be seen of an image: how much ink, and how far its strongest colour is from grey.
 struct Look
@@ -51,26 +48,23 @@ private slots:
 
     void everyVariantHasItsSize_data()
     {
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("name");
+        const auto row = columns<QString>("image");
         for (const char *pName : {"new", "open", "save", "preferences", "language", "icon", "info", "warning",
                  "minimize", "maximize", "restore", "close", "update"})
-            QTest::addRow("core image %s", pName) << s_core << QString::fromLatin1(pName);
+            row(pName, QString(":/core/images/") + pName);
         for (const char *pName :
             {"new", "open", "save", "preferences", "information", "question", "warning", "critical"})
-            QTest::addRow("designer image %s", pName) << s_designer << QString::fromLatin1(pName);
+            row(pName, QString(":/designer/images/") + pName);
     }
-
     void everyVariantHasItsSize()
     {
-        QFETCH(QString, folder);
-        QFETCH(QString, name);
+        QFETCH(QString, image);
         for (const int nSize : {0, 12, 16, 24, 32, 48, 64}) {
             for (const int nFactor : {1, 2}) {
-                const QString strStem = nSize == 0 ? name : QString("%1_%2").arg(name).arg(nSize);
+                const QString strStem = nSize == 0 ? image : QString("%1_%2").arg(image).arg(nSize);
                 const QString strScale = nFactor == 2 ? "_2x.png" : ".png";
-                const QImage normal(folder + strStem + strScale);
-                const QImage disabled(folder + strStem + "_d" + strScale);
+                const QImage normal(strStem + strScale);
+                const QImage disabled(strStem + "_d" + strScale);
                 const int nPixels = (nSize == 0 ? 32 : nSize) * nFactor;
                 QCOMPARE(normal.size(), QSize(nPixels, nPixels));
                 QCOMPARE(disabled.size(), QSize(nPixels, nPixels));
@@ -81,27 +75,20 @@ private slots:
         }
     }
 
-    void iconFilesHoldEverySize_data()
-    {
-        const auto row = columns<QString>("name");
-        row("the program's icon", "app_icon");
-        row("a project's icon", "project_icon");
-    }
-
     void iconFilesHoldEverySize()
     {
-        QFETCH(QString, name);
-        QImageReader reader(QString(":/app/images/%1.ico").arg(name));
-        QList<int> sizes;
-        for (int i = 0; i < reader.imageCount(); ++i) {
-            QVERIFY(reader.jumpToImage(i));
-            const QImage image = reader.read();
-            QVERIFY(lookOf(image).nInk > 0);
-            QCOMPARE(image.width(), image.height());
-            sizes.append(image.width());
+        for (const char *pName : {"app_icon", "project_icon"}) {
+            QImageReader reader(QString(":/app/images/%1.ico").arg(pName));
+            QList<int> sizes;
+            for (int i = 0; i < reader.imageCount(); ++i) {
+                QVERIFY(reader.jumpToImage(i));
+                const QImage image = reader.read();
+                QVERIFY(lookOf(image).nInk > 0);
+                sizes.append(image.width());
+            }
+            std::sort(sizes.begin(), sizes.end());
+            QCOMPARE(sizes, QList<int>({16, 24, 32, 48, 64, 128, 256}));
         }
-        std::sort(sizes.begin(), sizes.end());
-        QCOMPARE(sizes, QList<int>({16, 24, 32, 48, 64, 128, 256}));
     }
 
 private:

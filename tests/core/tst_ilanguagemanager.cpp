@@ -26,17 +26,6 @@ private slots:
         m_pProgram.reset();
     }
 
-    void builtInEnglishAloneWithoutAFolder()
-    {
-        const auto listed = initialize();
-        QCOMPARE(ids(listed), QStringList({"en_US"}));
-        QCOMPARE(manager().getCurrentLangId(), "en_US");
-        QCOMPARE(manager().getCurrentLangCode(), "en");
-        QCOMPARE(manager().getCurrentLangNoCountry(), "en");
-        QCOMPARE(manager().getSaveLangId(), QString());
-        QCOMPARE(listed.first()->nativeLanguage, QLocale("en_US").nativeLanguageName());
-    }
-
     void cataloguesFollowEnglishInOrderOfTheirNames()
     {
         install({"app_pt_BR.qm", "app_de_DE.qm", "App_fr_FR.txt", "app_en_US.qm", "other_es_ES.qm"});
@@ -64,7 +53,6 @@ private slots:
         row("nonsense is the C locale", "no such thing", "C", "C");
         row("an empty value is English", "", "en_US", "en");
     }
-
     void savedChoiceIsTheCurrentLanguage()
     {
         QFETCH(QString, stored);

@@ -58,11 +58,10 @@ public:
 private:
     bool call(const char *pHook)
     {
-        m_pLog->append(QLatin1String(pHook) + QLatin1Char(' ') + m_strName);
-        const bool bFails = m_fault.hook == QLatin1String(pHook);
-        if (bFails && m_fault.bThrows)
+        m_pLog->append(pHook + (' ' + m_strName));
+        if (m_fault.hook == pHook && m_fault.bThrows)
             throw std::runtime_error(pHook);
-        return !bFails;
+        return m_fault.hook != pHook;
     }
 
     QString m_strName;

@@ -316,7 +316,6 @@ private slots:
         row("a list", QJsonArray {QJsonArray {"a", "b"}});
         row("too many", QJsonArray {"a", "b", "c", "d"});
     }
-
     void argumentsOfAnotherKindDoNoHarm()
     {
         QFETCH(const QJsonArray, arguments);

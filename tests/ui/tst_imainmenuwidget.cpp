@@ -112,6 +112,11 @@ private slots:
 
     void dragMovesTheWindowUntilTheRelease()
     {
+        drag(stretchPoint(), {30, 30}, Qt::RightButton);
+        release(Qt::RightButton);
+        drag(m_pMenuBar->cornerWidget(Qt::TopLeftCorner)->geometry().center(), {30, 30});
+        release();
+        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
         drag(stretchPoint(), {3, -2});
         QCOMPARE(m_pWindow->pos(), QPoint(103, 98));
         moveCursor({60, 40});
@@ -128,7 +133,6 @@ private slots:
         row("the window was hidden", int(QEvent::Hide));
         row("another window became the active one", int(QEvent::WindowDeactivate));
     }
-
     void dragEndsWithoutItsRelease()
     {
         QFETCH(const int, event);
@@ -153,20 +157,6 @@ private slots:
         release();
     }
 
-    void whatIsNotTitleBarDoesNotMoveTheWindow()
-    {
-        drag(stretchPoint(), {30, 30}, Qt::RightButton);
-        release(Qt::RightButton);
-        drag(m_pMenuBar->cornerWidget(Qt::TopLeftCorner)->geometry().center(), {30, 30});
-        release();
-        m_pWindow->showNotification("text", KPNotificationBar::Info, {}, true);
-        QTest::qWait(0);
-        drag(m_pWindow->getNotificationBar()->geometry().center(), {30, 30});
-        release();
-        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
-        QVERIFY(!QApplication::activePopupWidget());
-    }
-
     void dragAcrossTheMenusOpensNone()
     {
         drag(stretchPoint(), {5, 5});
@@ -187,7 +177,6 @@ private slots:
         row("right by the threshold", QPoint(6, -50), true);
         row("down by the threshold", QPoint(-50, 6), true);
     }
-
     void dragOfAMaximisedWindow()
     {
         QFETCH(QPoint, delta);
@@ -313,20 +302,6 @@ private slots:
         QVERIFY(!m_pWindow->isVisible());
     }
 
-    void maximiseIconShowsWhatItWouldDo()
-    {
-        const auto image = [this] { return button("maximizeButton")->icon().pixmap(16, 16).toImage(); };
-        const QImage maximize = image();
-        m_pTitleBar->updateMaximized(true);
-        QVERIFY(image() != maximize);
-        m_pTitleBar->onDPIChanged();
-        QCOMPARE(image(), maximize);
-        delete button("maximizeButton");
-        m_pWindow->showMaximized();
-        m_pTitleBar->updateMaximized(true);
-        m_pTitleBar->onDPIChanged();
-    }
-
     void iconsAndRowFollowTheDisplay_data()
     {
         const auto row = columns<int, int>("dpi", "icon");
@@ -335,7 +310,6 @@ private slots:
         row("150 percent", 144, 32);
         row("200 percent", 192, 32);
     }
-
     void iconsAndRowFollowTheDisplay()
     {
         QFETCH(int, dpi);

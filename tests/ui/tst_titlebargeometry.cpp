@@ -19,7 +19,6 @@ private slots:
         row("not right of the desktop", QPoint(950, 0), 400, QPoint(600, -50));
         row("too wide: the right edge stays inside", QPoint(0, 0), 2100, QPoint(-1100, -50));
     }
-
     void restoredPosition()
     {
         QFETCH(QPoint, cursor);
@@ -38,7 +37,6 @@ private slots:
         row("right to left, in the middle", 200, true, 100, QRect(450, 0, 100, 20));
         row("right to left, too long", 300, true, 999, QRect(100, 0, 600, 20));
     }
-
     void placeOfTheTitle()
     {
         QFETCH(int, menuEnd);
