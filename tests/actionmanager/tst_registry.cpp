@@ -103,12 +103,11 @@ private slots:
         QCOMPARE(ContextManager::getContextName("Outer"), "Outside");
         QCOMPARE(ContextManager::getContextWidget("Inner"), pInner);
         ContextManager::unregisterContext(&outer, "Inner");
+        ContextManager::unregisterContext(&outer, "Outer");
         QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Inner");
         ContextManager::unregisterContext(pInner, "Inner");
         QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Later");
         ContextManager::unregisterContext(pInner, "Later");
-        QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Outer");
-        ContextManager::unregisterContext(&outer, "Outer");
         for (QWidget *pWidget : {static_cast<QWidget *>(nullptr), pLeaf}) {
             const Context context = ContextManager::getActiveContext(pWidget);
             QCOMPARE(context.widget, m_program.window());
@@ -375,8 +374,10 @@ private:
             QVERIFY(pCommand);
             const auto *pProxy = static_cast<const ProxyAction *>(pCommand->getAction());
             QCOMPARE(pProxy->action(), command.live());
-            if (command.live())
+            if (command.live()) {
                 QCOMPARE(pProxy->isEnabled(), command.live()->isEnabled());
+                QCOMPARE(pProxy->isChecked(), command.live()->isChecked());
+            }
             QCOMPARE(pCommand->getKeySequence(), command.keys);
         }
         QCOMPARE(ids, expected);

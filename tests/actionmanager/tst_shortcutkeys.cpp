@@ -43,28 +43,6 @@ private slots:
         QTRY_COMPARE(fired(), (QList<int> {1, 1, 1}));
     }
 
-    void aDisabledCommandDoesNotFire()
-    {
-        Registered left("Edit.Off", m_pLeft), probe("Edit.Probe", m_program.window());
-        left.pCommand->setDefaultKeySequence(keys("Ctrl+O"));
-        probe.pCommand->setDefaultKeySequence(keys("Ctrl+P"));
-        focus(m_pLeft);
-        left.action.setEnabled(false);
-        press("Ctrl+O");
-        press("Ctrl+P");
-        QTRY_COMPARE(probe.nFired, 1);
-        QCOMPARE(left.nFired, 0);
-        left.action.setEnabled(true);
-        focus(m_pRight);
-        press("Ctrl+O");
-        press("Ctrl+P");
-        QTRY_COMPARE(probe.nFired, 2);
-        QCOMPARE(left.nFired, 0);
-        focus(m_pLeft);
-        press("Ctrl+O");
-        QTRY_COMPARE(left.nFired, 1);
-    }
-
     void aTextFieldKeepsItsEditingKeys()
     {
         Registered all("Edit.All", m_program.window()), remove("Edit.Delete", m_program.window());

@@ -78,17 +78,6 @@ private slots:
         QCOMPARE(ids(Shortcuts::conflicts()), (QStringList {"Edit.Copy", "Edit.Find"}));
     }
 
-    void resettingTakesOneOrAll()
-    {
-        m_find->pCommand->setKeySequence(keys("F3"));
-        QVERIFY(Shortcuts::reset("Edit.Copy"));
-        QVERIFY(!Shortcuts::reset("Edit.Unknown"));
-        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
-        QCOMPARE(infoOf("Edit.Find").current, keys("F3"));
-        Shortcuts::resetAll();
-        QCOMPARE(infoOf("Edit.Find").current, keys("Ctrl+F"));
-    }
-
     void exportAndImportGiveBackEverything()
     {
         m_program.settings().setValue("Shortcuts/Absent.Command", "Ctrl+J");
@@ -97,8 +86,15 @@ private slots:
         QString strError;
         m_find->pCommand->setKeySequence({});
         QVERIFY2(Shortcuts::exportTo(strFile, strError), qPrintable(strError));
+        QVERIFY(!Shortcuts::exportTo("/nowhere/keys.json", strError));
+        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
         m_program.settings().clear();
+        QVERIFY(Shortcuts::reset("Edit.Copy"));
+        QVERIFY(!Shortcuts::reset("Edit.Unknown"));
+        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
+        QCOMPARE(infoOf("Edit.Find").current, QKeySequence());
         Shortcuts::resetAll();
+        QCOMPARE(infoOf("Edit.Find").current, keys("Ctrl+F"));
         QVERIFY2(Shortcuts::importFrom(strFile, strError), qPrintable(strError));
         QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+Y"));
         QVERIFY(infoOf("Edit.Copy").bStored);
@@ -111,8 +107,8 @@ private slots:
     {
         const auto row = columns<QByteArray>("content");
         const QByteArray head = R"({"format": "kelpa-shortcuts", "Shortcuts": )";
-        row("no JSON", QByteArray("shortcuts!"));
-        row("JSON of another kind", QByteArray(R"({"Shortcuts": {"Edit.Copy": "F2"}})"));
+        row("no JSON", "shortcuts!");
+        row("JSON of another kind", R"({"Shortcuts": {"Edit.Copy": "F2"}})");
         row("a list in place of the shortcuts", head + R"([]})");
         row("a number for a shortcut", head + R"({"Edit.Copy": "F2", "Z": 3}})");
         row("no key sequence", head + R"({"Edit.Copy": "F2", "Z": "Nonsense"}})");
@@ -128,15 +124,6 @@ private slots:
         QVERIFY2(strError.startsWith(strFile + ": "), qPrintable(strError));
         QVERIFY(strError.size() > strFile.size() + 2);
         QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+Y"));
-    }
-
-    void filesThatCannotBeUsedAreNamed()
-    {
-        QString strError;
-        QVERIFY(!Shortcuts::exportTo("/nowhere/keys.json", strError));
-        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
-        QVERIFY(!Shortcuts::importFrom("/nowhere/keys.json", strError));
-        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
     }
 
 private:

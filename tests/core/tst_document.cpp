@@ -1,25 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
-#include <mainwindow.h>
-
-class tst_Document : public QObject
+class tst_Document : public WindowTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-    }
-
-    void cleanup()
-    {
-        m_pWindow.reset();
-        m_pProgram.reset();
-    }
-
     void boxesNameTheDocumentByItsCompleteBaseName()
     {
         FakeDocument document;
@@ -52,10 +38,6 @@ private slots:
         QCOMPARE(names, QStringList({"/p/a.kelpa"}));
         QCOMPARE(nCount, 2);
     }
-
-private:
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
 };
 
 QTEST_MAIN(tst_Document)

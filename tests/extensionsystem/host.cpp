@@ -6,13 +6,11 @@
 
 #include <QCoreApplication>
 
+#include <csignal>
 #include <cstdio>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
-#endif
 
 using ExtensionSystem::PluginManager;
 
@@ -26,21 +24,15 @@ void print(const QString &strLine)
 
 bool dropRoot()
 {
-#ifdef Q_OS_UNIX
     return !qEnvironmentVariableIsSet("HOST_DROPS_ROOT") || geteuid() != 0
         || (setgid(65534) == 0 && setuid(65534) == 0);
-#else
-    return true;
-#endif
 }
 
 void fillDisk()
 {
-#ifdef Q_OS_UNIX
     const rlimit none = {0, 0};
     signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &none);
-#endif
 }
 
 void onInitializationDone()

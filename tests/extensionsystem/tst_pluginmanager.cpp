@@ -160,15 +160,6 @@ private slots:
         QVERIFY(host.lines().contains("base destroy"));
     }
 
-    void theRealProgramRefusesToRunWithoutARequiredPlugin()
-    {
-        ChildProcess program(QStringLiteral(KELPASTUDIO),
-            withSettings(m_settings.path(), {"--new-instance", "--plugin-path", testPath("required")}));
-        QCOMPARE(program.finish(), 1);
-        QVERIFY2(program.errors().contains("Kelpa Studio cannot start.\nplug-in \"needed\", "),
-            qPrintable(program.errors()));
-    }
-
     void settingsFaults_data()
     {
         // "folder" makes a folder of the store; "after" is what it holds in the end.

@@ -102,12 +102,9 @@ private slots:
         const QStringList line = {"--plugin-path", testPath("good"), "--settings-path", folder("settings")};
         ChildProcess first(QStringLiteral(KELPASTUDIO), line);
         QVERIFY(first.waitForLine("anchor delayedInitialize"));
-        QElapsedTimer timer;
-        timer.start();
         ChildProcess second(
             QStringLiteral(KELPASTUDIO), line + QStringList("one.kelpa"), {}, folder("elsewhere"));
         QCOMPARE(second.finish(), 0);
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(first.waitForLine(QString("base remoteCommand %1 one.kelpa").arg(folder("elsewhere"))));
     }
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What the welcome page may ask for, asked by a real client of the web channel.
-#include <support/coretest.h>
+// What the welcome page may ask for.
+#include <support/windowtest.h>
 
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
 #include <icore.h>
 #include <irecentfilesmanager.h>
-#include <mainwindow.h>
 #include <ui/imainmdiarea.h>
 #include <ui/kphtmlexposingwelcome.h>
 
@@ -42,79 +41,11 @@ private:
     const QStringList m_schemes {"", "http", "https", "file", "ftp", "javascript", "mailto"};
 };
 
-/// A client that speaks the protocol of the channel.
-class ChannelClient : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit ChannelClient(const QUrl &url)
-    {
-        connect(&socket, &QWebSocket::textMessageReceived, this, [this](const QString &strText) {
-            const QJsonObject message = QJsonDocument::fromJson(strText.toUtf8()).object();
-            if (message.contains("id"))
-                m_answers.insert(message.value("id").toInt(), message.value("data"));
-            else if (message.value("object") == "kpwelcome")
-                ++nSignals;
-        });
-        socket.open(url);
-    }
-
-    [[nodiscard]] QJsonObject objects() { return ask({{"type", 3}}).toObject(); }
-
-    /// Undefined when no answer comes.
-    QJsonValue call(const char *pMethod, const QJsonArray &arguments = {})
-    {
-        return ask(callOf(pMethod, arguments));
-    }
-
-    void sendCall(const char *pMethod, const QJsonArray &arguments) { send(callOf(pMethod, arguments)); }
-
-    /// From now on the signal of the bridge is counted; it has the index of the first one after QObject's.
-    void listen()
-    {
-        call("getRecentFileList");
-        const int nSignal = QObject::staticMetaObject.methodCount();
-        send({{"type", 7}, {"object", "kpwelcome"}, {"signal", nSignal}});
-        call("getRecentFileList");
-    }
-
-    QWebSocket socket;
-    int nSignals = 0;
-
-private:
-    static QJsonObject callOf(const char *pMethod, const QJsonArray &arguments)
-    {
-        return {
-            {"type", 6}, {"object", "kpwelcome"}, {"method", QLatin1String(pMethod)}, {"args", arguments}};
-    }
-
-    void send(QJsonObject message)
-    {
-        message.insert("id", ++m_nId);
-        socket.sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson()));
-    }
-
-    QJsonValue ask(const QJsonObject &message)
-    {
-        if (!QTest::qWaitFor([this] { return socket.state() == QAbstractSocket::ConnectedState; }))
-            return {};
-        send(message);
-        const int nId = m_nId;
-        if (!QTest::qWaitFor([&] { return m_answers.contains(nId); }))
-            return QJsonValue::Undefined;
-        return m_answers.take(nId);
-    }
-
-    QHash<int, QJsonValue> m_answers;
-    int m_nId = 0;
-};
-
 const QString s_unicode = "Über Wälder 海藻 Ламинария";
 
 } // namespace
 
-class tst_IMainMdiArea : public QObject
+class tst_IMainMdiArea : public WindowTest
 {
     Q_OBJECT
 
@@ -129,37 +60,31 @@ private slots:
 
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        WindowTest::init();
         m_pFactory = std::make_unique<FakeFactory>(QStringList {"kelpa", "kelpapack"});
         m_pDesktop = std::make_unique<Desktop>();
-        m_pClient = std::make_unique<ChannelClient>(m_pWindow->getServer()->serverUrl());
+        m_pBridge = m_pWindow->findChild<KPHTMLExposingWelcome *>();
         m_pResources = std::make_unique<QTemporaryDir>(ICore::resourcePath() + "/resXXXXXX");
     }
 
     void cleanup()
     {
         m_pResources.reset();
-        m_pClient.reset();
         m_pDesktop.reset();
         m_pFactory.reset();
-        m_pWindow.reset();
-        m_pProgram.reset();
+        WindowTest::cleanup();
     }
 
     void pageReachesNothingButTheBridge()
     {
-        const QJsonObject objects = m_pClient->objects();
-        QCOMPARE(objects.keys(), QStringList("kpwelcome"));
-        QSet<QString> methods;
-        for (const QJsonValue &method : objects.value("kpwelcome").toObject().value("methods").toArray())
-            methods.insert(method.toArray().first().toString().section('(', 0, 0));
+        QCOMPARE(m_pWindow->getChannel()->registeredObjects().keys(), QStringList("kpwelcome"));
+        QStringList methods;
+        const QMetaObject *pMeta = m_pBridge->metaObject();
+        for (int i = pMeta->methodOffset(); i < pMeta->methodCount(); ++i)
+            methods.append(QString::fromLatin1(pMeta->method(i).name()));
         QCOMPARE(methods,
-            QSet<QString>({"deleteLater", "showInExplorer", "removeFile", "getRecentFileList",
+            QStringList({"resetRecentFiles", "showInExplorer", "removeFile", "getRecentFileList",
                 "callbackTunnelAsync", "callbackAsyncfromJS", "openURL", "openFile", "getResourceUrls"}));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Not deleting non-wrapped object"));
-        m_pClient->call("deleteLater");
-        QCOMPARE(m_pClient->call("getRecentFileList"), QJsonArray());
     }
 
     // "@" stands for a folder beside the program, which the files lie in.
@@ -191,6 +116,7 @@ private slots:
                 QString("URL: ") + pLink, "");
         row("folder of a project", "showInExplorer", "@/x.kelpa/a", "", "file:///@/x.kelpa");
         row("folder of no project", "showInExplorer", "", "", "");
+        row("file without a name", "openFile", "", "", ICore::resourcePath());
     }
     void requests()
     {
@@ -203,7 +129,8 @@ private slots:
             {QString("help.pdf"), s_unicode, QString("50%41 #1?.txt"), QString("x.kelpa/a")})
             write(strName);
         BoxAnswers boxes({QMessageBox::Ok});
-        m_pClient->call(qPrintable(method), {argument.replace("@/", m_pResources->path() + '/')});
+        argument.replace("@/", m_pResources->path() + '/');
+        QVERIFY(QMetaObject::invokeMethod(m_pBridge, qPrintable(method), Q_ARG(QString, argument)));
         opened.replace("@/", m_pResources->path() + '/');
         QCOMPARE(boxes.texts(), box.isEmpty() ? QStringList() : QStringList(box));
         QCOMPARE(m_pDesktop->opened, opened.isEmpty() ? QStringList() : QStringList(QUrl(opened).toString()));
@@ -224,11 +151,10 @@ private slots:
         QFETCH(const QString, name);
         QFETCH(const bool, relative);
         const QString strPath = write(name);
-        m_pClient->call(
-            "openFile", {relative ? QDir(ICore::resourcePath()).relativeFilePath(strPath) : strPath});
+        m_pBridge->openFile(relative ? QDir(ICore::resourcePath()).relativeFilePath(strPath) : strPath);
         QCOMPARE(m_pFactory->documents.size(), 1);
         QCOMPARE(m_pFactory->documents.first()->getFileName(), strPath);
-        QCOMPARE(m_pClient->call("getRecentFileList"), QJsonArray {strPath});
+        QCOMPARE(m_pBridge->getRecentFileList(), QStringList(strPath));
         QCOMPARE(m_pDesktop->opened, QStringList());
     }
 
@@ -237,7 +163,7 @@ private slots:
         m_pDesktop.reset();
         const QString strPath = write(s_unicode + ".kelpa");
         BoxAnswers boxes({QMessageBox::Ok});
-        m_pClient->call("showInExplorer", {strPath});
+        m_pBridge->showInExplorer(strPath);
         QCOMPARE(boxes.texts(), QStringList("Could not open file " + strPath + '.'));
     }
 
@@ -254,14 +180,14 @@ private slots:
         QFETCH(const bool, removed);
         const QString strGone = "/gone/%1 " + s_unicode + ".kelpa";
         IRecentFilesManager::getInstance()->addFile(strGone);
-        m_pClient->listen();
+        const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
         BoxAnswers boxes({answer});
-        m_pClient->call("showInExplorer", {strGone});
+        m_pBridge->showInExplorer(strGone);
         QCOMPARE(boxes.texts(),
             QStringList("The project [" + strGone
                 + "] no longer exists.\nDo you want to remove this entry from history?"));
         QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles().isEmpty(), removed);
-        QCOMPARE(m_pClient->nSignals, removed ? 1 : 0);
+        QCOMPARE(resets.size(), removed ? 1 : 0);
         QCOMPARE(m_pDesktop->opened, QStringList());
     }
 
@@ -269,15 +195,14 @@ private slots:
     {
         for (int i = 12; i > 0; --i)
             IRecentFilesManager::getInstance()->addFile(QString("/p/%1 ").arg(i) + s_unicode);
-        m_pClient->listen();
-        m_pClient->call("removeFile", {"/P/1 " + s_unicode});
-        QCOMPARE(m_pClient->call("getRecentFileList").toArray().size(), 10);
-        m_pClient->call("removeFile", {"/p/1 " + s_unicode});
-        m_pClient->call("removeFile", {""});
-        const QJsonArray left = m_pClient->call("getRecentFileList").toArray();
-        QCOMPARE(left.size(), 9);
-        QCOMPARE(left.first().toString(), "/p/2 " + s_unicode);
-        QCOMPARE(m_pClient->nSignals, 3);
+        const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
+        m_pBridge->removeFile("/P/1 " + s_unicode);
+        QCOMPARE(m_pBridge->getRecentFileList().size(), 10);
+        m_pBridge->removeFile("/p/1 " + s_unicode);
+        m_pBridge->removeFile("");
+        QCOMPARE(m_pBridge->getRecentFileList().size(), 9);
+        QCOMPARE(m_pBridge->getRecentFileList().first(), "/p/2 " + s_unicode);
+        QCOMPARE(resets.size(), 3);
         const auto *pFirst = ActionManager::getAction("File.Recent_Projects.Project_1")->getAction();
         QCOMPARE(pFirst->text(), "1. /p/2 " + s_unicode);
     }
@@ -288,13 +213,13 @@ private slots:
         action.setCheckable(true);
         ActionManager::registerAction(&action, "Test.Checkable", m_pWindow.get(), false);
         QSignalSpy triggered(&action, &QAction::triggered);
-        m_pClient->call("callbackTunnelAsync", {"Test.Checkable"});
+        m_pBridge->callbackTunnelAsync("Test.Checkable");
         action.setEnabled(false);
-        m_pClient->call("callbackTunnelAsync", {"Test.Checkable"});
+        m_pBridge->callbackTunnelAsync("Test.Checkable");
         QCOMPARE(triggered, QList<QVariantList>({{true}, {true}}));
         QVERIFY(!action.isChecked());
         for (const char *pId : {"", "test.checkable", "Test.Checkable ", "MenuBar.File", "quit()"})
-            m_pClient->call("callbackTunnelAsync", {QString::fromLatin1(pId)});
+            m_pBridge->callbackTunnelAsync(pId);
         QCOMPARE(triggered.size(), 2);
         ActionManager::unregisterAction(&action, "Test.Checkable");
     }
@@ -304,54 +229,38 @@ private slots:
         const std::pair<const char *, const char *> answers[] = {{"WelcomeScreen.getLocale", "de_DE"},
             {"WelcomeScreen.getBuildNumber", "3.1.4"}, {"welcomescreen.getbuildnumber", ""}, {"", ""}};
         for (const auto &[pQuery, pAnswer] : answers)
-            QCOMPARE(m_pClient->call("callbackAsyncfromJS", {pQuery, "anything"}), QJsonValue(pAnswer));
-    }
-
-    void argumentsOfAnotherKindDoNoHarm_data()
-    {
-        const auto row = columns<QJsonArray>("arguments");
-        row("none", QJsonArray());
-        row("null", QJsonArray {QJsonValue()});
-        row("an object", QJsonArray {QJsonObject {{"toString", "x"}}});
-        row("a list", QJsonArray {QJsonArray {"a", "b"}});
-        row("too many", QJsonArray {"a", "b", "c", "d"});
-    }
-    void argumentsOfAnotherKindDoNoHarm()
-    {
-        QFETCH(const QJsonArray, arguments);
-        IRecentFilesManager::getInstance()->addFile("/p/a.kelpa");
-        BoxAnswers boxes(QList<QMessageBox::StandardButton>(10, QMessageBox::No));
-        for (const char *pMethod :
-            {"showInExplorer", "removeFile", "callbackTunnelAsync", "openURL", "openFile"})
-            m_pClient->call(pMethod, arguments);
-        QCOMPARE(m_pClient->call("getRecentFileList"), QJsonArray {"/p/a.kelpa"});
-        for (const QString &strOpened : std::as_const(m_pDesktop->opened))
-            QCOMPARE(QDir::cleanPath(strOpened), ICore::resourcePath());
+            QCOMPARE(m_pBridge->callbackAsyncfromJS(pQuery, "anything"), pAnswer);
     }
 
     // The call is still being worked off when the client is gone.
     void clientLeavesWhileItsBoxIsOpen()
     {
-        QVERIFY(!m_pClient->objects().isEmpty());
+        QWebSocket client;
+        client.open(m_pWindow->getServer()->serverUrl());
+        QTRY_COMPARE(client.state(), QAbstractSocket::ConnectedState);
         QTimer timer;
         bool bClosed = false;
         connect(&timer, &QTimer::timeout, this, [&] {
             auto *pBox = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (pBox && m_pClient->socket.state() != QAbstractSocket::UnconnectedState)
-                m_pClient->socket.abort();
+            if (pBox && client.state() != QAbstractSocket::UnconnectedState)
+                client.abort();
             else if (pBox && !hasConnectedClient())
                 bClosed = pBox->close();
         });
         timer.start(1);
-        m_pClient->sendCall("openURL", {"x"});
+        client.sendTextMessage(R"({"type":6,"id":1,"object":"kpwelcome","method":"openURL","args":["x"]})");
         QTRY_VERIFY(bClosed);
-        m_pClient = std::make_unique<ChannelClient>(m_pWindow->getServer()->serverUrl());
-        QCOMPARE(m_pClient->call("getRecentFileList"), QJsonArray());
+        QSignalSpy answers(&client, &QWebSocket::textMessageReceived);
+        client.open(m_pWindow->getServer()->serverUrl());
+        QTRY_COMPARE(client.state(), QAbstractSocket::ConnectedState);
+        client.sendTextMessage(
+            R"({"type":6,"id":2,"object":"kpwelcome","method":"getRecentFileList","args":[]})");
+        QTRY_COMPARE(answers.size(), 1);
     }
 
     void pageHearsEachTimeItIsToBeShown()
     {
-        m_pClient->listen();
+        const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
         m_pWindow->setVisibleWelcomeWidget(true);
         QWidget welcome(m_pWindow->getMdiArea());
         welcome.hide();
@@ -361,7 +270,7 @@ private slots:
         QVERIFY(!welcome.isHidden());
         m_pWindow->setVisibleWelcomeWidget(false);
         QVERIFY(welcome.isHidden());
-        QTRY_COMPARE(m_pClient->nSignals, 3);
+        QCOMPARE(resets.size(), 3);
     }
 
     void bridgeLeavesTheChannelWithItsArea()
@@ -388,11 +297,9 @@ private:
         return file.open(QIODevice::WriteOnly) && file.write("x") ? file.fileName() : QString();
     }
 
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<FakeFactory> m_pFactory;
     std::unique_ptr<Desktop> m_pDesktop;
-    std::unique_ptr<ChannelClient> m_pClient;
+    KPHTMLExposingWelcome *m_pBridge = nullptr;
     std::unique_ptr<QTemporaryDir> m_pResources;
 };
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <iui.h>
-#include <mainwindow.h>
 #include <ui/kpnotificationbar.h>
 
 #include <private/qguiapplication_p.h>
@@ -13,14 +12,7 @@
 
 namespace {
 
-/// What a screen reader hears, with the text it gets when it asks at that moment.
-struct Heard
-{
-    QObject *pObject;
-    QAccessible::Event type;
-    QString text;
-};
-QList<Heard> s_heard;
+QStringList s_heard; // what a screen reader reads out, with the text it gets when it asks at that moment
 
 // As the window system does when a screen reader is running.
 void setScreenReader(bool bRuns)
@@ -28,37 +20,40 @@ void setScreenReader(bool bRuns)
     QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(bRuns);
 }
 
+// Alerts of whatever object, the focus, and new names of the bar.
 void record(QAccessibleEvent *pEvent)
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    const auto announcement = QAccessible::Announcement;
+#else
+    const auto announcement = QAccessible::Alert;
+#endif
+    const bool bNewName =
+        pEvent->type() == QAccessible::NameChanged && qobject_cast<KPNotificationBar *>(pEvent->object());
+    if (pEvent->type() != announcement && pEvent->type() != QAccessible::Focus && !bNewName)
+        return;
     const QAccessibleInterface *pInterface = pEvent->accessibleInterface();
     const bool bShowing = pInterface && !pInterface->state().invisible;
-    s_heard.append({pEvent->object(), pEvent->type(),
-        bShowing ? pInterface->text(QAccessible::Description) + ": " + pInterface->text(QAccessible::Name)
-                 : QString()});
+    s_heard.append(bShowing
+            ? pInterface->text(QAccessible::Description) + ": " + pInterface->text(QAccessible::Name)
+            : "");
 }
 
 } // namespace
 
-class tst_KPNotificationBar : public QObject
+class tst_KPNotificationBar : public WindowTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        WindowTest::init();
         m_pWindow->resize(800, 600);
         m_pWindow->show();
         m_pWindow->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
         m_pBar = m_pWindow->getNotificationBar();
-    }
-
-    void cleanup()
-    {
-        m_pWindow.reset();
-        m_pProgram.reset();
     }
 
     void barShowsWhatItIsGiven_data()
@@ -86,22 +81,16 @@ private slots:
         QVERIFY(!m_pBar->isVisible());
     }
 
-    void iconFollowsTypeAndDisplay_data()
-    {
-        const auto row = columns<int, int, QString>("type", "dpi", "file");
-        row("warning at 100 percent", 1, 96, "warning_16.png");
-        row("any other type is information", 2, 96, "info_16.png");
-        row("warning at 150 percent", 1, 144, "warning_16_2x.png");
-    }
     void iconFollowsTypeAndDisplay()
     {
-        QFETCH(int, type);
-        QFETCH(int, dpi);
-        QFETCH(QString, file);
-        m_pWindow->setScreen(screenOf(dpi));
-        m_pBar->show("text", static_cast<KPNotificationBar::Type>(type), {}, true);
-        const QImage image = m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage();
-        QCOMPARE(image, QPixmap(":/core/images/" + file).toImage());
+        const std::tuple<int, int, const char *> rows[] = {
+            {1, 96, "warning_16.png"}, {2, 96, "info_16.png"}, {1, 144, "warning_16_2x.png"}};
+        for (const auto &[nType, nDPI, pFile] : rows) {
+            m_pWindow->setScreen(screenOf(nDPI));
+            m_pBar->show("text", static_cast<KPNotificationBar::Type>(nType), {}, true);
+            QCOMPARE(m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
+                QPixmap(QString(":/core/images/") + pFile).toImage());
+        }
     }
 
     void laterShowForgetsTheReceivers()
@@ -151,9 +140,8 @@ private slots:
         QVERIFY(m_pWindow->minimumSizeHint().width() <= nMinimum);
         QVERIFY(m_pBar->height() < 2 * goButton()->height());
         QCOMPARE(message()->text(), strText);
-        const QRect close = closeBox()->geometry();
-        QVERIFY(m_pBar->rect().contains(close));
-        QVERIFY(!close.intersects(message()->geometry()));
+        QVERIFY(m_pBar->rect().contains(closeBox()->geometry()));
+        QVERIFY(!closeBox()->geometry().intersects(message()->geometry()));
     }
 
     void everyEndOfALineIsABlank()
@@ -191,47 +179,16 @@ private slots:
         m_pBar->show("second", KPNotificationBar::Warning, "Go", true);
         QAccessible::installUpdateHandler(previous);
         setScreenReader(false);
-        QCOMPARE(announced(), QStringList({"Information: first", "Warning: second", "Warning: second"}));
-        for (const Heard &heard : std::as_const(s_heard))
-            QVERIFY(heard.type != QAccessible::ObjectShow || heard.pObject != m_pBar
-                || heard.text == "Information: first");
+        QCOMPARE(s_heard, QStringList({"Information: first", "Warning: second", "Warning: second"}));
         QCOMPARE(QApplication::focusWidget(), pFocus);
         QCOMPARE(QAccessible::queryAccessibleInterface(m_pBar)->role(), QAccessible::AlertMessage);
     }
 
 private:
-    // What is read out: alerts of whatever object, and new names of the bar.
-    [[nodiscard]] QStringList announced() const
-    {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-        const auto announcement = QAccessible::Announcement;
-#else
-        const auto announcement = QAccessible::Alert;
-#endif
-        QStringList result;
-        for (const Heard &heard : std::as_const(s_heard)) {
-            const bool bNewName = heard.type == QAccessible::NameChanged && heard.pObject == m_pBar;
-            if (heard.type == announcement || heard.type == QAccessible::Focus || bNewName)
-                result.append(heard.text);
-        }
-        return result;
-    }
+    [[nodiscard]] QLabel *message() const { return m_pBar->findChild<QLabel *>("m_pMessageLabel"); }
+    [[nodiscard]] QPushButton *goButton() const { return m_pBar->findChild<QPushButton *>("m_pButton"); }
+    [[nodiscard]] QToolButton *closeBox() const { return m_pBar->findChild<QToolButton *>("m_pCloseButton"); }
 
-    [[nodiscard]] QLabel *message() const
-    {
-        return m_pBar->findChild<QLabel *>("m_pMessageLabel");
-    }
-    [[nodiscard]] QPushButton *goButton() const
-    {
-        return m_pBar->findChild<QPushButton *>("m_pButton");
-    }
-    [[nodiscard]] QToolButton *closeBox() const
-    {
-        return m_pBar->findChild<QToolButton *>("m_pCloseButton");
-    }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
     KPNotificationBar *m_pBar = nullptr;
 };
 

