@@ -7,30 +7,16 @@
 #include <QImageReader>
 #include <QtTest>
 
-#include <algorithm>
-
 namespace {
 
-// What is to be seen of an image: how much ink, and how far its strongest colour is from grey.
-struct Look
+qint64 inkOf(const QImage &image)
 {
     qint64 nInk = 0;
-    int nColour = 0;
-};
-
-Look lookOf(const QImage &image)
-{
-    Look look;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor colour = image.pixelColor(x, y);
-            const auto [nLow, nHigh] = std::minmax({colour.red(), colour.green(), colour.blue()});
-            look.nInk += colour.alpha();
-            if (colour.alpha() > 0)
-                look.nColour = qMax(look.nColour, nHigh - nLow);
-        }
+        for (int x = 0; x < image.width(); ++x)
+            nInk += qAlpha(image.pixel(x, y));
     }
-    return look;
+    return nInk;
 }
 
 } // namespace
@@ -68,9 +54,9 @@ private slots:
                 const int nPixels = (nSize == 0 ? 32 : nSize) * nFactor;
                 QCOMPARE(normal.size(), QSize(nPixels, nPixels));
                 QCOMPARE(disabled.size(), QSize(nPixels, nPixels));
-                compareLooks(lookOf(normal), lookOf(disabled));
-                if (QTest::currentTestFailed())
-                    return;
+                QVERIFY2(inkOf(disabled) > 0, "blank image");
+                QVERIFY2(inkOf(disabled) < inkOf(normal) / 2, "the disabled image is not dimmed");
+                QVERIFY2(disabled.allGray(), "the disabled image has colours");
             }
         }
     }
@@ -83,21 +69,12 @@ private slots:
             for (int i = 0; i < reader.imageCount(); ++i) {
                 QVERIFY(reader.jumpToImage(i));
                 const QImage image = reader.read();
-                QVERIFY(lookOf(image).nInk > 0);
+                QVERIFY(inkOf(image) > 0);
                 sizes.append(image.width());
             }
             std::sort(sizes.begin(), sizes.end());
             QCOMPARE(sizes, QList<int>({16, 24, 32, 48, 64, 128, 256}));
         }
-    }
-
-private:
-    static void compareLooks(const Look &normal, const Look &disabled)
-    {
-        QVERIFY2(normal.nInk > 0, "blank image");
-        QVERIFY2(disabled.nInk > 0, "blank disabled image");
-        QVERIFY2(disabled.nInk < normal.nInk / 2, "the disabled image is not dimmed");
-        QCOMPARE(disabled.nColour, 0);
     }
 };
 

@@ -258,21 +258,6 @@ private slots:
         QTRY_COMPARE(answers.size(), 1);
     }
 
-    void pageHearsEachTimeItIsToBeShown()
-    {
-        const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
-        m_pWindow->setVisibleWelcomeWidget(true);
-        QWidget welcome(m_pWindow->getMdiArea());
-        welcome.hide();
-        m_pWindow->setWelcomeWidget(&welcome);
-        m_pWindow->setVisibleWelcomeWidget(true);
-        m_pWindow->setVisibleWelcomeWidget(true);
-        QVERIFY(!welcome.isHidden());
-        m_pWindow->setVisibleWelcomeWidget(false);
-        QVERIFY(welcome.isHidden());
-        QCOMPARE(resets.size(), 3);
-    }
-
     void bridgeLeavesTheChannelWithItsArea()
     {
         auto pArea = std::make_unique<IMainMdiArea>(nullptr);

@@ -57,6 +57,7 @@ private slots:
         };
         row("an empty file", "", "line 1, column 1: not valid JSON (illegal value)");
         row("a list instead of an object", "[]", "line 1: the file must hold an object");
+        row("text that is not UTF-8", "{\"format\": \"\xff\xfe\"}", "line 1, column 13: not valid JSON");
         change("a place after letters of two bytes", "\"Grüße\"", "\"Grüße\" x",
             "line 7, column 98: not valid JSON");
         row("the end of the file is missing", s_project.chopped(3), "line 9, column 5: not valid JSON");
@@ -67,12 +68,16 @@ private slots:
             "more than 2000000 values");
 
         change("another format", "\"kelpa\"", "\"other\"", "format: must be \"kelpa\", not \"other\"");
+        change("version zero", "\"version\": 1", "\"version\": 0", "version: must be a whole number from 1");
         change("a newer version", "\"version\": 1", "\"version\": 2",
             "version: the project was written by a newer program (format version 2; this program reads up to "
             "1)");
 
         change("a stage wider than possible", "800", "16385",
             "stage.width: must be a whole number from 1 to 16384, not 16385");
+        change("no stage", "\"stage\"", "\"Stage\"", "stage: is missing; it must be an object");
+        change("a stage without height", "600", "0", "stage.height: must be a whole number from 1 to 16384");
+        change("a flag that is a number", "true", "1", "stage.responsive: must be true or false, not 1");
         change("a frame rate beyond reason", "24", "1e9",
             "stage.frameRate: must be a whole number from 1 to 240");
         change("a colour by name", "#102030", "navy",
@@ -84,6 +89,14 @@ private slots:
             "scenes: must hold 1 to 1000 scenes, not 0");
         row("a scene's name longer than allowed", with("First", QByteArray(257, 'n').constData()),
             "scenes[0].name: must be a text of 0 to 256 characters");
+        change("an element that is a number", "{\"id\": \"label\"", "7, {\"id\": \"label\"",
+            "scenes[0].elements[1]: must be an object, not 7");
+        change("an empty id", "\"box\"", "\"\"", "elements[0].id: must be a text of 1 to 256 characters");
+        change(
+            "a negative height", "\"height\": 40", "\"height\": -40", "elements[0].height: must be a number");
+        change(
+            "more than opaque", "0.5", "1.5", "elements[0].opacity: must be a number from 0 to 1, not 1.5");
+        change("an image without source", "\"source\"", "\"src\"", "elements[2].source: is missing");
         change("an id used twice", "\"label\"", "\"box\"",
             "scenes[0].elements[1].id: \"box\" is used by another element");
         change("a type of its own", "\"rectangle\"", "\"star\"",
