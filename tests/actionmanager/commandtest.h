@@ -9,9 +9,6 @@
 #include <actionmanager/proxyaction.h>
 #include <mainwindow.h>
 
-#include <QAction>
-#include <QKeySequence>
-
 #include <memory>
 
 /// A program with a main window, whose own commands are taken away.

@@ -3,9 +3,6 @@
 
 #include <actionmanager/actioncontainer.h>
 
-#include <QMenu>
-#include <QMenuBar>
-
 class tst_ActionContainer : public QObject
 {
     Q_OBJECT
@@ -55,10 +52,9 @@ private slots:
         const ContextAction *pFirst = pMenu->insertSeparator();
         const ContextAction *pSecond = pSub->insertSeparator();
         const ContextAction *pThird = pMenu->insertSeparator(pSub, &pAction);
-        const int nFirst = pFirst->getId().section('.', 1).toInt();
-        QCOMPARE(pFirst->getId(), QString("Separator.%1").arg(nFirst));
-        QCOMPARE(pSecond->getId(), QString("Separator.%1").arg(nFirst + 1));
-        QCOMPARE(pThird->getId(), QString("Separator.%1").arg(nFirst + 2));
+        int nNumber = pFirst->getId().section('.', 1).toInt();
+        for (const ContextAction *pSeparator : {pFirst, pSecond, pThird})
+            QCOMPARE(pSeparator->getId(), QString("Separator.%1").arg(nNumber++));
         QVERIFY(pThird->isSeparator() && pThird->getAction()->isSeparator());
         QVERIFY(pAction && pAction != pThird->getAction() && pAction->parent() == pMenu);
         QCOMPARE(pMenu->getMenu()->actions().first(), pThird->getAction());

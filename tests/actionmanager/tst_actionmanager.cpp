@@ -3,10 +3,6 @@
 
 #include <actionmanager/actioncontainer.h>
 
-#include <QMenu>
-#include <QRegularExpression>
-#include <QSignalSpy>
-
 class tst_ActionManager : public QObject
 {
     Q_OBJECT
@@ -48,26 +44,6 @@ private slots:
         disconnect(added);
     }
 
-    void aCommandMayUnregisterItselfWhenTriggered_data()
-    {
-        QTest::addColumn<bool>("checkable");
-        QTest::newRow("a plain action") << false;
-        QTest::newRow("a checkable action") << true;
-    }
-    void aCommandMayUnregisterItselfWhenTriggered()
-    {
-        QFETCH(bool, checkable);
-        QAction action;
-        action.setCheckable(checkable);
-        const ContextAction *pCommand =
-            ActionManager::registerAction(&action, "Edit.Once", m_program.window(), false);
-        connect(&action, &QAction::triggered, [&] { ActionManager::unregisterAction(&action, "Edit.Once"); });
-        const QPointer<QAction> pProxy = pCommand->getAction();
-        pProxy->trigger();
-        QVERIFY(!pProxy);
-        QCOMPARE(ActionManager::getAction("Edit.Once"), nullptr);
-    }
-
     // A command that goes or comes while the context changes; the one that listens is visited first.
     void listenersMayChangeTheRegistryDuringAChangeOfContext()
     {
@@ -100,41 +76,14 @@ private slots:
         QCOMPARE(ActionManager::getActionContainer("MenuBar.Paths"), nullptr);
     }
 
-    void shortcutsPersist()
-    {
-        m_program.settings().setValue("Shortcuts/Edit.Paste", "Ctrl+Y");
-        m_program.settings().setValue("Shortcuts/Absent.Command", "Ctrl+J");
-        Registered paste("Edit.Paste", m_program.window()), mark("Edit.Mark", m_program.window());
-        paste.pCommand->setDefaultKeySequence(keys("Ctrl+V"));
-        mark.pCommand->setDefaultKeySequence(keys("Ctrl+M"));
-        QCOMPARE(paste.pCommand->getKeySequence(), keys("Ctrl+Y"));
-        paste.pCommand->setKeySequence({});
-        mark.pCommand->setKeySequence(keys("Ctrl+K, Ctrl+M"));
-        ActionManager::saveSettings();
-        QVERIFY(!m_program.settings().contains("Shortcuts/Edit.Paste"));
-        QCOMPARE(m_program.settings().value("Shortcuts/Edit.Mark").toString(), "Ctrl+K, Ctrl+M");
-        QCOMPARE(m_program.settings().value("Shortcuts/Absent.Command").toString(), "Ctrl+J");
-        ActionManager::resetToDefault();
-        QCOMPARE(paste.pCommand->getKeySequence(), keys("Ctrl+V"));
-        ActionManager::readFromSettings();
-        QCOMPARE(paste.pCommand->getKeySequence(), QKeySequence());
-        QCOMPARE(mark.pCommand->getKeySequence(), keys("Ctrl+K, Ctrl+M"));
-        Registered absent("Absent.Command", m_program.window());
-        absent.pCommand->setDefaultKeySequence(keys("Ctrl+L"));
-        QCOMPARE(absent.pCommand->getKeySequence(), keys("Ctrl+J"));
-    }
-
     void garbageInTheStoreGivesTheDefault_data()
     {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<bool>("warned");
-        QTest::newRow("a word") << QVariant("Nonsense") << true;
-        QTest::newRow("a modifier and nothing") << QVariant("Ctrl+") << true;
-        QTest::newRow("a good and a bad key") << QVariant("Ctrl+A, Bogus") << true;
-        QTest::newRow("a hundred thousand letters") << QVariant(QString(100000, 'x')) << true;
-        QTest::newRow("bytes that are no text") << QVariant(QByteArray("\xff\xfe\0\x01", 4)) << true;
-        QTest::newRow("a list") << QVariant(QVariantList {1, "two", 3.0}) << false;
-        QTest::newRow("a rectangle") << QVariant(QRect(1, 2, 3, 4)) << false;
+        const auto row = columns<QVariant, bool>("stored", "warned");
+        row("a word", "Nonsense", true);
+        row("a good and a bad key", "Ctrl+A, Bogus", true);
+        row("a hundred thousand letters", QString(100000, 'x'), true);
+        row("bytes that are no text", QByteArray("\xff\xfe\0\x01", 4), true);
+        row("a list", QVariantList {1, "two", 3.0}, false);
     }
     void garbageInTheStoreGivesTheDefault()
     {
@@ -151,15 +100,12 @@ private slots:
 
     void aFileOfGarbageNeverStopsTheStart()
     {
-        const QString strFileName = m_program.filePath("garbage.ini");
-        QFile file(strFileName);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("\xff\xfe]]]\n[Shortcuts]\nEdit.Good=Ctrl+H\nEdit.Bad=@Variant(x\n=\n==\n\\x00=1\n");
+        QByteArray content =
+            "\xff\xfe]]]\n[Shortcuts]\nEdit.Good=Ctrl+H\nEdit.Bad=@Variant(x\n=\n==\n\\x00=1\n";
         for (int i = 0; i < 20000; ++i)
-            file.write(QByteArray("Key") + QByteArray::number(i) + "=%%%,,,@Rect(\n");
-        file.write("[Shortcuts\\Edit.Good]\nnested=1\n[unfinished");
-        file.close();
-        QSettings garbage(strFileName, QSettings::IniFormat);
+            content += "Key" + QByteArray::number(i) + "=%%%,,,@Rect(\n";
+        content += "[Shortcuts\\Edit.Good]\nnested=1\n[unfinished";
+        QSettings garbage(m_program.write("garbage.ini", content), QSettings::IniFormat);
         ActionManager::setSettings(&garbage);
         QTest::ignoreMessage(
             QtWarningMsg, QRegularExpression("garbage.ini: the shortcut of Edit.Bad is no key"));

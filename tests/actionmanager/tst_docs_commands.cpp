@@ -6,11 +6,6 @@
 #include <actionmanager/shortcuts.h>
 #include <icore.h>
 
-#include <QFile>
-#include <QMenu>
-#include <QPlainTextEdit>
-#include <QRegularExpression>
-
 namespace {
 
 QString contents(const char *pFileName)

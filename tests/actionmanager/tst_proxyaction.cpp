@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <actionmanager/proxyaction.h>
 
-#include <QSignalSpy>
-#include <QTest>
+#include <support/rows.h>
+
+#include <QtTest>
 
 #include <memory>
 
@@ -40,51 +41,24 @@ private slots:
         QCOMPARE(proxy.text(), "Copy All");
     }
 
-    void passesTriggeringAndTogglingOn()
-    {
-        ProxyAction proxy(nullptr);
-        QAction first, second;
-        second.setCheckable(true);
-        proxy.setAction(&first);
-        proxy.setAction(&first);
-        QSignalSpy firstFired(&first, &QAction::triggered);
-        QSignalSpy secondFired(&second, &QAction::triggered);
-        proxy.trigger();
-        QCOMPARE(firstFired.size(), 1);
-        proxy.setAction(&second);
-        proxy.trigger();
-        QCOMPARE(firstFired.size(), 1);
-        QCOMPARE(secondFired.size(), 1);
-        QVERIFY(secondFired.first().first().toBool());
-        QVERIFY(second.isChecked());
-        second.setChecked(false);
-        QVERIFY(!proxy.isChecked());
-    }
-
     // The same-pointer rule speaks of actions that live.
-    void aDeadActionEndsDisabled_data()
-    {
-        QTest::addColumn<bool>("hides");
-        QTest::newRow("visible without an action") << false;
-        QTest::newRow("hidden without an action") << true;
-    }
     void aDeadActionEndsDisabled()
     {
-        QFETCH(bool, hides);
-        ProxyAction proxy(nullptr);
-        if (hides)
-            proxy.setAttribute(ProxyAction::HideWhenNoAction);
-        auto pAction = std::make_unique<QAction>("Copy");
-        proxy.initialize(pAction.get());
-        proxy.setAction(pAction.get());
-        QVERIFY(proxy.isEnabled() && proxy.isVisible());
-        pAction.reset();
-        QVERIFY(proxy.isEnabled());
-        proxy.trigger();
-        proxy.setAction(nullptr);
-        QVERIFY(!proxy.isEnabled());
-        QCOMPARE(proxy.isVisible(), !hides);
-        QCOMPARE(proxy.text(), "Copy");
+        for (const bool bHides : {false, true}) {
+            ProxyAction proxy(nullptr);
+            if (bHides)
+                proxy.setAttribute(ProxyAction::HideWhenNoAction);
+            auto pAction = std::make_unique<QAction>("Copy");
+            proxy.initialize(pAction.get());
+            proxy.setAction(pAction.get());
+            pAction.reset();
+            QVERIFY(proxy.isEnabled());
+            proxy.trigger();
+            proxy.setAction(nullptr);
+            QVERIFY(!proxy.isEnabled());
+            QCOMPARE(proxy.isVisible(), !bHides);
+            QCOMPARE(proxy.text(), "Copy");
+        }
     }
 
     void theToolTipShowsTheShortcut()

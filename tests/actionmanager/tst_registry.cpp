@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commandtest.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QRandomGenerator>
-#include <QToolBar>
-#include <QVBoxLayout>
-
 #include <map>
 #include <set>
 #include <vector>
@@ -76,7 +70,7 @@ struct Model
 
 } // namespace
 
-/// Random walks through the registry next to a model of it.
+/// Contexts and their commands: what their classes promise, then random walks next to a model of them.
 class tst_Registry : public QObject
 {
     Q_OBJECT
@@ -93,11 +87,81 @@ private slots:
         m_model.pMain = m_program.window();
     }
 
+    void theInnermostContextCountsAndTheFirstOfAWidget()
+    {
+        QWidget outer;
+        auto *pInner = new QWidget(&outer);
+        auto *pLeaf = new QWidget(pInner);
+        ContextManager::registerContext(&outer, "Outer", "Outside");
+        ContextManager::registerContext(pInner, "Inner", "Inside");
+        QCOMPARE(ContextManager::registerContext(pInner, "Inner", "again").name, "Inside");
+        ContextManager::registerContext(pInner, "Later", "");
+        QCOMPARE(ContextManager::getContexts().size(), 3);
+        QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Inner");
+        QCOMPARE(ContextManager::getContextId(pLeaf), QString());
+        QCOMPARE(ContextManager::getContextName(pInner), "Inside");
+        QCOMPARE(ContextManager::getContextName("Outer"), "Outside");
+        QCOMPARE(ContextManager::getContextWidget("Inner"), pInner);
+        ContextManager::unregisterContext(&outer, "Inner");
+        ContextManager::unregisterContext(&outer, "Outer");
+        QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Inner");
+        ContextManager::unregisterContext(pInner, "Inner");
+        QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Later");
+        ContextManager::unregisterContext(pInner, "Later");
+        for (QWidget *pWidget : {static_cast<QWidget *>(nullptr), pLeaf}) {
+            const Context context = ContextManager::getActiveContext(pWidget);
+            QCOMPARE(context.widget, m_program.window());
+            QCOMPARE(context.id + context.name, "GlobalGlobal");
+        }
+        QVERIFY(ContextManager::isGlobalContext({pLeaf, "Global", {}}));
+        QCOMPARE(ContextManager::registerContext(nullptr, "A", "a").id, QString());
+        QCOMPARE(ContextManager::registerContext(pLeaf, QString(), "a").widget, nullptr);
+        QVERIFY(ContextManager::getContexts().isEmpty());
+    }
+
+    void aCommandOfAPanelIsOffElsewhere()
+    {
+        QWidget panel, child(&panel);
+        Registered local("Cells.Merge", &panel);
+        QSignalSpy spy(local.pCommand, &ContextAction::activeStateChanged);
+        QVERIFY(local.proxy()->isEnabled());
+        ActionManager::setContext(&child);
+        QVERIFY(!local.proxy()->isEnabled());
+        QVERIFY(local.pCommand->isActive());
+        ActionManager::setContext(m_program.window());
+        QCOMPARE(spy.size(), 1);
+        ActionManager::setContext(&panel);
+        QVERIFY(local.proxy()->isEnabled());
+        QCOMPARE(spy.size(), 2);
+    }
+
+    void aProxyPointedElsewhereByHandComesBack()
+    {
+        QAction stranger;
+        Registered global("Edit.Undo", m_program.window());
+        ActionManager::setContext(m_program.window());
+        global.proxy()->setAction(&stranger);
+        ActionManager::setContext(m_program.window());
+        QCOMPARE(global.proxy()->action(), &global.action);
+    }
+
+    void visibilityGoesToEveryActionThatLives()
+    {
+        QWidget panel, gone;
+        Registered global("Edit.Redo", m_program.window()), local("Edit.Redo", &panel);
+        auto dead = std::make_unique<QAction>();
+        ActionManager::registerAction(dead.get(), "Edit.Redo", &gone, false);
+        dead.reset();
+        ActionManager::setContext(&panel);
+        global.pCommand->setVisible(false);
+        QVERIFY(!global.action.isVisible() && !local.action.isVisible() && !local.proxy()->isVisible());
+    }
+
     void behavesLikeTheModel_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 nSeed : {1u, 2u, 3u, 4u})
-            QTest::addRow("walk %u", nSeed) << nSeed;
+        const auto row = columns<quint32>("seed");
+        for (const char *pName : {"walk 1", "walk 2", "walk 3", "walk 4"})
+            row(pName, quint32(pName[5] - '0'));
     }
     void behavesLikeTheModel()
     {
@@ -138,47 +202,18 @@ private:
     {
         return m_actions.empty() ? nullptr : m_actions[static_cast<size_t>(below(int(m_actions.size())))];
     }
-    QWidget *anyContext()
-    {
-        return m_panels.empty() || !below(3) ? m_model.pMain
-                                             : m_panels[static_cast<size_t>(below(int(m_panels.size())))];
-    }
+    size_t anyPanel() { return static_cast<size_t>(below(int(m_panels.size()))); }
+    QWidget *anyContext() { return m_panels.empty() || !below(3) ? m_model.pMain : m_panels[anyPanel()]; }
 
     void step(int nKind)
     {
-        switch (nKind) {
-        case 0:
-            return createPanel();
-        case 1:
-            return m_panels.size() > 3 ? destroyPanel(static_cast<size_t>(below(int(m_panels.size()))))
-                                       : createPanel();
-        case 2:
-            return focus(m_panels.empty()
-                    ? m_pRest
-                    : m_panels[static_cast<size_t>(below(int(m_panels.size())))]->findChild<QLineEdit *>());
-        case 3:
-            return focus(m_pRest);
-        case 4:
-        case 5:
-        case 6:
-            return registerAny();
-        case 7:
-            return unregister(anyAction(), anyId());
-        case 8:
-            return destroyAction(below(3) ? nullptr : anyAction());
-        case 9:
-            return toggleEnabled(anyAction());
-        case 10:
-            return changeKeys(anyId());
-        case 11:
-            return save();
-        case 12:
-            return read();
-        case 13:
-            return reset();
-        default:
-            return trigger(anyId());
-        }
+        static constexpr void (tst_Registry::*s_steps[])() = {&tst_Registry::createPanel,
+            &tst_Registry::createOrDestroyPanel, &tst_Registry::focusAny, &tst_Registry::focusRest,
+            &tst_Registry::registerAny, &tst_Registry::registerAny, &tst_Registry::registerAny,
+            &tst_Registry::unregisterAny, &tst_Registry::destroyAny, &tst_Registry::toggleAny,
+            &tst_Registry::changeKeys, &tst_Registry::save, &tst_Registry::read, &tst_Registry::reset,
+            &tst_Registry::trigger};
+        (this->*s_steps[nKind])();
     }
 
     void createPanel()
@@ -258,14 +293,20 @@ private:
         delete pAction;
     }
 
-    static void toggleEnabled(QAction *pAction)
+    void toggleAny()
     {
-        if (pAction)
+        if (QAction *pAction = anyAction())
             pAction->setEnabled(!pAction->isEnabled());
     }
+    void destroyAny() { destroyAction(below(3) ? nullptr : anyAction()); }
+    void unregisterAny() { unregister(anyAction(), anyId()); }
+    void focusRest() { focus(m_pRest); }
+    void focusAny() { focus(m_panels.empty() ? m_pRest : m_panels[anyPanel()]->findChild<QLineEdit *>()); }
+    void createOrDestroyPanel() { m_panels.size() > 3 ? destroyPanel(anyPanel()) : createPanel(); }
 
-    void changeKeys(const QString &strId)
+    void changeKeys()
     {
+        const QString strId = anyId();
         const QKeySequence sequence = anyKeys();
         if (ContextAction *pCommand = ActionManager::getAction(strId)) {
             pCommand->setKeySequence(sequence);
@@ -305,8 +346,9 @@ private:
             unregister(pAction, m_strTriggered);
     }
 
-    void trigger(const QString &strId)
+    void trigger()
     {
+        const QString strId = anyId();
         m_fired.clear();
         m_strTriggered = strId;
         m_bUnregisterOnFire = !below(4);
@@ -332,8 +374,10 @@ private:
             QVERIFY(pCommand);
             const auto *pProxy = static_cast<const ProxyAction *>(pCommand->getAction());
             QCOMPARE(pProxy->action(), command.live());
-            if (command.live())
+            if (command.live()) {
                 QCOMPARE(pProxy->isEnabled(), command.live()->isEnabled());
+                QCOMPARE(pProxy->isChecked(), command.live()->isChecked());
+            }
             QCOMPARE(pCommand->getKeySequence(), command.keys);
         }
         QCOMPARE(ids, expected);

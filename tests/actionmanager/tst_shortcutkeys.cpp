@@ -3,12 +3,6 @@
 
 #include <ui/imainmdiarea.h>
 
-#include <QApplication>
-#include <QHBoxLayout>
-#include <QLineEdit>
-#include <QMdiSubWindow>
-#include <QProcess>
-
 // Keys that reach commands through the focus. On an X server they come from its keyboard.
 class tst_ShortcutKeys : public QObject
 {
@@ -49,28 +43,6 @@ private slots:
         QTRY_COMPARE(fired(), (QList<int> {1, 1, 1}));
     }
 
-    void aDisabledCommandDoesNotFire()
-    {
-        Registered left("Edit.Off", m_pLeft), probe("Edit.Probe", m_program.window());
-        left.pCommand->setDefaultKeySequence(keys("Ctrl+O"));
-        probe.pCommand->setDefaultKeySequence(keys("Ctrl+P"));
-        focus(m_pLeft);
-        left.action.setEnabled(false);
-        press("Ctrl+O");
-        press("Ctrl+P");
-        QTRY_COMPARE(probe.nFired, 1);
-        QCOMPARE(left.nFired, 0);
-        left.action.setEnabled(true);
-        focus(m_pRight);
-        press("Ctrl+O");
-        press("Ctrl+P");
-        QTRY_COMPARE(probe.nFired, 2);
-        QCOMPARE(left.nFired, 0);
-        focus(m_pLeft);
-        press("Ctrl+O");
-        QTRY_COMPARE(left.nFired, 1);
-    }
-
     void aTextFieldKeepsItsEditingKeys()
     {
         Registered all("Edit.All", m_program.window()), remove("Edit.Delete", m_program.window());
@@ -93,23 +65,6 @@ private slots:
         QTRY_COMPARE(letter.nFired, 1);
         QCOMPARE(all.nFired, 1);
         QCOMPARE(remove.nFired, 1);
-    }
-
-    void aShortcutMayUnregisterItsCommand()
-    {
-        QAction action;
-        int nFired = 0;
-        ActionManager::registerAction(&action, "Edit.Once", m_program.window(), false)
-            ->setDefaultKeySequence(keys("Ctrl+U"));
-        connect(&action, &QAction::triggered, [&] {
-            ++nFired;
-            ActionManager::unregisterAction(&action, "Edit.Once");
-        });
-        focus(m_pLeft);
-        press("Ctrl+U");
-        QTRY_COMPARE(nFired, 1);
-        press("Ctrl+U");
-        QCOMPARE(ActionManager::getAction("Edit.Once"), nullptr);
     }
 
 private:

@@ -4,8 +4,6 @@
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/shortcuts.h>
 
-#include <QMenu>
-
 class tst_Shortcuts : public QObject
 {
     Q_OBJECT
@@ -55,14 +53,12 @@ private slots:
 
     void searchingFindsAllWords_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("found");
-        QTest::newRow("nothing finds all") << "" << QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"};
-        QTest::newRow("a word of the id") << "zoom" << QStringList {"View.Zoom"};
-        QTest::newRow("a word of the menu and one of the text") << " EDIT  fin " << QStringList {"Edit.Find"};
-        QTest::newRow("the shortcut in force") << "ctrl+y" << QStringList {"Edit.Copy"};
-        QTest::newRow("the description") << "described" << QStringList {"Edit.Copy"};
-        QTest::newRow("a mnemonic is not in the text") << "&" << QStringList {};
+        const auto row = columns<QString, QStringList>("text", "found");
+        row("a word of the id", "zoom", QStringList {"View.Zoom"});
+        row("a word of the menu and one of the text", " EDIT  fin ", QStringList {"Edit.Find"});
+        row("the shortcut in force", "ctrl+y", QStringList {"Edit.Copy"});
+        row("the description", "described", QStringList {"Edit.Copy"});
+        row("a mnemonic is not in the text", "&", QStringList {});
     }
     void searchingFindsAllWords()
     {
@@ -82,17 +78,6 @@ private slots:
         QCOMPARE(ids(Shortcuts::conflicts()), (QStringList {"Edit.Copy", "Edit.Find"}));
     }
 
-    void resettingTakesOneOrAll()
-    {
-        m_find->pCommand->setKeySequence(keys("F3"));
-        QVERIFY(Shortcuts::reset("Edit.Copy"));
-        QVERIFY(!Shortcuts::reset("Edit.Unknown"));
-        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
-        QCOMPARE(infoOf("Edit.Find").current, keys("F3"));
-        Shortcuts::resetAll();
-        QCOMPARE(infoOf("Edit.Find").current, keys("Ctrl+F"));
-    }
-
     void exportAndImportGiveBackEverything()
     {
         m_program.settings().setValue("Shortcuts/Absent.Command", "Ctrl+J");
@@ -101,8 +86,15 @@ private slots:
         QString strError;
         m_find->pCommand->setKeySequence({});
         QVERIFY2(Shortcuts::exportTo(strFile, strError), qPrintable(strError));
+        QVERIFY(!Shortcuts::exportTo("/nowhere/keys.json", strError));
+        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
         m_program.settings().clear();
+        QVERIFY(Shortcuts::reset("Edit.Copy"));
+        QVERIFY(!Shortcuts::reset("Edit.Unknown"));
+        QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
+        QCOMPARE(infoOf("Edit.Find").current, QKeySequence());
         Shortcuts::resetAll();
+        QCOMPARE(infoOf("Edit.Find").current, keys("Ctrl+F"));
         QVERIFY2(Shortcuts::importFrom(strFile, strError), qPrintable(strError));
         QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+Y"));
         QVERIFY(infoOf("Edit.Copy").bStored);
@@ -113,38 +105,25 @@ private slots:
 
     void aBadFileChangesNothing_data()
     {
-        QTest::addColumn<QByteArray>("content");
+        const auto row = columns<QByteArray>("content");
         const QByteArray head = R"({"format": "kelpa-shortcuts", "Shortcuts": )";
-        QTest::newRow("an empty file") << QByteArray();
-        QTest::newRow("no JSON") << QByteArray("shortcuts!");
-        QTest::newRow("JSON of another kind") << QByteArray(R"({"Shortcuts": {"Edit.Copy": "F2"}})");
-        QTest::newRow("a list in place of the shortcuts") << head + R"([]})";
-        QTest::newRow("a number for a shortcut") << head + R"({"Edit.Copy": "F2", "Z": 3}})";
-        QTest::newRow("no key sequence") << head + R"({"Edit.Copy": "F2", "Z": "Nonsense"}})";
-        QTest::newRow("a command without a name") << head + R"({"": "F2", "Edit.Copy": "F2"}})";
-        QTest::newRow("cut in the middle") << head + R"({"Edit.Copy": "F2",)";
+        row("no JSON", "shortcuts!");
+        row("JSON of another kind", R"({"Shortcuts": {"Edit.Copy": "F2"}})");
+        row("a list in place of the shortcuts", head + R"([]})");
+        row("a number for a shortcut", head + R"({"Edit.Copy": "F2", "Z": 3}})");
+        row("no key sequence", head + R"({"Edit.Copy": "F2", "Z": "Nonsense"}})");
+        row("a command without a name", head + R"({"": "F2", "Edit.Copy": "F2"}})");
+        row("cut in the middle", head + R"({"Edit.Copy": "F2",)");
     }
     void aBadFileChangesNothing()
     {
         QFETCH(QByteArray, content);
-        const QString strFile = m_program.filePath("bad.json");
-        QFile file(strFile);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+        const QString strFile = m_program.write("bad.json", content);
         QString strError;
         QVERIFY(!Shortcuts::importFrom(strFile, strError));
         QVERIFY2(strError.startsWith(strFile + ": "), qPrintable(strError));
         QVERIFY(strError.size() > strFile.size() + 2);
         QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+Y"));
-    }
-
-    void filesThatCannotBeUsedAreNamed()
-    {
-        QString strError;
-        QVERIFY(!Shortcuts::exportTo("/nowhere/keys.json", strError));
-        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
-        QVERIFY(!Shortcuts::importFrom("/nowhere/keys.json", strError));
-        QVERIFY(strError.startsWith("/nowhere/keys.json: "));
     }
 
 private:

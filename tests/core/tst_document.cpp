@@ -1,93 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
-#include <icore.h>
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
-
-using Buttons = QList<QMessageBox::StandardButton>;
-Q_DECLARE_METATYPE(Buttons)
-
-class tst_Document : public QObject
+class tst_Document : public WindowTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-    }
-
-    void cleanup()
-    {
-        m_pWindow.reset();
-        m_pProgram.reset();
-    }
-
-    void closing_data()
-    {
-        QTest::addColumn<bool>("temporary");
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<bool>("savingSucceeds");
-        QTest::addColumn<Buttons>("answers");
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<QStringList>("calls");
-        QTest::addColumn<QStringList>("recent");
-
-        const QStringList old = {"/p/intro.final.kelpa", "/p/other.kelpa"};
-        const QStringList dropped = {"/p/other.kelpa"};
-        const QStringList renamed = {"/p/new.kelpa", "/p/other.kelpa"};
-        const QStringList saveOnly = {"close", "save"};
-        const QStringList saveAsOnly = {"close", "saveAs"};
-        const QStringList none = {"close"};
-        using Q = QMessageBox;
-        QTest::newRow("unmodified asks nothing")
-            << false << false << true << Buttons {} << true << none << old;
-        QTest::newRow("cancel keeps it open")
-            << false << true << true << Buttons {Q::Cancel} << false << none << old;
-        QTest::newRow("a closed box keeps it open")
-            << false << true << true << Buttons {Q::NoButton} << false << none << old;
-        QTest::newRow("no saves nothing") << false << true << true << Buttons {Q::No} << true << none << old;
-        QTest::newRow("yes saves") << false << true << true << Buttons {Q::Yes} << true << saveOnly << old;
-        QTest::newRow("a save that fails is told and keeps it open")
-            << false << true << false << Buttons {Q::Yes, Q::Ok} << false << saveOnly << old;
-        QTest::newRow("a temporary one always asks")
-            << true << false << true << Buttons {Q::Cancel} << false << none << old;
-        QTest::newRow("no to a temporary one drops its recent entry")
-            << true << false << true << Buttons {Q::No} << true << none << dropped;
-        QTest::newRow("yes to a temporary one renames its recent entry")
-            << true << true << true << Buttons {Q::Yes} << true << saveAsOnly << renamed;
-        QTest::newRow("a save-as that was cancelled says nothing more")
-            << true << true << false << Buttons {Q::Yes} << false << saveAsOnly << old;
-    }
-
-    void closing()
-    {
-        QFETCH(bool, temporary);
-        QFETCH(bool, modified);
-        QFETCH(bool, savingSucceeds);
-        QFETCH(Buttons, answers);
-        IRecentFilesManager::getInstance()->addFile("/p/other.kelpa");
-        IRecentFilesManager::getInstance()->addFile("/p/intro.final.kelpa");
-        FakeDocument document;
-        document.setFileName("/p/intro.final.kelpa");
-        document.strSaveAsName = "/p/new.kelpa";
-        document.setIsTempDocument(temporary);
-        document.bSaveSucceeds = document.bSaveAsSucceeds = savingSucceeds;
-        if (modified)
-            document.modify();
-        QSignalSpy closing(&document, &IDocument::aboutToClose);
-
-        BoxAnswers boxes(answers);
-        const bool bClosed = document.close();
-        QTEST(bClosed, "closed");
-        QCOMPARE(closing.count(), bClosed ? 1 : 0);
-        QTEST(document.calls, "calls");
-        QTEST(IRecentFilesManager::getInstance()->getRecentFiles(), "recent");
-        QCOMPARE(boxes.boxes.size(), answers.size());
-    }
-
     void boxesNameTheDocumentByItsCompleteBaseName()
     {
         FakeDocument document;
@@ -120,10 +38,6 @@ private slots:
         QCOMPARE(names, QStringList({"/p/a.kelpa"}));
         QCOMPARE(nCount, 2);
     }
-
-private:
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
 };
 
 QTEST_MAIN(tst_Document)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <support/coretest.h>
 
-#include <QUndoGroup>
-
 namespace {
 
 using Breakpoints = DocumentManager::Breakpoints;
@@ -41,34 +39,24 @@ private slots:
     void documentsShareTheGroupAndHaveATimerEach()
     {
         FakeDocument first;
-        FakeDocument second;
-        DocumentManager::addDocument(&first);
-        DocumentManager::addDocument(&second);
-        DocumentManager::addDocument(&first);
-        DocumentManager::addDocument(nullptr);
-        QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first, &second}));
-        QCOMPARE(
-            DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&first.stack, &second.stack}));
+        auto pSecond = std::make_unique<FakeDocument>();
+        for (IDocument *pDocument :
+            {static_cast<IDocument *>(&first), static_cast<IDocument *>(pSecond.get()),
+                static_cast<IDocument *>(&first), static_cast<IDocument *>(nullptr)})
+            DocumentManager::addDocument(pDocument);
+        QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first, pSecond.get()}));
+        QCOMPARE(DocumentManager::getUndoGroup()->stacks().size(), 2);
         QCOMPARE(timers().size(), 2);
         QVERIFY(!timers().at(0)->isActive() && !timers().at(1)->isActive());
 
-        QVERIFY(DocumentManager::removeDocument(&first));
-        QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&second}));
-        QCOMPARE(DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&second.stack}));
+        DocumentManager::startWaitingBackup(pSecond.get());
+        pSecond.reset(); // without a word
+        QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first}));
+        QCOMPARE(DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&first.stack}));
         QCOMPARE(timers().size(), 1);
+        QVERIFY(DocumentManager::removeDocument(&first));
         QVERIFY(!DocumentManager::removeDocument(&first));
-        QVERIFY(DocumentManager::removeDocument(nullptr));
-    }
-
-    void deletedDocumentLeavesEverything()
-    {
-        auto pDocument = std::make_unique<FakeDocument>();
-        DocumentManager::addDocument(pDocument.get());
-        DocumentManager::startWaitingBackup(pDocument.get());
-        pDocument.reset();
-        QVERIFY(DocumentManager::getDocuments().isEmpty());
-        QVERIFY(DocumentManager::getUndoGroup()->stacks().isEmpty());
-        QVERIFY(timers().isEmpty());
+        QVERIFY(DocumentManager::getUndoGroup()->stacks().isEmpty() && timers().isEmpty());
     }
 
     void backupIsTakenEveryIntervalOnceStarted()
@@ -102,50 +90,24 @@ private slots:
         delete pDocument;
     }
 
-    void oddIntervalsNeitherSpinNorOverflow_data()
-    {
-        QTest::addColumn<int>("seconds");
-        QTest::addColumn<int>("wait");
-        QTest::newRow("zero waits a second") << 0 << 1000;
-        QTest::newRow("negative waits a second") << -5 << 1000;
-        QTest::newRow("the largest number waits as long as a timer can")
-            << std::numeric_limits<int>::max() << std::numeric_limits<int>::max() / 1000 * 1000;
-    }
-
     void oddIntervalsNeitherSpinNorOverflow()
     {
-        QFETCH(int, seconds);
         FakeDocument document;
         DocumentManager::addDocument(&document);
-        DocumentManager::setAutobackupTimeout(seconds);
-        DocumentManager::startWaitingBackup(&document);
-        QTEST(timers().first()->interval(), "wait");
-        QCOMPARE(DocumentManager::getAutobackupTimeout(), seconds);
-    }
-
-    void builtInBreakpointsComeOnlyWithoutStoredOnesOrOnReset()
-    {
-        const Breakpoints builtInH = {{375, true}, {667, true}, {768, true}, {1024, true}, {1280, true}};
-        const Breakpoints builtInV = {{345, false}, {522, false}, {620, false}, {674, false}, {930, false}};
-        const Breakpoints own = {{480, false}};
-        Breakpoints h = own;
-        Breakpoints v = own;
-        DocumentManager::initBreakpoints(h, v, false);
-        QCOMPARE(h, builtInH);
-        QCOMPARE(v, builtInV);
-        QVERIFY(DocumentManager::getHBreakpoints().isEmpty());
-
-        DocumentManager::setHBreakpoints(own);
-        DocumentManager::initBreakpoints(h, v, false);
-        QCOMPARE(h, own);
-        QCOMPARE(v, Breakpoints());
-        DocumentManager::initBreakpoints(h, v, true);
-        QCOMPARE(h, builtInH);
-        QCOMPARE(DocumentManager::getHBreakpoints(), own);
+        const int nLargest = std::numeric_limits<int>::max();
+        for (const auto &[nSeconds, nWait] :
+            {std::pair(0, 1000), std::pair(-5, 1000), std::pair(nLargest, nLargest / 1000 * 1000)}) {
+            DocumentManager::setAutobackupTimeout(nSeconds);
+            DocumentManager::startWaitingBackup(&document);
+            QCOMPARE(timers().first()->interval(), nWait);
+            QCOMPARE(DocumentManager::getAutobackupTimeout(), nSeconds);
+        }
     }
 
     void preferencesSurviveARestart()
     {
+        DocumentManager::readSettings();
+        QVERIFY(DocumentManager::isAutobackupEnabled() && DocumentManager::isPasteSvgAsFreeform());
         const Breakpoints h = {{100, true}, {200, false}};
         DocumentManager::setHBreakpoints({{1, true}, {2, true}, {3, true}});
         DocumentManager::saveSettings();
@@ -169,15 +131,6 @@ private slots:
         QCOMPARE(DocumentManager::getHBreakpoints(), h);
         DocumentManager::readSettings();
         QCOMPARE(DocumentManager::getHBreakpoints(), h + h);
-    }
-
-    void emptyStoreLeavesTheDefaults()
-    {
-        DocumentManager::readSettings();
-        QVERIFY(DocumentManager::isAutobackupEnabled());
-        QCOMPARE(DocumentManager::getAutobackupTimeout(), 300);
-        QVERIFY(DocumentManager::isPasteSvgAsFreeform());
-        QVERIFY(DocumentManager::getHBreakpoints().isEmpty());
     }
 
 private:

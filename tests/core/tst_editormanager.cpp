@@ -66,14 +66,12 @@ private slots:
 
     void removalHandsTheActivationOn_data()
     {
-        QTest::addColumn<int>("removed");
-        QTest::addColumn<QStringList>("log");
-        QTest::newRow("the middle one to its follower")
-            << 1 << QStringList {"leaving B", "deactivated B", "aboutTo C", "activated C"};
-        QTest::newRow("the last one to the one before")
-            << 2 << QStringList {"leaving C", "deactivated C", "aboutTo B", "activated B"};
+        const auto row = columns<int, QStringList>("removed", "log");
+        row("the middle one to its follower", 1,
+            QStringList {"leaving B", "deactivated B", "aboutTo C", "activated C"});
+        row("the last one to the one before", 2,
+            QStringList {"leaving C", "deactivated C", "aboutTo B", "activated B"});
     }
-
     void removalHandsTheActivationOn()
     {
         QFETCH(int, removed);
@@ -84,18 +82,6 @@ private slots:
         QCOMPARE(m_pRecorder->take(), log);
         QVERIFY(!EditorManager::removeEditor(m_editors.at(removed)));
         QVERIFY(EditorManager::removeEditor(nullptr));
-    }
-
-    void removalOfOthersAndOfTheLastOne()
-    {
-        EditorManager::activateEditor(a());
-        m_pRecorder->take();
-        QVERIFY(EditorManager::removeEditor(b()));
-        QVERIFY(EditorManager::removeEditor(c()));
-        QCOMPARE(m_pRecorder->take(), QStringList());
-        QVERIFY(EditorManager::removeEditor(a()));
-        QCOMPARE(m_pRecorder->take(), QStringList({"leaving A", "deactivated A"}));
-        QCOMPARE(EditorManager::activeEditor(), nullptr);
     }
 
     void deletedEditorLeavesWithoutASignalOfItsOwn()
@@ -126,38 +112,10 @@ private slots:
         QCOMPARE(EditorManager::activeEditor(), c());
     }
 
-    void listKeepsOneOfEachAndFindsTheFirstOfADocument()
-    {
-        EditorManager::addEditor(a());
-        EditorManager::addEditor(nullptr);
-        QCOMPARE(EditorManager::getEditors(), m_editors);
-        FakeDocument document;
-        c()->setDocument(&document);
-        b()->setDocument(&document);
-        QCOMPARE(EditorManager::getEditorOfDocument(&document), b());
-    }
-
-    void editorRelaysItsDocumentAndLetsGoOfADyingOne()
+    void editorLetsGoOfADyingDocument()
     {
         auto pDocument = std::make_unique<FakeDocument>();
         a()->setDocument(pDocument.get());
-        QSignalSpy loaded(a(), &IEditor::documentLoaded);
-        QSignalSpy data(a(), &IEditor::documentDataChanged);
-        QSignalSpy unloading(a(), &IEditor::documentUnloading);
-        QSignalSpy title(a(), &IEditor::documentTitleChanged);
-        QSignalSpy modified(a(), &IEditor::documentModifyChanged);
-        QSignalSpy undo(a(), &IEditor::undoStackChanged);
-        emit pDocument->aboutToOpen();
-        emit pDocument->dataChanged(this);
-        emit pDocument->aboutToClose();
-        emit pDocument->titleChanged();
-        emit pDocument->modifyChanged(true);
-        emit pDocument->undoStackChanged();
-        const QList<qsizetype> counts = {
-            loaded.count(), data.count(), unloading.count(), title.count(), modified.count(), undo.count()};
-        QCOMPARE(counts, QList<qsizetype>({1, 1, 1, 1, 1, 1}));
-        QCOMPARE(data.first().first().value<QObject *>(), this);
-
         // Already the document's own early notice clears the pointer, before QObject's.
         bool bClearedEarly = false;
         connect(pDocument.get(), &QObject::destroyed, this,

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QProcess>
-#include <QTest>
+#include <QtTest>
 
 /// A program that a test starts, with what it printed so far, line by line.
 class ChildProcess : public QProcess
@@ -43,10 +42,7 @@ public:
         return QTest::qWaitFor([&] { return lines().contains(strLine); }, 20000);
     }
 
-    QStringList lines() const
-    {
-        return QString::fromUtf8(m_out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    }
+    QStringList lines() const { return QString::fromUtf8(m_out).split('\n', Qt::SkipEmptyParts); }
     QString errors() const { return QString::fromUtf8(m_err); }
 
 private:

@@ -6,13 +6,11 @@
 
 #include <QCoreApplication>
 
+#include <csignal>
 #include <cstdio>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
-#endif
 
 using ExtensionSystem::PluginManager;
 
@@ -26,31 +24,24 @@ void print(const QString &strLine)
 
 bool dropRoot()
 {
-#ifdef Q_OS_UNIX
     return !qEnvironmentVariableIsSet("HOST_DROPS_ROOT") || geteuid() != 0
         || (setgid(65534) == 0 && setuid(65534) == 0);
-#else
-    return true;
-#endif
 }
 
 void fillDisk()
 {
-#ifdef Q_OS_UNIX
     const rlimit none = {0, 0};
     signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &none);
-#endif
 }
 
 void onInitializationDone()
 {
-    print(QStringLiteral("done ") + PluginManager::arguments().join(QLatin1Char(' ')));
+    print("done " + PluginManager::arguments().join(' '));
     if (PluginManager::settings())
-        print(QStringLiteral("setting ")
-            + PluginManager::settings()->value(QStringLiteral("sea/level")).toString());
+        print("setting " + PluginManager::settings()->value("sea/level").toString());
     if (qEnvironmentVariableIsSet("HOST_WRITES"))
-        PluginManager::settings()->setValue(QStringLiteral("sea/level"), 7);
+        PluginManager::settings()->setValue("sea/level", 7);
     if (!qEnvironmentVariableIsSet("HOST_STAYS"))
         QCoreApplication::quit();
 }
@@ -64,13 +55,13 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsSet("HOST_DISK_FULL"))
         fillDisk();
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("Host"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QCoreApplication::setApplicationName("Host");
+    QCoreApplication::setApplicationVersion("1.0");
     PluginManager manager;
     QObject::connect(&manager, &PluginManager::initializationDone, onInitializationDone);
     QObject::connect(
         &manager, &PluginManager::settingsFailed, [](const QString &strFile, const QString &strReason) {
-            print(QStringLiteral("fault %1: %2").arg(strFile, strReason));
+            print(QString("fault %1: %2").arg(strFile, strReason));
         });
     if (const auto exitCode = manager.start(QCoreApplication::arguments()))
         return *exitCode;

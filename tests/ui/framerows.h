@@ -26,38 +26,15 @@ enum class At {
     FarCornerFirst,
     FarBorderNext,
     FarBorderFirst,
-    Last,
+    Last
 };
 
 inline int coordinate(At at, int nLength, Borders borders)
 {
-    switch (at) {
-    case At::Outside:
-        return -1;
-    case At::First:
-        return 0;
-    case At::BorderLast:
-        return borders.nBorder - 1;
-    case At::BorderNext:
-        return borders.nBorder;
-    case At::CornerLast:
-        return borders.nCorner - 1;
-    case At::CornerNext:
-        return borders.nCorner;
-    case At::Middle:
-        return nLength / 2;
-    case At::FarCornerNext:
-        return nLength - borders.nCorner - 1;
-    case At::FarCornerFirst:
-        return nLength - borders.nCorner;
-    case At::FarBorderNext:
-        return nLength - borders.nBorder - 1;
-    case At::FarBorderFirst:
-        return nLength - borders.nBorder;
-    case At::Last:
-        break;
-    }
-    return nLength - 1;
+    const auto [nBorder, nCorner] = borders;
+    const int places[] = {-1, 0, nBorder - 1, nBorder, nCorner - 1, nCorner, nLength / 2,
+        nLength - nCorner - 1, nLength - nCorner, nLength - nBorder - 1, nLength - nBorder, nLength - 1};
+    return places[static_cast<int>(at)];
 }
 
 struct HitRow

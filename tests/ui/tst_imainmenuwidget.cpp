@@ -4,15 +4,6 @@
 #include <mainwindow.h>
 #include <ui/imainmenuwidget.h>
 
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPainter>
-#include <QProxyStyle>
-#include <QScreen>
-#include <QStyleOptionTitleBar>
-#include <QToolTip>
-
 namespace {
 
 class Window : public MainWindow
@@ -29,6 +20,13 @@ public:
 class RecordingStyle : public QProxyStyle
 {
 public:
+    explicit RecordingStyle(QWidget *pWidget)
+        : m_pWidget(pWidget)
+    {
+        pWidget->setStyle(this);
+    }
+    ~RecordingStyle() override { m_pWidget->setStyle(nullptr); }
+
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *pOption, QPainter *pPainter,
         const QWidget *pWidget) const override
     {
@@ -43,6 +41,9 @@ public:
 
     mutable QStyleOptionTitleBar option;
     QColor strip;
+
+private:
+    QWidget *const m_pWidget;
 };
 
 // The columns of `rect` in which something is painted on the background, as the rectangle around them.
@@ -74,7 +75,7 @@ private slots:
         m_pMenuBar = m_pTitleBar->findChild<QMenuBar *>();
         m_pMenuBar->clear();
         for (const char *pTitle : {"&File", "&Edit", "&Help"})
-            m_pMenuBar->addMenu(QString::fromLatin1(pTitle))->addAction(QStringLiteral("Entry"));
+            m_pMenuBar->addMenu(QString::fromLatin1(pTitle))->addAction("Entry");
         m_pWindow->setGeometry(100, 100, 800, 600);
         showAndWait();
     }
@@ -86,22 +87,14 @@ private slots:
         m_pProgram.reset();
     }
 
-    void onlyTheEmptyStretchIsTitleBar_data()
-    {
-        QTest::addColumn<bool>("rightToLeft");
-        QTest::newRow("left to right") << false;
-        QTest::newRow("right to left") << true;
-    }
-
+    void onlyTheEmptyStretchIsTitleBar_data() { directions(); }
     void onlyTheEmptyStretchIsTitleBar()
     {
-        QFETCH(bool, rightToLeft);
-        if (rightToLeft) {
-            QApplication::setLayoutDirection(Qt::RightToLeft);
-            QVERIFY(m_pMenuBar->actionGeometry(m_pMenuBar->actions().first()).left() > 400);
-        }
-        m_pWindow->showNotification(QStringLiteral("text"), KPNotificationBar::Info, {}, true);
+        QFETCH(Qt::LayoutDirection, direction);
+        QApplication::setLayoutDirection(direction);
+        m_pWindow->showNotification("text", KPNotificationBar::Info, {}, true);
         QTest::qWait(0);
+        QCOMPARE(m_pMenuBar->actionGeometry(file()).left() > 400, direction == Qt::RightToLeft);
         QVERIFY(isTitleBar(m_pMenuBar, stretchPoint()));
         QVERIFY(isTitleBar(m_pMenuBar, m_pMenuBar->rect().center()));
         for (QAction *pAction : m_pMenuBar->actions())
@@ -116,6 +109,11 @@ private slots:
 
     void dragMovesTheWindowUntilTheRelease()
     {
+        drag(stretchPoint(), {30, 30}, Qt::RightButton);
+        release(Qt::RightButton);
+        drag(m_pMenuBar->cornerWidget(Qt::TopLeftCorner)->geometry().center(), {30, 30});
+        release();
+        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
         drag(stretchPoint(), {3, -2});
         QCOMPARE(m_pWindow->pos(), QPoint(103, 98));
         moveCursor({60, 40});
@@ -127,12 +125,11 @@ private slots:
 
     void dragEndsWithoutItsRelease_data()
     {
-        QTest::addColumn<int>("event");
-        QTest::newRow("the button came up elsewhere") << int(QEvent::None);
-        QTest::newRow("the window was hidden") << int(QEvent::Hide);
-        QTest::newRow("another window became the active one") << int(QEvent::WindowDeactivate);
+        const auto row = columns<int>("event");
+        row("the button came up elsewhere", int(QEvent::None));
+        row("the window was hidden", int(QEvent::Hide));
+        row("another window became the active one", int(QEvent::WindowDeactivate));
     }
-
     void dragEndsWithoutItsRelease()
     {
         QFETCH(const int, event);
@@ -149,34 +146,16 @@ private slots:
         const QPoint before = m_pWindow->pos();
         const auto buttons = event == QEvent::None ? Qt::NoButton : Qt::LeftButton;
         for (const Qt::MouseButtons held : {Qt::MouseButtons(buttons), Qt::MouseButtons(Qt::LeftButton)}) {
-            QMouseEvent move(QEvent::MouseMove, QPointF(stretchPoint()), QPointF(m_pressed + QPoint(40, 40)),
-                Qt::NoButton, held, Qt::NoModifier);
-            QApplication::sendEvent(m_pMenuBar, &move);
+            moveOver(stretchPoint(), {40, 40}, held);
             QCOMPARE(m_pWindow->pos(), before);
         }
         release();
     }
 
-    void whatIsNotTitleBarDoesNotMoveTheWindow()
-    {
-        drag(stretchPoint(), {30, 30}, Qt::RightButton);
-        release(Qt::RightButton);
-        drag(m_pMenuBar->cornerWidget(Qt::TopLeftCorner)->geometry().center(), {30, 30});
-        release();
-        m_pWindow->showNotification(QStringLiteral("text"), KPNotificationBar::Info, {}, true);
-        QTest::qWait(0);
-        drag(m_pWindow->getNotificationBar()->geometry().center(), {30, 30});
-        release();
-        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
-        QVERIFY(!QApplication::activePopupWidget());
-    }
-
     void dragAcrossTheMenusOpensNone()
     {
         drag(stretchPoint(), {5, 5});
-        QMouseEvent move(QEvent::MouseMove, QPointF(m_pMenuBar->actionGeometry(file()).center()),
-            QPointF(m_pressed + QPoint(9, 9)), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_pMenuBar, &move);
+        moveOver(m_pMenuBar->actionGeometry(file()).center(), {9, 9}, Qt::LeftButton);
         QVERIFY(!QApplication::activePopupWidget());
         QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
         release();
@@ -184,33 +163,26 @@ private slots:
 
     void dragOfAMaximisedWindow_data()
     {
-        QTest::addColumn<QPoint>("delta");
-        QTest::addColumn<bool>("restored");
-        QTest::newRow("a little right and down") << QPoint(5, 5) << false;
-        QTest::newRow("far to the left") << QPoint(-50, 0) << false;
-        QTest::newRow("far up and a little right") << QPoint(3, -10) << false;
-        QTest::newRow("right by the threshold") << QPoint(6, -50) << true;
-        QTest::newRow("down by the threshold") << QPoint(-50, 6) << true;
+        const auto row = columns<QPoint, bool>("delta", "restored");
+        row("a little right and down", QPoint(5, 5), false);
+        row("far to the left", QPoint(-50, 0), false);
+        row("far up and a little right", QPoint(3, -10), false);
+        row("right by the threshold", QPoint(6, -50), true);
+        row("down by the threshold", QPoint(-50, 6), true);
     }
-
     void dragOfAMaximisedWindow()
     {
         QFETCH(QPoint, delta);
-        m_pWindow->showMaximized();
-        QTRY_VERIFY(m_pMenuBar->width() > 1200);
-        drag(QPoint(600, 5), delta);
+        dragMaximised(delta);
         QTEST(!m_pWindow->isMaximized(), "restored");
         release();
     }
 
     void restoredWindowComesUnderTheCursor()
     {
-        m_pWindow->showMaximized();
-        QTRY_VERIFY(m_pMenuBar->width() > 1200);
-        drag(QPoint(600, 5), {10, 0});
+        dragMaximised({10, 0});
         QVERIFY(!m_pWindow->isMaximized());
-        const QPoint before = m_pWindow->pos();
-        QCOMPARE(before, QPoint(100, 100));
+        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
         moveCursor({12, 0});
         const int nCentred = m_pressed.x() + 12 - 400;
         QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 12, 0));
@@ -220,18 +192,6 @@ private slots:
 
         drag(stretchPoint(), {1, 1});
         QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 33, 8));
-        release();
-    }
-
-    void dragAfterARestoringOneStartsAfresh()
-    {
-        m_pWindow->showMaximized();
-        QTRY_VERIFY(m_pMenuBar->width() > 1200);
-        drag(QPoint(600, 5), {10, 0});
-        release();
-        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
-        drag(stretchPoint(), {7, 7});
-        QCOMPARE(m_pWindow->pos(), QPoint(107, 107));
         release();
     }
 
@@ -248,155 +208,100 @@ private slots:
 
     void titleIsThatOfTheFile_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<QString>("painted");
-        QTest::addColumn<QString>("ofWindow");
-        const auto row = [](const char *pName, const char *pFile, bool bModified, const char *pTitle) {
-            const QString strTitle = QString::fromLatin1(pTitle);
-            QTest::newRow(pName) << QString::fromLatin1(pFile) << bModified << strTitle
-                                 << QString(strTitle).replace("[*]", "[*][*]");
-        };
-        row("no file", "", false, "Kelpa Studio");
+        const auto row = columns<QString, bool, QString>("file", "modified", "painted");
         row("no file, modified", "", true, "Kelpa Studio*");
         row("a file", "/a/b.kelpa", false, "/a/b.kelpa - Kelpa Studio");
-        row("a modified file", "/a/b.kelpa", true, "/a/b.kelpa - Kelpa Studio*");
         row("a name with the sign for the mark", "/[*].kelpa", false, "/[*].kelpa - Kelpa Studio");
         row("a name with place holders", "/%1%2.kelpa", true, "/%1%2.kelpa - Kelpa Studio*");
     }
-
     void titleIsThatOfTheFile()
     {
         QFETCH(QString, file);
         QFETCH(bool, modified);
-        RecordingStyle style;
-        m_pTitleBar->setStyle(&style);
+        QFETCH(QString, painted);
+        const RecordingStyle style(m_pTitleBar);
         m_pWindow->setWindowFilePath(file);
         m_pWindow->setWindowModified(modified);
         m_pTitleBar->grab();
-        QTEST(style.option.text, "painted");
-        QTEST(m_pWindow->windowTitle(), "ofWindow");
-        QCOMPARE(style.option.rect.topLeft(), QPoint(0, 0));
-        QCOMPARE(style.option.rect.width(), m_pTitleBar->width());
-        QCOMPARE(style.option.rect.height(),
-            style.pixelMetric(QStyle::PM_TitleBarHeight, &style.option, m_pTitleBar));
+        QCOMPARE(style.option.text, painted);
+        QCOMPARE(m_pWindow->windowTitle(), painted.replace("[*]", "[*][*]"));
+        const int nHeight = style.pixelMetric(QStyle::PM_TitleBarHeight, &style.option, m_pTitleBar);
+        QCOMPARE(style.option.rect, QRect(0, 0, m_pTitleBar->width(), nHeight));
         QVERIFY(!style.option.icon.isNull());
-        m_pTitleBar->setStyle(nullptr);
     }
 
-    void longTitleIsElidedInThePaintedStrip()
+    void longTitleIsElidedAndItsToolTipIsPlainText()
     {
-        RecordingStyle style;
-        m_pTitleBar->setStyle(&style);
-        m_pWindow->setWindowFilePath(QString(500, 'm'));
+        const RecordingStyle style(m_pTitleBar);
+        const QString strFile = "<i>" + QString(500, 'm');
+        m_pWindow->setWindowFilePath(strFile);
         m_pTitleBar->grab();
         QVERIFY(style.option.text.endsWith(QChar(0x2026)));
         QVERIFY(m_pTitleBar->fontMetrics().horizontalAdvance(style.option.text) <= m_pTitleBar->width());
-        m_pTitleBar->setStyle(nullptr);
-    }
-
-    void toolTipOfAnElidedTitleIsPlainText()
-    {
-        const QString strFile = QStringLiteral("<i>") + QString(500, 'm');
-        m_pWindow->setWindowFilePath(strFile);
         QHelpEvent event(QEvent::ToolTip, stretchPoint(), m_pMenuBar->mapToGlobal(stretchPoint()));
         QApplication::sendEvent(m_pMenuBar, &event);
         QVERIFY(QToolTip::text().contains(strFile.toHtmlEscaped() + " - Kelpa Studio"));
         QToolTip::hideText();
     }
 
-    void titleIsSeenBesideTheMenus_data()
-    {
-        QTest::addColumn<bool>("rightToLeft");
-        QTest::newRow("left to right") << false;
-        QTest::newRow("right to left") << true;
-    }
-
+    void titleIsSeenBesideTheMenus_data() { directions(); }
     void titleIsSeenBesideTheMenus()
     {
-        QFETCH(bool, rightToLeft);
-        QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        const QRect shortTitle = titleInk();
-        QVERIFY(qAbs(shortTitle.center().x() - m_pMenuBar->width() / 2) <= 2);
-        m_pWindow->setWindowModified(true);
-        const QRect modified = titleInk();
-        QVERIFY2(modified.width() > shortTitle.width(), "the mark is to be seen");
+        QFETCH(Qt::LayoutDirection, direction);
+        QApplication::setLayoutDirection(direction);
+        QVERIFY(qAbs(titleInk().center().x() - m_pMenuBar->width() / 2) <= 2);
         m_pWindow->setWindowFilePath(QString(500, 'm'));
         const QRect stretch = stretchRect();
         const QRect longTitle = titleInk();
         QVERIFY(longTitle.width() > stretch.width() * 9 / 10 - 24);
         QVERIFY(longTitle.left() >= stretch.left() + 6 && longTitle.right() <= stretch.right() - 6);
-        m_pMenuBar->addMenu(QStringLiteral("A further menu"));
+        m_pMenuBar->addMenu("A further menu");
         QTest::qWait(0);
         QVERIFY(titleInk().width() < longTitle.width() - 20);
     }
 
     void stripIsSeenThroughTheMenuBarButTheTitleOnce()
     {
-        RecordingStyle style;
+        RecordingStyle style(m_pTitleBar);
         style.strip = Qt::yellow;
-        m_pTitleBar->setStyle(&style);
         m_pWindow->setWindowFilePath(QString(500, 'm'));
         const auto stretchOn = [this](const char *pBackground) {
-            m_pMenuBar->setStyleSheet(QStringLiteral("QMenuBar { background: %1; }").arg(pBackground));
+            m_pMenuBar->setStyleSheet(QString("QMenuBar { background: %1; }").arg(pBackground));
             return m_pTitleBar->grab().toImage().copy(stretchRect());
         };
         QCOMPARE(stretchOn("transparent"), stretchOn("yellow"));
         QVERIFY(stretchOn("transparent") != stretchOn("white"));
-        m_pTitleBar->setStyle(nullptr);
     }
 
     void buttonsDoWhatTheyAreCalled()
     {
         QAbstractButton *pMaximize = button("maximizeButton");
-        QCOMPARE(pMaximize->toolTip(), QStringLiteral("Maximize"));
-        pMaximize->click();
-        QVERIFY(m_pWindow->isMaximized());
-        QCOMPARE(pMaximize->toolTip(), QStringLiteral("Restore Down"));
-        QCOMPARE(pMaximize->accessibleName(), QStringLiteral("Restore Down"));
-        pMaximize->click();
-        QVERIFY(!m_pWindow->isMaximized());
-        QCOMPARE(pMaximize->toolTip(), QStringLiteral("Maximize"));
-        QCOMPARE(button("minizeButton")->accessibleName(), QStringLiteral("Minimize"));
+        for (const bool bMaximized : {false, true}) {
+            QCOMPARE(pMaximize->toolTip(), bMaximized ? "Restore Down" : "Maximize");
+            QCOMPARE(pMaximize->accessibleName(), pMaximize->toolTip());
+            pMaximize->click();
+            QCOMPARE(m_pWindow->isMaximized(), !bMaximized);
+        }
+        QCOMPARE(unnamedControls(m_pTitleBar), QStringList());
         button("minizeButton")->click();
         QVERIFY(m_pWindow->isMinimized());
-        QCOMPARE(button("closeButton")->accessibleName(), QStringLiteral("Close"));
-        QCOMPARE(button("qt_menubar_ext_button")->accessibleName(), QStringLiteral("More menus"));
+        QCOMPARE(button("qt_menubar_ext_button")->accessibleName(), "More menus");
         button("closeButton")->click();
         QVERIFY(!m_pWindow->isVisible());
     }
 
-    void maximiseIconShowsWhatItWouldDo()
-    {
-        const auto image = [this] { return button("maximizeButton")->icon().pixmap(16, 16).toImage(); };
-        const QImage maximize = image();
-        m_pTitleBar->updateMaximized(true);
-        QVERIFY(image() != maximize);
-        m_pTitleBar->onDPIChanged();
-        QCOMPARE(image(), maximize);
-        delete button("maximizeButton");
-        m_pWindow->showMaximized();
-        m_pTitleBar->updateMaximized(true);
-        m_pTitleBar->onDPIChanged();
-    }
-
     void iconsAndRowFollowTheDisplay_data()
     {
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<int>("icon");
-        QTest::newRow("100 percent") << 96 << 16;
-        QTest::newRow("125 percent") << 120 << 16;
-        QTest::newRow("148 percent") << 143 << 16;
-        QTest::newRow("150 percent") << 144 << 32;
-        QTest::newRow("200 percent") << 192 << 32;
+        const auto row = columns<int, int>("dpi", "icon");
+        row("148 percent", 143, 16);
+        row("150 percent", 144, 32);
     }
-
     void iconsAndRowFollowTheDisplay()
     {
         QFETCH(int, dpi);
         QFETCH(int, icon);
-        m_pWindow->setGeometry({screen(dpi)->geometry().topLeft() + QPoint(50, 50), QSize(800, 600)});
-        m_pWindow->setScreen(screen(dpi));
+        m_pWindow->setGeometry({screenOf(dpi)->geometry().topLeft() + QPoint(50, 50), QSize(800, 600)});
+        m_pWindow->setScreen(screenOf(dpi));
         emit m_pWindow->dpiChanged(dpi * 100 / 96);
         const auto *pIcon = qobject_cast<QLabel *>(m_pMenuBar->cornerWidget(Qt::TopLeftCorner));
         QCOMPARE(pIcon->pixmap(Qt::ReturnByValue).size(), QSize(icon, icon));
@@ -430,9 +335,6 @@ private slots:
         choose("Restore");
         QVERIFY(!m_pWindow->isMaximized());
         states();
-        choose("Minimize");
-        QVERIFY(m_pWindow->isMinimized());
-        states();
         choose("Close");
         QVERIFY(!m_pWindow->isVisible());
     }
@@ -457,13 +359,11 @@ private slots:
     }
 
 private:
-    static QScreen *screen(int nDPI)
+    static void directions()
     {
-        for (QScreen *pScreen : QGuiApplication::screens()) {
-            if (qRound(pScreen->logicalDotsPerInchX()) == nDPI)
-                return pScreen;
-        }
-        return nullptr;
+        const auto row = columns<Qt::LayoutDirection>("direction");
+        row("left to right", Qt::LeftToRight);
+        row("right to left", Qt::RightToLeft);
     }
 
     void showAndWait()
@@ -517,10 +417,25 @@ private:
         moveCursor(delta);
     }
 
+    void dragMaximised(const QPoint &delta)
+    {
+        m_pWindow->showMaximized();
+        QTRY_VERIFY(m_pMenuBar->width() > 1200);
+        drag(QPoint(600, 5), delta);
+    }
+
     void moveCursor(const QPoint &delta)
     {
         m_cursor = m_pressed + delta;
         QTest::mouseMove(m_pWindow->windowHandle(), m_pWindow->mapFromGlobal(m_cursor));
+    }
+
+    // As if the pointer were there, but as far as `delta` from where the drag began.
+    void moveOver(const QPoint &point, const QPoint &delta, Qt::MouseButtons held)
+    {
+        QMouseEvent move(QEvent::MouseMove, QPointF(point), QPointF(m_pressed + delta), Qt::NoButton, held,
+            Qt::NoModifier);
+        QApplication::sendEvent(m_pMenuBar, &move);
     }
 
     void release(Qt::MouseButton button = Qt::LeftButton)

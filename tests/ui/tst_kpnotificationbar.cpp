@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <iui.h>
-#include <mainwindow.h>
 #include <ui/kpnotificationbar.h>
-
-#include <QAccessible>
-#include <QLabel>
-#include <QScreen>
-#include <QToolButton>
 
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
@@ -18,14 +12,7 @@
 
 namespace {
 
-/// What a screen reader hears, with the text it gets when it asks at that moment.
-struct Heard
-{
-    QObject *pObject;
-    QAccessible::Event type;
-    QString text;
-};
-QList<Heard> s_heard;
+QStringList s_heard; // what a screen reader reads out, with the text it gets when it asks at that moment
 
 // As the window system does when a screen reader is running.
 void setScreenReader(bool bRuns)
@@ -33,26 +20,35 @@ void setScreenReader(bool bRuns)
     QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(bRuns);
 }
 
+// Alerts of whatever object, the focus, and new names of the bar.
 void record(QAccessibleEvent *pEvent)
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    const auto announcement = QAccessible::Announcement;
+#else
+    const auto announcement = QAccessible::Alert;
+#endif
+    const bool bNewName =
+        pEvent->type() == QAccessible::NameChanged && qobject_cast<KPNotificationBar *>(pEvent->object());
+    if (pEvent->type() != announcement && pEvent->type() != QAccessible::Focus && !bNewName)
+        return;
     const QAccessibleInterface *pInterface = pEvent->accessibleInterface();
     const bool bShowing = pInterface && !pInterface->state().invisible;
-    s_heard.append({pEvent->object(), pEvent->type(),
-        bShowing ? pInterface->text(QAccessible::Description) + ": " + pInterface->text(QAccessible::Name)
-                 : QString()});
+    s_heard.append(bShowing
+            ? pInterface->text(QAccessible::Description) + ": " + pInterface->text(QAccessible::Name)
+            : "");
 }
 
 } // namespace
 
-class tst_KPNotificationBar : public QObject
+class tst_KPNotificationBar : public WindowTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        WindowTest::init();
         m_pWindow->resize(800, 600);
         m_pWindow->show();
         m_pWindow->activateWindow();
@@ -60,29 +56,13 @@ private slots:
         m_pBar = m_pWindow->getNotificationBar();
     }
 
-    void cleanup()
-    {
-        m_pWindow.reset();
-        m_pProgram.reset();
-    }
-
     void barShowsWhatItIsGiven_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("closable");
-        QTest::newRow("everything") << "Saved & <b>done</b>"
-                                    << "Undo" << true;
-        QTest::newRow("no text") << ""
-                                 << "Undo" << true;
-        QTest::newRow("no button") << "Saved"
-                                   << "" << true;
-        QTest::newRow("not to be closed") << "Saved"
-                                          << "Undo" << false;
-        QTest::newRow("nothing but the icon") << ""
-                                              << "" << false;
+        const auto row = columns<QString, QString, bool>("text", "button", "closable");
+        row("everything", "Saved & <b>done</b>", "Undo", true);
+        row("no button", "Saved", "", true);
+        row("nothing but the icon", "", "", false);
     }
-
     void barShowsWhatItIsGiven()
     {
         QFETCH(QString, text);
@@ -92,43 +72,25 @@ private slots:
         m_pWindow->showNotification("before", KPNotificationBar::Warning, "before", !closable);
         m_pWindow->showNotification(text, KPNotificationBar::Info, button, closable);
         QVERIFY(m_pBar->isVisible());
-        QCOMPARE(part<QLabel>("m_pMessageLabel")->text(), text);
-        QCOMPARE(part<QLabel>("m_pMessageLabel")->isVisible(), !text.isEmpty());
-        QCOMPARE(part<QPushButton>("m_pButton")->text(), button);
-        QCOMPARE(part<QPushButton>("m_pButton")->isVisible(), !button.isEmpty());
-        QCOMPARE(part<QToolButton>("m_pCloseButton")->isVisible(), closable);
+        QCOMPARE(message()->text(), text);
+        QCOMPARE(message()->isVisible(), !text.isEmpty());
+        QCOMPARE(goButton()->text(), button);
+        QCOMPARE(goButton()->isVisible(), !button.isEmpty());
+        QCOMPARE(closeBox()->isVisible(), closable);
         m_pWindow->hideNotification();
         QVERIFY(!m_pBar->isVisible());
     }
 
-    void iconFollowsTypeAndDisplay_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<QString>("file");
-        QTest::newRow("information at 100 percent") << 0 << 96 << "info_16.png";
-        QTest::newRow("warning at 100 percent") << 1 << 96 << "warning_16.png";
-        QTest::newRow("any other type is information") << 2 << 96 << "info_16.png";
-        QTest::newRow("warning at 148 percent") << 1 << 143 << "warning_16.png";
-        QTest::newRow("warning at 150 percent") << 1 << 144 << "warning_16_2x.png";
-        QTest::newRow("information at 200 percent") << 0 << 192 << "info_16_2x.png";
-    }
-
     void iconFollowsTypeAndDisplay()
     {
-        QFETCH(int, type);
-        QFETCH(int, dpi);
-        QFETCH(QString, file);
-        const auto screens = QGuiApplication::screens();
-        const auto it = std::find_if(screens.begin(), screens.end(),
-            [&](const QScreen *pScreen) { return qRound(pScreen->logicalDotsPerInchX()) == dpi; });
-        QVERIFY(it != screens.end());
-        m_pWindow->setScreen(*it);
-        m_pBar->show("text", static_cast<KPNotificationBar::Type>(type), {}, true);
-        const QImage expected(":/core/images/" + file);
-        QVERIFY(!expected.isNull());
-        QCOMPARE(part<QLabel>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
-            QPixmap::fromImage(expected).toImage());
+        const std::tuple<int, int, const char *> rows[] = {
+            {1, 96, "warning_16.png"}, {2, 96, "info_16.png"}, {1, 144, "warning_16_2x.png"}};
+        for (const auto &[nType, nDPI, pFile] : rows) {
+            m_pWindow->setScreen(screenOf(nDPI));
+            m_pBar->show("text", static_cast<KPNotificationBar::Type>(nType), {}, true);
+            QCOMPARE(m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
+                QPixmap(QString(":/core/images/") + pFile).toImage());
+        }
     }
 
     void laterShowForgetsTheReceivers()
@@ -136,11 +98,11 @@ private slots:
         int nFirst = 0;
         m_pBar->show("one", KPNotificationBar::Info, "Go", true);
         connect(m_pBar, &KPNotificationBar::buttonClicked, this, [&] { ++nFirst; });
-        part<QPushButton>("m_pButton")->click();
+        goButton()->click();
         QCOMPARE(nFirst, 1);
         m_pBar->show("two", KPNotificationBar::Info, "Go", true);
         QSignalSpy second(m_pBar, &KPNotificationBar::buttonClicked);
-        part<QPushButton>("m_pButton")->click();
+        goButton()->click();
         QCOMPARE(nFirst, 1);
         QCOMPARE(second.size(), 1);
         QVERIFY(m_pBar->isVisible());
@@ -149,28 +111,22 @@ private slots:
     void keyboardReachesButtonAndCloseBox()
     {
         m_pBar->show("text", KPNotificationBar::Info, "Go", true);
-        part<QPushButton>("m_pButton")->setFocus();
+        goButton()->setFocus();
         QTest::keyClick(m_pBar->focusWidget(), Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), part<QToolButton>("m_pCloseButton"));
-        QCOMPARE(QApplication::focusWidget()->accessibleName(), QStringLiteral("Close"));
+        QCOMPARE(QApplication::focusWidget(), closeBox());
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), "Close");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QVERIFY(!m_pBar->isVisible());
     }
 
-    void escapeClosesOnlyWhatMayBeClosed_data()
-    {
-        QTest::addColumn<bool>("closable");
-        QTest::newRow("closable") << true;
-        QTest::newRow("not closable") << false;
-    }
-
     void escapeClosesOnlyWhatMayBeClosed()
     {
-        QFETCH(bool, closable);
-        m_pBar->show("text", KPNotificationBar::Info, "Go", closable);
-        part<QPushButton>("m_pButton")->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QCOMPARE(m_pBar->isVisible(), !closable);
+        for (const bool bClosable : {false, true}) {
+            m_pBar->show("text", KPNotificationBar::Info, "Go", bClosable);
+            goButton()->setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            QCOMPARE(m_pBar->isVisible(), !bClosable);
+        }
     }
 
     void longMessageLeavesTheWindowAlone()
@@ -182,19 +138,18 @@ private slots:
         QTest::qWait(0);
         QCOMPARE(m_pWindow->width(), 800);
         QVERIFY(m_pWindow->minimumSizeHint().width() <= nMinimum);
-        QVERIFY(m_pBar->height() < 2 * part<QPushButton>("m_pButton")->height());
-        QCOMPARE(part<QLabel>("m_pMessageLabel")->text(), strText);
-        const QRect close = part<QToolButton>("m_pCloseButton")->geometry();
-        QVERIFY(m_pBar->rect().contains(close));
-        QVERIFY(!close.intersects(part<QLabel>("m_pMessageLabel")->geometry()));
+        QVERIFY(m_pBar->height() < 2 * goButton()->height());
+        QCOMPARE(message()->text(), strText);
+        QVERIFY(m_pBar->rect().contains(closeBox()->geometry()));
+        QVERIFY(!closeBox()->geometry().intersects(message()->geometry()));
     }
 
     void everyEndOfALineIsABlank()
     {
         const auto shown = [this](char16_t separator) {
-            m_pBar->show(QStringLiteral("one") + QChar(separator) + "two", KPNotificationBar::Info, {}, true);
+            m_pBar->show(QString("one") + QChar(separator) + "two", KPNotificationBar::Info, {}, true);
             QTest::qWait(0);
-            return part<QLabel>("m_pMessageLabel")->grab().toImage();
+            return message()->grab().toImage();
         };
         const QImage expected = shown(u' ');
         for (const char16_t separator : {u'\n', u'\r', u'\u2028', u'\u2029'})
@@ -203,17 +158,16 @@ private slots:
 
     void eachMessageIsAnnouncedOnceAndTheFocusStays_data()
     {
-        QTest::addColumn<bool>("focusInBar");
-        QTest::newRow("the focus is elsewhere") << false;
-        QTest::newRow("the focus is in the bar") << true;
+        const auto row = columns<bool>("focusInBar");
+        row("the focus is elsewhere", false);
+        row("the focus is in the bar", true);
     }
-
     void eachMessageIsAnnouncedOnceAndTheFocusStays()
     {
         QFETCH(bool, focusInBar);
         if (focusInBar) {
             m_pBar->show("before", KPNotificationBar::Info, "Go", true);
-            part<QPushButton>("m_pButton")->setFocus();
+            goButton()->setFocus();
         }
         const QWidget *pFocus = QApplication::focusWidget();
         QVERIFY(pFocus);
@@ -225,40 +179,16 @@ private slots:
         m_pBar->show("second", KPNotificationBar::Warning, "Go", true);
         QAccessible::installUpdateHandler(previous);
         setScreenReader(false);
-        QCOMPARE(announced(), QStringList({"Information: first", "Warning: second", "Warning: second"}));
-        for (const Heard &heard : std::as_const(s_heard))
-            QVERIFY(heard.type != QAccessible::ObjectShow || heard.pObject != m_pBar
-                || heard.text == "Information: first");
+        QCOMPARE(s_heard, QStringList({"Information: first", "Warning: second", "Warning: second"}));
         QCOMPARE(QApplication::focusWidget(), pFocus);
         QCOMPARE(QAccessible::queryAccessibleInterface(m_pBar)->role(), QAccessible::AlertMessage);
     }
 
 private:
-    // What is read out: alerts of whatever object, and new names of the bar.
-    [[nodiscard]] QStringList announced() const
-    {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-        const auto announcement = QAccessible::Announcement;
-#else
-        const auto announcement = QAccessible::Alert;
-#endif
-        QStringList result;
-        for (const Heard &heard : std::as_const(s_heard)) {
-            const bool bNewName = heard.type == QAccessible::NameChanged && heard.pObject == m_pBar;
-            if (heard.type == announcement || heard.type == QAccessible::Focus || bNewName)
-                result.append(heard.text);
-        }
-        return result;
-    }
+    [[nodiscard]] QLabel *message() const { return m_pBar->findChild<QLabel *>("m_pMessageLabel"); }
+    [[nodiscard]] QPushButton *goButton() const { return m_pBar->findChild<QPushButton *>("m_pButton"); }
+    [[nodiscard]] QToolButton *closeBox() const { return m_pBar->findChild<QToolButton *>("m_pCloseButton"); }
 
-    template <typename Part>
-    [[nodiscard]] Part *part(const char *pName) const
-    {
-        return m_pBar->findChild<Part *>(QLatin1String(pName));
-    }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
     KPNotificationBar *m_pBar = nullptr;
 };
 

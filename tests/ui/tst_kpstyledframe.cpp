@@ -2,10 +2,11 @@
 // The frame on an X display with a window manager; the pointer is moved from outside, as a hand would.
 #include <ui/kpstyledframe.h>
 
+#include <support/rows.h>
+
 #include <QMainWindow>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QProcess>
 #include <QWindow>
 #include <QtTest>
 
@@ -24,18 +25,18 @@ protected:
 bool xdotool(const QStringList &arguments)
 {
     QProcess process;
-    process.start(QStringLiteral("xdotool"), arguments);
+    process.start("xdotool", arguments);
     return QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000)
         && process.error() == QProcess::UnknownError && process.exitCode() == 0;
 }
 
 QStringList moveTo(const QPoint &point)
 {
-    return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
+    return {"mousemove", QString::number(point.x()), QString::number(point.y())};
 }
 
-const QStringList s_press {QStringLiteral("mousedown"), QStringLiteral("1")};
-const QStringList s_release {QStringLiteral("mouseup"), QStringLiteral("1")};
+const QStringList s_press {"mousedown", "1"};
+const QStringList s_release {"mouseup", "1"};
 const QRect s_start(300, 200, 400, 300);
 const QPoint s_right(399, 150);
 
@@ -57,12 +58,7 @@ private slots:
 
     void everyEdgeResizes_data()
     {
-        QTest::addColumn<QPoint>("from");
-        QTest::addColumn<QPoint>("by");
-        QTest::addColumn<Qt::CursorShape>("cursor");
-        QTest::addColumn<QMargins>("edges");
-        const auto add = [](const char *pName, QPoint from, QPoint by, Qt::CursorShape cursor,
-                             QMargins edges) { QTest::newRow(pName) << from << by << cursor << edges; };
+        const auto add = columns<QPoint, QPoint, Qt::CursorShape, QMargins>("from", "by", "cursor", "edges");
         add("the right edge moves right", {399, 150}, {60, 9}, Qt::SizeHorCursor, {0, 0, 1, 0});
         add("the left edge moves left", {1, 150}, {-60, 9}, Qt::SizeHorCursor, {1, 0, 0, 0});
         add("the top edge moves up", {200, 3}, {9, -50}, Qt::SizeVerCursor, {0, 1, 0, 0});
@@ -92,6 +88,8 @@ private slots:
             QVERIFY(click(point));
         QTRY_COMPARE(m_pContent->presses, points);
         QVERIFY(!QGuiApplication::overrideCursor());
+        QVERIFY(xdotool(moveTo(s_start.topLeft() + s_right) + QStringList {"click", "3"}));
+        QTRY_COMPARE(m_pContent->presses, points + QList<QPoint>({s_right}));
         QCOMPARE(m_pFrame->geometry(), s_start);
     }
 
@@ -113,15 +111,11 @@ private slots:
         QTRY_COMPARE(m_pContent->presses, QList<QPoint>({s_right}));
     }
 
-    void anotherNativeWindowResizesToo()
+    void anotherNativeWindowResizesTooUnlessOfFixedSize()
     {
         show(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
         QVERIFY(drag(s_right, {60, 0}));
         QTRY_COMPARE(moved(), QMargins(0, 0, 1, 0));
-    }
-
-    void aWindowOfFixedSizeKeepsIt()
-    {
         show(Qt::Window | Qt::FramelessWindowHint | Qt::MSWindowsFixedSizeDialogHint);
         QVERIFY(click(s_right));
         QTRY_COMPARE(m_pContent->presses, QList<QPoint>({s_right}));
@@ -140,19 +134,12 @@ private slots:
     void anOpenMenuTakesThePressAtTheEdge()
     {
         QMenu menu;
-        menu.addAction(QStringLiteral("One"));
+        menu.addAction("One");
         menu.popup(m_pFrame->mapToGlobal(QPoint(100, 100)));
         QVERIFY(QTest::qWaitForWindowExposed(&menu));
         QVERIFY(click(s_right));
         QTRY_VERIFY(!menu.isVisible());
         QCOMPARE(m_pFrame->geometry(), s_start);
-    }
-
-    void otherButtonsLeaveTheEdgeAlone()
-    {
-        const QStringList rightClick {QStringLiteral("click"), QStringLiteral("3")};
-        QVERIFY(xdotool(moveTo(s_start.topLeft() + s_right) + rightClick));
-        QTRY_COMPARE(m_pContent->presses, QList<QPoint>({s_right}));
     }
 
 private:

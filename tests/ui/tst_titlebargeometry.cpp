@@ -2,7 +2,9 @@
 #include <ui/titlebargeometry.h>
 
 #include <QStyle>
-#include <QTest>
+#include <support/rows.h>
+
+#include <QtTest>
 
 class tst_TitleBarGeometry : public QObject
 {
@@ -11,15 +13,12 @@ class tst_TitleBarGeometry : public QObject
 private slots:
     void restoredPosition_data()
     {
-        QTest::addColumn<QPoint>("cursor");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QPoint>("position");
-        QTest::newRow("centred under the cursor at the top") << QPoint(0, 300) << 401 << QPoint(-200, -50);
-        QTest::newRow("not left of the desktop") << QPoint(-950, 0) << 400 << QPoint(-1000, -50);
-        QTest::newRow("not right of the desktop") << QPoint(950, 0) << 400 << QPoint(600, -50);
-        QTest::newRow("too wide: the right edge stays inside") << QPoint(0, 0) << 2100 << QPoint(-1100, -50);
+        const auto row = columns<QPoint, int, QPoint>("cursor", "width", "position");
+        row("centred under the cursor at the top", QPoint(0, 300), 401, QPoint(-200, -50));
+        row("not left of the desktop", QPoint(-950, 0), 400, QPoint(-1000, -50));
+        row("not right of the desktop", QPoint(950, 0), 400, QPoint(600, -50));
+        row("too wide: the right edge stays inside", QPoint(0, 0), 2100, QPoint(-1100, -50));
     }
-
     void restoredPosition()
     {
         QFETCH(QPoint, cursor);
@@ -29,19 +28,15 @@ private slots:
 
     void placeOfTheTitle_data()
     {
-        QTest::addColumn<int>("menuEnd");
-        QTest::addColumn<bool>("rightToLeft");
-        QTest::addColumn<int>("textWidth");
-        QTest::addColumn<QRect>("place");
-        QTest::newRow("in the middle of the row") << 200 << false << 100 << QRect(450, 0, 100, 20);
-        QTest::newRow("pushed aside by many menus") << 500 << false << 100 << QRect(500, 0, 100, 20);
-        QTest::newRow("pushed aside by the buttons") << 50 << false << 840 << QRect(60, 0, 840, 20);
-        QTest::newRow("too long: all that is free") << 300 << false << 999 << QRect(300, 0, 600, 20);
-        QTest::newRow("no room at all") << 900 << false << 100 << QRect();
-        QTest::newRow("right to left, in the middle") << 200 << true << 100 << QRect(450, 0, 100, 20);
-        QTest::newRow("right to left, too long") << 300 << true << 999 << QRect(100, 0, 600, 20);
+        const auto row = columns<int, bool, int, QRect>("menuEnd", "rightToLeft", "textWidth", "place");
+        row("in the middle of the row", 200, false, 100, QRect(450, 0, 100, 20));
+        row("pushed aside by many menus", 500, false, 100, QRect(500, 0, 100, 20));
+        row("pushed aside by the buttons", 50, false, 840, QRect(60, 0, 840, 20));
+        row("too long: all that is free", 300, false, 999, QRect(300, 0, 600, 20));
+        row("no room at all", 900, false, 100, QRect());
+        row("right to left, in the middle", 200, true, 100, QRect(450, 0, 100, 20));
+        row("right to left, too long", 300, true, 999, QRect(100, 0, 600, 20));
     }
-
     void placeOfTheTitle()
     {
         QFETCH(int, menuEnd);

@@ -3,13 +3,6 @@
 
 #include <support/coretest.h>
 
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QSpinBox>
-
 namespace {
 
 struct Dialog : StageNewDialog
@@ -18,8 +11,8 @@ struct Dialog : StageNewDialog
         : StageNewDialog(nullptr)
     {
     }
-    void setPath(const QString &strPath) { findChild<QLineEdit *>(QStringLiteral("path"))->setText(strPath); }
-    [[nodiscard]] QString problem() const { return findChild<QLabel *>(QStringLiteral("problem"))->text(); }
+    void setPath(const QString &strPath) { findChild<QLineEdit *>("path")->setText(strPath); }
+    [[nodiscard]] QString problem() const { return findChild<QLabel *>("problem")->text(); }
     [[nodiscard]] bool mayAccept() const
     {
         return findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled();
@@ -35,26 +28,23 @@ class tst_StageNewDialog : public QObject
 private slots:
     void initTestCase()
     {
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("folder.kelpa")));
-        QFile file(m_folder.filePath(QStringLiteral("there.kelpa")));
+        QVERIFY(QDir(m_folder.path()).mkdir("folder.kelpa"));
+        QFile file(m_folder.filePath("there.kelpa"));
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
 
     void okNeedsAFileThatCanBeMade_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("problem");
+        const auto row = columns<QString, QString>("path", "problem");
         const QString strFolder = m_folder.path();
-        QTest::newRow("nothing entered") << QString() << QStringLiteral("Enter the name");
-        QTest::newRow("blanks") << QStringLiteral("  ") << QStringLiteral("Enter the name");
-        QTest::newRow("a folder only") << strFolder + QLatin1Char('/') << QStringLiteral("Enter the name");
-        QTest::newRow("a name without folder") << QStringLiteral("a.kelpa") << QStringLiteral("whole path");
-        QTest::newRow("a folder that is not there")
-            << strFolder + QStringLiteral("/no/a.kelpa") << QStringLiteral("/no does not exist");
-        QTest::newRow("a folder of that name")
-            << strFolder + QStringLiteral("/folder") << QStringLiteral("is not a file");
-        QTest::newRow("a new file") << strFolder + QStringLiteral("/a.kelpa") << QString();
-        QTest::newRow("an existing file") << strFolder + QStringLiteral("/there.kelpa") << QString();
+        row("nothing entered", QString(), "Enter the name");
+        row("blanks", "  ", "Enter the name");
+        row("a folder only", strFolder + QLatin1Char('/'), "Enter the name");
+        row("a name without folder", "a.kelpa", "whole path");
+        row("a folder that is not there", strFolder + "/no/a.kelpa", "/no does not exist");
+        row("a folder of that name", strFolder + "/folder", "is not a file");
+        row("a new file", strFolder + "/a.kelpa", QString());
+        row("an existing file", strFolder + "/there.kelpa", QString());
     }
     void okNeedsAFileThatCanBeMade()
     {
@@ -73,14 +63,13 @@ private slots:
 
     void theSuffixIsAddedOnce_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("file");
-        QTest::newRow("no suffix") << QStringLiteral("/a/b") << QStringLiteral("/a/b.kelpa");
-        QTest::newRow("the suffix") << QStringLiteral("/a/b.kelpa") << QStringLiteral("/a/b.kelpa");
-        QTest::newRow("in capitals") << QStringLiteral("/a/b.KELPA") << QStringLiteral("/a/b.KELPA");
-        QTest::newRow("another suffix") << QStringLiteral("/a/b.final") << QStringLiteral("/a/b.final.kelpa");
-        QTest::newRow("roundabout") << QStringLiteral(" /a/../c/b ") << QStringLiteral("/c/b.kelpa");
-        QTest::newRow("empty stays empty") << QString() << QString();
+        const auto row = columns<QString, QString>("typed", "file");
+        row("no suffix", "/a/b", "/a/b.kelpa");
+        row("the suffix", "/a/b.kelpa", "/a/b.kelpa");
+        row("in capitals", "/a/b.KELPA", "/a/b.KELPA");
+        row("another suffix", "/a/b.final", "/a/b.final.kelpa");
+        row("roundabout", " /a/../c/b ", "/c/b.kelpa");
+        row("empty stays empty", QString(), QString());
     }
     void theSuffixIsAddedOnce()
     {
@@ -93,7 +82,7 @@ private slots:
     void anExistingFileIsReplacedOnlyOnYes()
     {
         Dialog dialog;
-        dialog.setPath(m_folder.filePath(QStringLiteral("there")));
+        dialog.setPath(m_folder.filePath("there"));
         BoxAnswers answers({QMessageBox::No, QMessageBox::Yes});
         dialog.accept();
         QCOMPARE(dialog.result(), 0);
@@ -121,17 +110,11 @@ private slots:
     void everyFieldHasANameAndAKey()
     {
         Dialog dialog;
-        QWidgetList fields;
-        for (QLabel *pLabel : dialog.findChildren<QLabel *>()) {
-            if (pLabel->buddy()) {
-                QVERIFY2(pLabel->text().contains(QLatin1Char('&')), qPrintable(pLabel->text()));
-                QVERIFY(!pLabel->buddy()->accessibleName().isEmpty());
-                fields.append(pLabel->buddy());
-            }
-        }
-        QCOMPARE(fields.size(), 4);
-        for (const auto *pButton : dialog.findChildren<QAbstractButton *>())
-            QVERIFY(!pButton->text().isEmpty());
+        dialog.show();
+        QCOMPARE(unnamedControls(&dialog), QStringList());
+        const auto labels = dialog.findChildren<QLabel *>();
+        for (const QLabel *pLabel : labels)
+            QVERIFY2(!pLabel->buddy() || pLabel->text().contains('&'), qPrintable(pLabel->text()));
     }
 
 private:

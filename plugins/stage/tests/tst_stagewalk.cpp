@@ -4,12 +4,6 @@
 #include "stageview.h"
 #include "walkcheck.h"
 
-#include <QDragEnterEvent>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QLoggingCategory>
-#include <QMimeData>
-
 #include <random>
 
 namespace {
@@ -24,17 +18,15 @@ public:
         , m_random(nSeed)
     {
         QDir().mkpath(m_strFolder);
-        const QStringList names = {QStringLiteral("one"), QStringLiteral("one.two"), QStringLiteral("a & b"),
-            QString::fromUtf8("größe"), QString::fromUtf8("日本語"), QStringLiteral("50 %1"),
-            QStringLiteral("x"), QStringLiteral("X"), QStringLiteral("7"), QStringLiteral("8"),
-            QStringLiteral("9"), QStringLiteral("10"), QStringLiteral("11"),
-            QStringLiteral("long").repeated(40)};
+        const QStringList names = {"one", "one.two", "a & b", QString::fromUtf8("größe"),
+            QString::fromUtf8("日本語"), "50 %1", "x", "X", "7", "8", "9", "10", "11",
+            QString("long").repeated(40)};
         for (const QString &strName : names)
-            m_paths.append(m_strFolder + QLatin1Char('/') + strName + QStringLiteral(".kelpa"));
+            m_paths.append(m_strFolder + QLatin1Char('/') + strName + ".kelpa");
         for (const QString &strPath : std::as_const(m_paths))
             put(strPath, pick(4));
-        put(m_strFolder + QStringLiteral("/broken.kelpa"), -1);
-        put(m_strFolder + QStringLiteral("/note.txt"), -1);
+        put(m_strFolder + "/broken.kelpa", -1);
+        put(m_strFolder + "/note.txt", -1);
     }
 
     QStringList log;
@@ -42,26 +34,18 @@ public:
     // What is wrong after the step; empty when all is well.
     QString step()
     {
-        struct Row
-        {
-            int nWeight;
-            void (Walk::*pStep)();
-        };
-        static const Row s_rows[] = {{6, &Walk::makeNew}, {30, &Walk::edit}, {15, &Walk::undo},
-            {10, &Walk::redo}, {12, &Walk::save}, {1, &Walk::saveAs}, {14, &Walk::switchTab},
-            {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent}, {4, &Walk::open}, {2, &Walk::attach},
-            {3, &Walk::changeDisk}};
+        static constexpr std::pair<int, void (Walk::*)()> s_steps[] = {{6, &Walk::makeNew}, {30, &Walk::edit},
+            {15, &Walk::undo}, {10, &Walk::redo}, {12, &Walk::save}, {1, &Walk::saveAs},
+            {14, &Walk::switchTab}, {9, &Walk::close}, {6, &Walk::drop}, {8, &Walk::openRecent},
+            {4, &Walk::open}, {2, &Walk::attach}, {3, &Walk::changeDisk}};
         m_answers.clear();
         m_expected.clear();
         m_said.clear();
-        int nWeight = 0;
-        for (const Row &row : s_rows)
-            nWeight += row.nWeight;
-        int nDraw = pick(nWeight);
-        const Row *pRow = s_rows;
-        for (; nDraw >= pRow->nWeight; ++pRow)
-            nDraw -= pRow->nWeight;
-        (this->*pRow->pStep)();
+        int nDraw = pick(120); // the sum of the weights
+        const auto *pStep = s_steps;
+        for (; nDraw >= pStep->first; ++pStep)
+            nDraw -= pStep->first;
+        (this->*pStep->second)();
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return check();
@@ -80,7 +64,7 @@ private:
         factory.nResult = how == Rejected ? QDialog::Rejected : QDialog::Accepted;
         factory.nWidth = how == Impossible ? 0 : 1;
         if (how == Impossible)
-            expect(QStringLiteral("Could not create project %1.\n").arg(strPath), QMessageBox::Ok);
+            expect(QString("Could not create project %1.\n").arg(strPath), QMessageBox::Ok);
         act([&] {
             const FolderGone gone(m_strFolder, how == Unwritable);
             m_program.command("File.New")->trigger();
@@ -171,12 +155,12 @@ private:
         if (nHow == 0)
             m_strChosen.clear();
         else if (nHow == 1)
-            m_strChosen = m_strFolder + QStringLiteral("/nowhere/z.kelpa");
+            m_strChosen = m_strFolder + "/nowhere/z.kelpa";
         m_bChoiceFails = nHow <= 1;
         if (m_model.disk.contains(m_strChosen))
-            expect(QFileInfo(m_strChosen).fileName() + QStringLiteral(" already exists."), QMessageBox::Yes);
+            expect(QFileInfo(m_strChosen).fileName() + " already exists.", QMessageBox::Yes);
         if (m_model.disk.contains(m_strChosen) && m_model.isOpenElsewhere(m_strChosen, document)) {
-            expect(m_strChosen + QStringLiteral(" is open. Close it first."), QMessageBox::Ok);
+            expect(m_strChosen + " is open. Close it first.", QMessageBox::Ok);
             m_bChoiceFails = true;
         }
     }
@@ -220,7 +204,7 @@ private:
             return true;
         const QMessageBox::StandardButton buttons[] = {
             QMessageBox::Yes, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel, QMessageBox::NoButton};
-        expect(QStringLiteral("Save changes made to %1?").arg(document.name()), buttons[answer]);
+        expect(QString("Save changes made to %1?").arg(document.name()), buttons[answer]);
         if (answer >= No) {
             if (answer == No && document.bTemp)
                 m_model.recent.removeOne(document.path);
@@ -233,7 +217,7 @@ private:
             return !m_bChoiceFails;
         }
         if (m_bSaveFails)
-            expect(QStringLiteral("Could not save project %1.").arg(document.name()), QMessageBox::Ok);
+            expect(QString("Could not save project %1.").arg(document.name()), QMessageBox::Ok);
         else
             m_model.saved(document);
         return !m_bSaveFails;
@@ -250,13 +234,13 @@ private:
         QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QWidget *pTarget = m_program.dropTarget();
-        const bool bOpens = strPath.endsWith(QLatin1String(".kelpa")) && load(strPath);
+        const bool bOpens = strPath.endsWith(".kelpa") && load(strPath);
         act([&] {
             QCoreApplication::sendEvent(pTarget, &enter);
             QCoreApplication::sendEvent(pTarget, &event);
         });
         if (event.isAccepted() != bOpens)
-            m_said.append(QStringLiteral("the drop is answered wrongly"));
+            m_said.append("the drop is answered wrongly");
     }
 
     void open()
@@ -284,7 +268,7 @@ private:
         if (bExists)
             load(strPath);
         else
-            expect(QStringLiteral("The project [%1] no longer exists.").arg(strPath), answer);
+            expect(QString("The project [%1] no longer exists.").arg(strPath), answer);
         if (!bExists && answer == QMessageBox::Yes)
             m_model.recent.removeOne(strPath);
         act([&] { WalkCheck::recentCommand(nEntry)->trigger(); });
@@ -333,10 +317,10 @@ private:
         const int nShown = m_model.showing(strPath);
         if (nShown >= 0) {
             m_model.activate(nShown);
-        } else if (!strPath.endsWith(QLatin1String(".kelpa"))) {
-            expect(QStringLiteral("Cannot open this file type."), QMessageBox::Ok);
+        } else if (!strPath.endsWith(".kelpa")) {
+            expect("Cannot open this file type.", QMessageBox::Ok);
         } else if (m_model.disk.value(strPath, -1) < 0) {
-            expect(QStringLiteral("Could not open project %1.").arg(strPath), QMessageBox::Ok);
+            expect(QString("Could not open project %1.").arg(strPath), QMessageBox::Ok);
         } else {
             m_model.addRecent(strPath);
             m_model.attach({strPath, false, false, {{m_model.disk.value(strPath)}}});
@@ -354,7 +338,7 @@ private:
                 check.same("box", m_said.value(i), m_expected.value(i));
         }
         check.all();
-        return check.faults.join(QLatin1Char('\n'));
+        return check.faults.join('\n');
     }
 
     // Helpers.
@@ -363,8 +347,8 @@ private:
     QString anyPath() { return m_paths.at(pick(static_cast<int>(m_paths.size()))); }
     QString anyFile()
     {
-        const QStringList odd = {m_strFolder + QStringLiteral("/broken.kelpa"),
-            m_strFolder + QStringLiteral("/note.txt"), m_strFolder + QStringLiteral("/missing.kelpa")};
+        const QStringList odd = {
+            m_strFolder + "/broken.kelpa", m_strFolder + "/note.txt", m_strFolder + "/missing.kelpa"};
         return pick(6) ? anyPath() : odd.at(pick(3));
     }
     [[nodiscard]] bool wouldNotFit(const QString &strPath) const
@@ -375,12 +359,12 @@ private:
     {
         QFile file(strPath);
         if (file.open(QIODevice::WriteOnly))
-            file.write(nElements < 0 ? QByteArrayLiteral("?") : projectText(nElements));
+            file.write(nElements < 0 ? "?" : projectText(nElements));
         m_model.disk[strPath] = nElements;
     }
     void say(const char *pStep, const QStringList &details)
     {
-        log.append(QLatin1String(pStep) + QLatin1Char(' ') + details.join(QLatin1Char(' ')));
+        log.append(QLatin1String(pStep) + QLatin1Char(' ') + details.join(' '));
     }
     void expect(const QString &strBox, QMessageBox::StandardButton answer)
     {
@@ -406,7 +390,7 @@ private:
             return;
         if (m_strChosen.isEmpty())
             return pDialog->reject();
-        pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(m_strChosen);
+        pDialog->findChild<QLineEdit *>("fileNameEdit")->setText(m_strChosen);
         QMetaObject::invokeMethod(pDialog, "accept");
     }
 
@@ -430,13 +414,14 @@ class tst_StageWalk : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("kelpa.*=false")); }
+    void initTestCase() { QLoggingCategory::setFilterRules("kelpa.*=false"); }
 
     void theProgramAgreesWithTheModelAfterEachStep_data()
     {
-        QTest::addColumn<unsigned>("seed");
-        for (const unsigned nSeed : {1U, 2U, 3U, 4U, 5U})
-            QTest::addRow("seed %u", nSeed) << nSeed;
+        const auto row = columns<unsigned>("seed");
+        row("a walk that paints", 1);
+        for (const unsigned nSeed : {2U, 3U, 4U, 5U})
+            row(qPrintable(QString("walk %1").arg(nSeed)), nSeed);
     }
     void theProgramAgreesWithTheModelAfterEachStep()
     {
@@ -445,10 +430,10 @@ private slots:
         for (int i = 0; i < 2000; ++i) {
             const QString strFault = walk.step();
             QVERIFY2(strFault.isEmpty(),
-                qPrintable(QStringLiteral("seed %1, after step %2:\n%3\nThe steps were:\n%4")
+                qPrintable(QString("seed %1, after step %2:\n%3\nThe steps were:\n%4")
                                .arg(seed)
                                .arg(i + 1)
-                               .arg(strFault, walk.log.join(QLatin1Char('\n')))));
+                               .arg(strFault, walk.log.join('\n'))));
         }
     }
 };

@@ -10,10 +10,6 @@
 #include <actionmanager/actioncontainer.h>
 #include <irecentfilesmanager.h>
 
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QUndoGroup>
-
 class WalkCheck
 {
 public:
@@ -56,7 +52,7 @@ public:
 
     static QAction *recentCommand(int nEntry)
     {
-        const QString strId = QStringLiteral("File.Recent_Projects.Project_%1").arg(nEntry + 1);
+        const QString strId = QString("File.Recent_Projects.Project_%1").arg(nEntry + 1);
         return ActionManager::getAction(strId)->getAction();
     }
 
@@ -77,8 +73,7 @@ private:
             same("elements", pDocument->getModel()->elementCount(), document.elements());
             same("history", pDocument->getUndoStack()->index(), document.nIndex);
             same("mark", pEditor->getSubWindow()->isWindowModified(), document.isModified());
-            same(
-                "tab title", pEditor->getSubWindow()->windowTitle(), document.name() + QStringLiteral("[*]"));
+            same("tab title", pEditor->getSubWindow()->windowTitle(), document.name() + "[*]");
             same("tab path", pEditor->getSubWindow()->windowFilePath(), document.path);
         }
     }
@@ -86,15 +81,13 @@ private:
     void checkRecent()
     {
         same("recent list", IRecentFilesManager::getInstance()->getRecentFiles(), m_model.recent);
-        const ActionContainer *pMenu =
-            ActionManager::getActionContainer(QStringLiteral("File.Recent_Projects"));
+        const ActionContainer *pMenu = ActionManager::getActionContainer("File.Recent_Projects");
         same("recent menu", pMenu->getMenu()->isEnabled(), !m_model.recent.isEmpty());
         for (int i = 0; i < 10; ++i) {
             const QAction *pAction = recentCommand(i);
             same("recent entry shown", pAction->isVisible(), i < m_model.recent.size());
             if (i < m_model.recent.size() && pAction->isVisible()) {
-                same("recent entry", pAction->text(),
-                    QString::number(i + 1) + QStringLiteral(". ") + m_model.recent.at(i));
+                same("recent entry", pAction->text(), QString::number(i + 1) + ". " + m_model.recent.at(i));
                 same("recent path", pAction->data().toString(), m_model.recent.at(i));
             }
         }

@@ -76,9 +76,8 @@ struct Model
     [[nodiscard]] QString title()
     {
         if (!active())
-            return QStringLiteral("Kelpa Studio");
-        return active()->path + QStringLiteral(" - Kelpa Studio")
-            + QLatin1String(active()->isModified() ? "*" : "");
+            return "Kelpa Studio";
+        return active()->path + " - Kelpa Studio" + QLatin1String(active()->isModified() ? "*" : "");
     }
     [[nodiscard]] bool isOpenElsewhere(const QString &strPath, const ModelDocument &except) const
     {

@@ -1,30 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "stageeditor.h"
-#include "stagefactory.h"
-#include "stagetoolbar.h"
-
-#include <actionmanager/actionmanager.h>
-#include <actionmanager/contextaction.h>
-#include <mainwindow.h>
-#include <support/coretest.h>
-#include <ui/imainmdiarea.h>
-
-#include <QDir>
-#include <QTabBar>
-
-inline QByteArray projectText(int nElements)
-{
-    QByteArrayList elements;
-    for (int i = 0; i < nElements; ++i)
-        elements.append(
-            QByteArrayLiteral(R"({"type": "rectangle", "x": 5, "y": 5, "width": 9, "height": 9, "id": "e)")
-            + QByteArray::number(i) + QByteArrayLiteral(R"("})"));
-    return QByteArrayLiteral(R"({"format": "kelpa", "version": 1, "stage": {"width": 100, "height": 80,
- "background": "#ffffff", "frameRate": 24, "responsive": false}, "scenes": [{"name": "One", "elements": [)")
-        + elements.join(',') + QByteArrayLiteral("]}]}");
-}
+#include "stageprogram.h"
 
 /// Its dialogs answer at once.
 class WalkFactory : public StageFactory
@@ -62,39 +39,21 @@ public:
 };
 
 /// The main window with the stage and a stand-in for the welcome page, which a walk goes through.
-struct WalkProgram : TestProgram
+struct WalkProgram : StageProgramWith<WalkFactory>
 {
     explicit WalkProgram(bool bPaints)
     {
-        ExtensionSystem::PluginManager::addObject(&factory);
-        window = std::make_unique<MainWindow>(nullptr);
-        window->addToolBar(new StageToolBar(window.get()));
         welcome.setAcceptDrops(true);
         window->setWelcomeWidget(&welcome);
         window->setVisibleWelcomeWidget(true);
         window->resize(500, 400);
         window->setUpdatesEnabled(bPaints);
-        window->show();
-    }
-    ~WalkProgram()
-    {
-        const auto editors = EditorManager::getEditors();
-        const auto documents = DocumentManager::getDocuments();
-        window.reset();
-        qDeleteAll(editors);
-        qDeleteAll(documents);
-        ExtensionSystem::PluginManager::removeObject(&factory);
     }
 
-    [[nodiscard]] static QAction *command(const char *pId)
-    {
-        return ActionManager::getAction(QLatin1String(pId))->getAction();
-    }
     [[nodiscard]] static StageView *view()
     {
         return static_cast<StageEditor *>(EditorManager::activeEditor())->getView();
     }
-    [[nodiscard]] QTabBar *tabs() const { return window->getMdiArea()->findChild<QTabBar *>(); }
 
     // What lies under the mouse there.
     [[nodiscard]] QWidget *dropTarget()
@@ -103,8 +62,6 @@ struct WalkProgram : TestProgram
     }
 
     QWidget welcome;
-    WalkFactory factory {nullptr};
-    std::unique_ptr<MainWindow> window;
 };
 
 /// Takes away the folder of the projects while it lives: nothing can be written there.
@@ -113,13 +70,13 @@ class FolderGone
 public:
     FolderGone(const QString &strFolder, bool bGone)
         : m_strFolder(strFolder)
-        , m_bGone(bGone && QDir().rename(strFolder, strFolder + QStringLiteral(".gone")))
+        , m_bGone(bGone && QDir().rename(strFolder, strFolder + ".gone"))
     {
     }
     ~FolderGone()
     {
         if (m_bGone)
-            QDir().rename(m_strFolder + QStringLiteral(".gone"), m_strFolder);
+            QDir().rename(m_strFolder + ".gone", m_strFolder);
     }
     Q_DISABLE_COPY_MOVE(FolderGone)
 

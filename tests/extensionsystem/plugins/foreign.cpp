@@ -1,2 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "foreign.h"
+#include <QObject>
+
+/// A plug-in of some other program.
+class Foreign : public QObject
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.example.Foreign")
+};
+
+#include "foreign.moc"

@@ -1,65 +1,49 @@
 // SPDX-License-Identifier: MIT
-#include "testplugin.h"
+#include <extensionsystem/iplugin.h>
 
 #include <cstdio>
-#include <cstring>
 #include <stdexcept>
 
-namespace {
-
-// False when this hook is to fail.
-bool note(const char *pHook, const QStringList &details = {})
+/// A plug-in that prints what happens to it. BEHAVIOUR, "throw HOOK" or "fail HOOK", makes one hook go wrong.
+class TestPlugin : public ExtensionSystem::IPlugin
 {
-    const QString strLine =
-        QStringLiteral("%1 %2 %3")
-            .arg(QStringLiteral(PLUGIN_NAME), QLatin1String(pHook), details.join(QLatin1Char(' ')));
-    std::printf("%s\n", qUtf8Printable(strLine.trimmed()));
-    std::fflush(stdout);
-    const QString strBehaviour = QStringLiteral(BEHAVIOUR);
-    if (strBehaviour == QStringLiteral("throw ") + QLatin1String(pHook))
-        throw std::runtime_error("broken on purpose");
-    return strBehaviour != QStringLiteral("fail ") + QLatin1String(pHook);
-}
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "com.ORVEN.Kelpa.Plugin" FILE "testplugin.json")
 
-} // namespace
+public:
+    TestPlugin() { note("construct"); }
+    ~TestPlugin() override { note("destroy"); }
 
-TestPlugin::TestPlugin()
-{
-    note("construct");
-}
+    bool initialize(const QStringList &arguments, QString *errorString) override
+    {
+        *errorString = "no licence for the sea";
+        return note("initialize", arguments);
+    }
+    void extensionsInitialized() override { note("extensionsInitialized"); }
+    bool delayedInitialize() override { return note("delayedInitialize"); }
+    ShutdownFlag aboutToShutdown() override
+    {
+        note("aboutToShutdown");
+        return SynchronousShutdown;
+    }
+    QObject *remoteCommand(
+        const QStringList &options, const QString &workingDirectory, const QStringList &arguments) override
+    {
+        note("remoteCommand", options + QStringList(workingDirectory) + arguments);
+        return nullptr;
+    }
 
-TestPlugin::~TestPlugin()
-{
-    std::printf("%s destroy\n", PLUGIN_NAME);
-    std::fflush(stdout);
-}
+private:
+    // False when this hook is to fail.
+    static bool note(const QString &strHook, const QStringList &details = {})
+    {
+        const QString strLine = PLUGIN_NAME " " + strHook + ' ' + details.join(' ');
+        std::printf("%s\n", qUtf8Printable(strLine.trimmed()));
+        std::fflush(stdout);
+        if (BEHAVIOUR == "throw " + strHook)
+            throw std::runtime_error("broken on purpose");
+        return BEHAVIOUR != "fail " + strHook;
+    }
+};
 
-bool TestPlugin::initialize(const QStringList &arguments, QString *errorString)
-{
-    *errorString = QStringLiteral("no licence for the sea");
-    return note("initialize", arguments);
-}
-
-void TestPlugin::extensionsInitialized()
-{
-    note("extensionsInitialized");
-}
-
-bool TestPlugin::delayedInitialize()
-{
-    note("delayedInitialize");
-    return true;
-}
-
-ExtensionSystem::IPlugin::ShutdownFlag TestPlugin::aboutToShutdown()
-{
-    note("aboutToShutdown");
-    return SynchronousShutdown;
-}
-
-QObject *TestPlugin::remoteCommand(
-    const QStringList &options, const QString &workingDirectory, const QStringList &arguments)
-{
-    note("remoteCommand", options + QStringList(workingDirectory) + arguments);
-    return nullptr;
-}
+#include "testplugin.moc"

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTest>
+
+/// Adds the columns of a test's data and returns what adds a row: its name, then a value for each column.
+template <typename... Column, typename... Name>
+auto columns(Name... names)
+{
+    (QTest::addColumn<Column>(names), ...);
+    return [](const char *pRow, const Column &...values) { (QTest::newRow(pRow) << ... << values); };
+}
