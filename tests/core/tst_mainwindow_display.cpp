@@ -7,6 +7,7 @@
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
 #include <icore.h>
+#include <iui.h>
 #include <mainwindow.h>
 
 #include <QDesktopServices>
@@ -58,6 +59,7 @@ private slots:
         QFETCH(QString, name);
         QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
         m_pWindow->show();
+        const qint64 nCached = image().cacheKey();
         moveTo(name);
         QTRY_COMPARE(changed.count(), 1);
         QTEST(changed.first().first().toInt(), "percent");
@@ -70,6 +72,7 @@ private slots:
         QTRY_COMPARE(changed.count(), 1);
         QCOMPARE(changed.first().first().toInt(), 100);
         QCOMPARE(iconSides(), QList<int>({16, 16}));
+        QVERIFY2(image().cacheKey() != nCached, "the image was not read again");
     }
 
     // Two screens of one scale apart from each other: the check finds nothing new.
@@ -165,6 +168,8 @@ private:
             [&](const QScreen *pScreen) { return pScreen->name() == strName; });
         return it == screens.end() ? nullptr : *it;
     }
+
+    static QPixmap image() { return IUi::getPixmap("open", 2, false, ":/designer/images/"); }
 
     // Of a command and of the language menu.
     static QList<int> iconSides()
