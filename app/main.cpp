@@ -61,10 +61,9 @@ int main(int argc, char *argv[])
     });
 #endif
     QApplication application(argc, argv);
-    qunsetenv("QT_ENABLE_HIGHDPI_SCALING"); // while the other thread does not look at the environment
 #ifdef KELPA_FONTCONFIG
     started.set_value();
-    const std::jthread fonts = std::move(reading); // joined before the application goes
+    std::jthread fonts = std::move(reading); // joined before the application goes
 #endif
     QCoreApplication::setApplicationName(QStringLiteral("Kelpa Studio"));
     QCoreApplication::setOrganizationName(QStringLiteral("ORVEN"));
@@ -75,6 +74,10 @@ int main(int argc, char *argv[])
     QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, &installCatalogues);
     if (const auto exitCode = manager.start(QCoreApplication::arguments()))
         return *exitCode;
+#ifdef KELPA_FONTCONFIG
+    fonts.join(); // who changes the environment must be alone
+#endif
+    qunsetenv("QT_ENABLE_HIGHDPI_SCALING");
     const int nExitCode = QApplication::exec();
     manager.shutdown();
     return nExitCode;

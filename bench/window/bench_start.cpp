@@ -125,7 +125,8 @@ struct Start
     double fProcessorMs = 0;
     double fMiB = 0;
     QSize size;
-    bool bNeedless = false; // has loaded a web engine, or the libraries of all image formats
+    bool bWebEngine = false;
+    bool bImageFormats = false; // the libraries of all of them
 };
 
 Start start(MapWatch &display, const QString &strProgram, const QStringList &arguments)
@@ -141,7 +142,8 @@ Start start(MapWatch &display, const QString &strProgram, const QStringList &arg
     result.fMs = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     result.fProcessorMs = processorMs(process);
     const QByteArray maps = processFile(process, "maps");
-    result.bNeedless = maps.contains("WebEngine") || maps.contains("/imageformats/");
+    result.bWebEngine = maps.contains("WebEngine"); // comes after the first paint
+    result.bImageFormats = maps.contains("/imageformats/");
     waitUntilIdle(process);
     result.fMiB = residentMiB(process);
     process.terminate();
@@ -203,10 +205,13 @@ int main(int argc, char *argv[])
         const QString strSize = QStringLiteral("%1x%2").arg(own.size.width()).arg(own.size.height());
         const Start bare =
             start(display, QCoreApplication::applicationFilePath(), {QStringLiteral("--bare"), strSize});
-        if (own.size.isEmpty() || bare.size.isEmpty() || own.bNeedless || all.bNeedless) {
-            std::printf(own.bNeedless || all.bNeedless
-                    ? "FAIL the start loads a web engine or libraries of image formats\n"
-                    : "FAIL no window came\n");
+        if (own.size.isEmpty() || bare.size.isEmpty()) {
+            std::printf("FAIL no window came\n");
+            return 1;
+        }
+        // The style sheet of the other plug-ins has images: their first paint reads them.
+        if (own.bWebEngine || own.bImageFormats || all.bWebEngine) {
+            std::printf("FAIL the start loads a web engine or libraries of image formats\n");
             return 1;
         }
         if (i < 0) // reads the files into memory

@@ -48,7 +48,6 @@ KPNotificationBar::KPNotificationBar(QWidget *pParent)
     m_pUi->setupUi(this);
     // The window is moved by the title bar, which is the parent, and not by this.
     setAttribute(Qt::WA_NoMousePropagation);
-    m_pUi->m_pCloseButton->setIcon(IUi::getIcon(QStringLiteral("close")));
     setAutoFillBackground(true);
     connect(m_pUi->m_pCloseButton, &QToolButton::clicked, this, &KPNotificationBar::hide);
     connect(m_pUi->m_pButton, &QPushButton::clicked, this, &KPNotificationBar::buttonClicked);
@@ -74,6 +73,7 @@ void KPNotificationBar::show(const QString &text, Type type, const QString &butt
     m_pUi->m_pMessageLabel->setVisible(!text.isEmpty());
     m_pUi->m_pButton->setText(buttonText);
     m_pUi->m_pButton->setVisible(!buttonText.isEmpty());
+    m_pUi->m_pCloseButton->setIcon(IUi::getIcon(QStringLiteral("close")));
     m_pUi->m_pCloseButton->setIconSize({nIcon, nIcon});
     m_pUi->m_pCloseButton->setVisible(closable);
     disconnect(this, &KPNotificationBar::buttonClicked, nullptr, nullptr);
