@@ -27,7 +27,11 @@ EngineView::EngineView(WebAccess access, QWidget *pParent)
     setFocusProxy(m_pView);
     connect(pPage, &EnginePage::linkActivated, this, [](const QUrl &url) { openOutside(url); });
     connect(pPage, &QWebEnginePage::titleChanged, this, &WebView::titleChanged);
-    connect(pPage, &QWebEnginePage::loadFinished, this, &EngineView::onLoaded);
+    connect(pPage, &QWebEnginePage::loadFinished, this, [this, pPage](bool bOk) {
+        // What the page itself wanted and must not is no failure of what the program loaded.
+        if (bOk || m_bLoading || !pPage->isHeldBack())
+            onLoaded(bOk);
+    });
     connect(pPage, &QWebEnginePage::renderProcessTerminated, this, [this] { onLoaded(false); });
 }
 
@@ -39,14 +43,20 @@ EngineView::~EngineView()
 
 void EngineView::load(const QUrl &url)
 {
-    m_bLoading = true;
-    m_bLoaded = false;
+    beginLoading();
     m_pView->load(url);
 }
 
 void EngineView::setHtml(const QString &strHtml)
 {
+    beginLoading();
     m_pView->setHtml(strHtml);
+}
+
+void EngineView::beginLoading()
+{
+    m_bLoading = true;
+    m_bLoaded = false;
 }
 
 void EngineView::setZoomFactor(double fFactor)

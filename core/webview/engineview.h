@@ -22,6 +22,7 @@ public:
     void setBackground(const QColor &color) override;
 
 private:
+    void beginLoading();
     void onLoaded(bool bOk);
     void announcePageData();
 

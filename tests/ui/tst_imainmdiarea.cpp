@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the welcome page may ask for.
+// What the welcome page may ask for, asked by a real client of the web channel.
 #include <support/windowtest.h>
 
 #include <actionmanager/actionmanager.h>
@@ -41,6 +41,39 @@ private:
     const QStringList m_schemes {"", "http", "https", "file", "ftp", "javascript", "mailto"};
 };
 
+/// A client that speaks the protocol of the channel.
+class ChannelClient
+{
+public:
+    explicit ChannelClient(const QUrl &url)
+    {
+        QObject::connect(&socket, &QWebSocket::textMessageReceived, &socket, [this](const QString &strText) {
+            const QJsonObject message = QJsonDocument::fromJson(strText.toUtf8()).object();
+            if (message.contains("id"))
+                m_answers.insert(message.value("id").toInt(), message.value("data"));
+        });
+        socket.open(url);
+    }
+
+    /// Undefined when no answer comes.
+    QJsonValue call(const QString &strObject, const QString &strMethod, const QJsonArray &arguments = {})
+    {
+        const int nId = ++m_nId;
+        const QJsonObject message {
+            {"type", 6}, {"id", nId}, {"object", strObject}, {"method", strMethod}, {"args", arguments}};
+        if (QTest::qWaitFor([this] { return socket.state() == QAbstractSocket::ConnectedState; }))
+            socket.sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson()));
+        const bool bAnswered = QTest::qWaitFor([&] { return m_answers.contains(nId); });
+        return bAnswered ? m_answers.take(nId) : QJsonValue::Undefined;
+    }
+
+    QWebSocket socket;
+
+private:
+    QHash<int, QJsonValue> m_answers;
+    int m_nId = 0;
+};
+
 const QString s_unicode = "Über Wälder 海藻 Ламинария";
 
 } // namespace
@@ -65,10 +98,12 @@ private slots:
         m_pDesktop = std::make_unique<Desktop>();
         m_pBridge = m_pWindow->findChild<KPHTMLExposingWelcome *>();
         m_pResources = std::make_unique<QTemporaryDir>(ICore::resourcePath() + "/resXXXXXX");
+        m_pClient = std::make_unique<ChannelClient>(m_pWindow->getServer()->serverUrl());
     }
 
     void cleanup()
     {
+        m_pClient.reset();
         m_pResources.reset();
         m_pDesktop.reset();
         m_pFactory.reset();
@@ -128,13 +163,18 @@ private slots:
         for (const QString &strName :
             {QString("help.pdf"), s_unicode, QString("50%41 #1?.txt"), QString("x.kelpa/a")})
             write(strName);
-        BoxAnswers boxes({QMessageBox::Ok});
         argument.replace("@/", m_pResources->path() + '/');
-        QVERIFY(QMetaObject::invokeMethod(m_pBridge, qPrintable(method), Q_ARG(QString, argument)));
         opened.replace("@/", m_pResources->path() + '/');
-        QCOMPARE(boxes.texts(), box.isEmpty() ? QStringList() : QStringList(box));
-        QCOMPARE(m_pDesktop->opened, opened.isEmpty() ? QStringList() : QStringList(QUrl(opened).toString()));
-        QVERIFY(m_pFactory->documents.isEmpty());
+        publishArea();
+        for (const char *pObject : {"kpwelcome", "area"}) {
+            BoxAnswers boxes({QMessageBox::Ok});
+            m_pDesktop->opened.clear();
+            QVERIFY(!m_pClient->call(pObject, method, {argument}).isUndefined());
+            QCOMPARE(boxes.texts(), box.isEmpty() ? QStringList() : QStringList(box));
+            QCOMPARE(
+                m_pDesktop->opened, opened.isEmpty() ? QStringList() : QStringList(QUrl(opened).toString()));
+            QVERIFY(m_pFactory->documents.isEmpty());
+        }
     }
 
     void projectsAreOpenedHere_data()
@@ -151,7 +191,8 @@ private slots:
         QFETCH(const QString, name);
         QFETCH(const bool, relative);
         const QString strPath = write(name);
-        m_pBridge->openFile(relative ? QDir(ICore::resourcePath()).relativeFilePath(strPath) : strPath);
+        m_pClient->call("kpwelcome", "openFile",
+            {relative ? QDir(ICore::resourcePath()).relativeFilePath(strPath) : strPath});
         QCOMPARE(m_pFactory->documents.size(), 1);
         QCOMPARE(m_pFactory->documents.first()->getFileName(), strPath);
         QCOMPARE(m_pBridge->getRecentFileList(), QStringList(strPath));
@@ -182,7 +223,7 @@ private slots:
         IRecentFilesManager::getInstance()->addFile(strGone);
         const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
         BoxAnswers boxes({answer});
-        m_pBridge->showInExplorer(strGone);
+        m_pClient->call("kpwelcome", "showInExplorer", {strGone});
         QCOMPARE(boxes.texts(),
             QStringList("The project [" + strGone
                 + "] no longer exists.\nDo you want to remove this entry from history?"));
@@ -196,12 +237,14 @@ private slots:
         for (int i = 12; i > 0; --i)
             IRecentFilesManager::getInstance()->addFile(QString("/p/%1 ").arg(i) + s_unicode);
         const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
-        m_pBridge->removeFile("/P/1 " + s_unicode);
-        QCOMPARE(m_pBridge->getRecentFileList().size(), 10);
-        m_pBridge->removeFile("/p/1 " + s_unicode);
-        m_pBridge->removeFile("");
-        QCOMPARE(m_pBridge->getRecentFileList().size(), 9);
-        QCOMPARE(m_pBridge->getRecentFileList().first(), "/p/2 " + s_unicode);
+        publishArea();
+        m_pClient->call("kpwelcome", "removeFile", {"/P/1 " + s_unicode});
+        QCOMPARE(m_pClient->call("area", "getRecentFileList").toArray().size(), 10);
+        m_pClient->call("kpwelcome", "removeFile", {"/p/1 " + s_unicode});
+        m_pClient->call("area", "removeFile", {""});
+        const QJsonArray left = m_pClient->call("kpwelcome", "getRecentFileList").toArray();
+        QCOMPARE(left.size(), 9);
+        QCOMPARE(left.first().toString(), "/p/2 " + s_unicode);
         QCOMPARE(resets.size(), 3);
         const auto *pFirst = ActionManager::getAction("File.Recent_Projects.Project_1")->getAction();
         QCOMPARE(pFirst->text(), "1. /p/2 " + s_unicode);
@@ -213,13 +256,14 @@ private slots:
         action.setCheckable(true);
         ActionManager::registerAction(&action, "Test.Checkable", m_pWindow.get(), false);
         QSignalSpy triggered(&action, &QAction::triggered);
-        m_pBridge->callbackTunnelAsync("Test.Checkable");
+        publishArea();
+        m_pClient->call("kpwelcome", "callbackTunnelAsync", {"Test.Checkable"});
         action.setEnabled(false);
-        m_pBridge->callbackTunnelAsync("Test.Checkable");
+        m_pClient->call("area", "callbackTunnelAsync", {"Test.Checkable"});
         QCOMPARE(triggered, QList<QVariantList>({{true}, {true}}));
         QVERIFY(!action.isChecked());
         for (const char *pId : {"", "test.checkable", "Test.Checkable ", "MenuBar.File", "quit()"})
-            m_pBridge->callbackTunnelAsync(pId);
+            m_pClient->call("kpwelcome", "callbackTunnelAsync", {pId});
         QCOMPARE(triggered.size(), 2);
         ActionManager::unregisterAction(&action, "Test.Checkable");
     }
@@ -228,15 +272,21 @@ private slots:
     {
         const std::pair<const char *, const char *> answers[] = {{"WelcomeScreen.getLocale", "de_DE"},
             {"WelcomeScreen.getBuildNumber", "3.1.4"}, {"welcomescreen.getbuildnumber", ""}, {"", ""}};
-        for (const auto &[pQuery, pAnswer] : answers)
-            QCOMPARE(m_pBridge->callbackAsyncfromJS(pQuery, "anything"), pAnswer);
+        publishArea();
+        for (const auto &[pQuery, pAnswer] : answers) {
+            for (const char *pObject : {"kpwelcome", "area"})
+                QCOMPARE(m_pClient->call(pObject, "callbackAsyncfromJS", {pQuery, "anything"}), pAnswer);
+        }
+        const QJsonObject urls = m_pClient->call("kpwelcome", "getResourceUrls").toObject();
+        QCOMPARE(urls.keys(), QStringList({"community", "demo", "facebook", "homepage", "youtube"}));
+        for (const QJsonValue url : urls)
+            QVERIFY(url.toString().startsWith("https://"));
     }
 
     // The call is still being worked off when the client is gone.
     void clientLeavesWhileItsBoxIsOpen()
     {
-        QWebSocket client;
-        client.open(m_pWindow->getServer()->serverUrl());
+        QWebSocket &client = m_pClient->socket;
         QTRY_COMPARE(client.state(), QAbstractSocket::ConnectedState);
         QTimer timer;
         bool bClosed = false;
@@ -250,12 +300,8 @@ private slots:
         timer.start(1);
         client.sendTextMessage(R"({"type":6,"id":1,"object":"kpwelcome","method":"openURL","args":["x"]})");
         QTRY_VERIFY(bClosed);
-        QSignalSpy answers(&client, &QWebSocket::textMessageReceived);
         client.open(m_pWindow->getServer()->serverUrl());
-        QTRY_COMPARE(client.state(), QAbstractSocket::ConnectedState);
-        client.sendTextMessage(
-            R"({"type":6,"id":2,"object":"kpwelcome","method":"getRecentFileList","args":[]})");
-        QTRY_COMPARE(answers.size(), 1);
+        QCOMPARE(m_pClient->call("kpwelcome", "getRecentFileList"), QJsonArray());
     }
 
     void bridgeLeavesTheChannelWithItsArea()
@@ -269,6 +315,9 @@ private slots:
     }
 
 private:
+    /// The program puts the bridge alone on the channel.
+    void publishArea() { m_pWindow->getChannel()->registerObject("area", m_pWindow->getMdiArea()); }
+
     [[nodiscard]] bool hasConnectedClient() const
     {
         const auto sockets = m_pWindow->getServer()->findChildren<QTcpSocket *>();
@@ -286,6 +335,7 @@ private:
     std::unique_ptr<Desktop> m_pDesktop;
     KPHTMLExposingWelcome *m_pBridge = nullptr;
     std::unique_ptr<QTemporaryDir> m_pResources;
+    std::unique_ptr<ChannelClient> m_pClient;
 };
 
 QTEST_MAIN(tst_IMainMdiArea)
