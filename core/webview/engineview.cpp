@@ -4,6 +4,8 @@
 #include "enginepage.h"
 
 #include <QJsonDocument>
+#include <QOpenGLContext>
+#include <QQuickWindow>
 #include <QVBoxLayout>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -107,6 +109,15 @@ void EngineView::setBackground(const QColor &color)
 {
     m_pView->page()->setBackgroundColor(color);
 }
+
+EngineFactory::EngineFactory()
+{
+    const QOpenGLContext *pContext = QOpenGLContext::globalShareContext();
+    if (!pContext || !pContext->isValid())
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+EngineFactory::~EngineFactory() = default;
 
 WebView *EngineFactory::create(WebAccess access, QWidget *pParent)
 {
