@@ -352,6 +352,11 @@ private slots:
         m_pWidget->setPalette(palette);
         QTRY_COMPARE(js("getComputedStyle(document.querySelector('header')).backgroundColor"),
             "rgb(" + rgb(palette.color(QPalette::Highlight)) + ")");
+        const QVariantList corner =
+            js("(r => [r.x + 20, r.y + 5])(document.querySelector('header').getBoundingClientRect())")
+                .toList();
+        QTRY_COMPARE(m_pWidget->grab().toImage().pixelColor(corner.at(0).toInt(), corner.at(1).toInt()),
+            palette.color(QPalette::Highlight));
         const QVariantList ratios = js(s_headerContrasts).toList();
         QCOMPARE(ratios.size(), 6);
         for (const QVariant &ratio : ratios)
