@@ -54,17 +54,18 @@ int main(int argc, char *argv[])
 #ifdef KELPA_FONTCONFIG
     // The description of the system's fonts takes milliseconds to read: meanwhile the libraries are loaded.
     std::promise<void> started;
-    const std::jthread fonts([&started] {
+    std::jthread reading([&started] {
         FcInit();
         started.get_future().wait();
         QFontDatabase::families();
     });
 #endif
     QApplication application(argc, argv);
+    qunsetenv("QT_ENABLE_HIGHDPI_SCALING"); // while the other thread does not look at the environment
 #ifdef KELPA_FONTCONFIG
     started.set_value();
+    const std::jthread fonts = std::move(reading); // joined before the application goes
 #endif
-    qunsetenv("QT_ENABLE_HIGHDPI_SCALING");
     QCoreApplication::setApplicationName(QStringLiteral("Kelpa Studio"));
     QCoreApplication::setOrganizationName(QStringLiteral("ORVEN"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KELPA_VERSION));

@@ -223,8 +223,7 @@ void MainWindow::createLanguageMenu(ActionContainer *pViewMenu)
     const QString strCurrent = ILanguageManager::getInstance().getCurrentLangId();
     QAction *pFallback = nullptr;
     for (const LanguageInfo *pInfo : ILanguageManager::getInstance().getLanguages()) {
-        auto *pAction =
-            new QAction(QStringLiteral("%1 (%2)").arg(pInfo->nativeLanguage, pInfo->country), this);
+        auto *pAction = new QAction(pInfo->title(), this);
         pAction->setCheckable(true);
         pAction->setData(pInfo->id);
         pContainer->getMenu()->addAction(pAction);

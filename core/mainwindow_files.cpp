@@ -30,23 +30,10 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcFiles, "kelpa.core")
 
-// A copy: factories run dialogs and take their time, and the pool must not stay locked.
-QList<IDocumentFactory *> documentFactories()
-{
-    const QReadLocker locker(PluginManager::listLock());
-    QList<IDocumentFactory *> factories;
-    const auto objects = PluginManager::allObjects();
-    for (QObject *pObject : objects) {
-        if (auto *pFactory = qobject_cast<IDocumentFactory *>(pObject))
-            factories.append(pFactory);
-    }
-    return factories;
-}
-
 IDocumentFactory *factoryFor(const QString &strFileName)
 {
     const QString strSuffix = QFileInfo(strFileName).suffix().toLower();
-    const auto factories = documentFactories();
+    const auto factories = PluginManager::objects<IDocumentFactory>();
     for (IDocumentFactory *pFactory : factories) {
         if (pFactory->getSupportedSuffixes().contains(strSuffix))
             return pFactory;
@@ -57,11 +44,8 @@ IDocumentFactory *factoryFor(const QString &strFileName)
 IEditor *editorShowing(const QString &strPath)
 {
     const QString strCanonical = QFileInfo(strPath).canonicalFilePath();
-    if (strCanonical.isEmpty())
-        return nullptr;
     for (IEditor *pEditor : EditorManager::getEditors()) {
-        const IDocument *pDoc = pEditor->getDocument();
-        if (pDoc && QFileInfo(pDoc->getFileName()).canonicalFilePath() == strCanonical)
+        if (pEditor->getDocument() && pEditor->getDocument()->isAt(strCanonical))
             return pEditor;
     }
     return nullptr;
@@ -95,7 +79,7 @@ void startBackup(IDocument *pDoc)
 
 IDocumentFactory *MainWindow::selectDocumentFactory()
 {
-    return documentFactories().value(0);
+    return PluginManager::object<IDocumentFactory>();
 }
 
 void MainWindow::openFilesPassedAsArguments()

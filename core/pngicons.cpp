@@ -16,11 +16,14 @@ namespace {
 class PngIconEngine : public QPixmapIconEngine
 {
 public:
+    // What Qt's engine does with names such as "open@2x.png", and with a size other than the image's own, is
+    // left to it, and so is what cannot be read here.
     void addFile(const QString &strFile, const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
-        QFile file(strFile);
-        const QImage image = file.open(QIODevice::ReadOnly) ? imageFromPng(file.readAll()) : QImage();
-        if (image.isNull())
+        QImage image;
+        if (QFile file(strFile); !strFile.contains(QLatin1Char('@')) && file.open(QIODevice::ReadOnly))
+            image = imageFromPng(file.readAll());
+        if (image.isNull() || (size.isValid() && size != image.size()))
             QPixmapIconEngine::addFile(strFile, size, mode, state);
         else
             addPixmap(QPixmap::fromImage(image), mode, state);

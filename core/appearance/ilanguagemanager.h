@@ -18,6 +18,9 @@ struct LanguageInfo
     QString country; ///< English name
     QString nativeLanguage; ///< name in that language
     QString nativeCountry; ///< name in that language
+
+    /// What the user chooses from: "Deutsch (Germany)".
+    [[nodiscard]] QString title() const { return QStringLiteral("%1 (%2)").arg(nativeLanguage, country); }
 };
 
 /// The languages whose catalogues are installed, and the user's choice among them. It lives as long as the

@@ -116,6 +116,11 @@ bool IDocument::saveBackup()
     return false;
 }
 
+bool IDocument::isAt(const QString &strCanonicalPath) const
+{
+    return !strCanonicalPath.isEmpty() && QFileInfo(m_strFileName).canonicalFilePath() == strCanonicalPath;
+}
+
 QUndoStack *IDocument::getUndoStack() const
 {
     return m_pUndoStack;

@@ -57,6 +57,10 @@ public:
     [[nodiscard]] QString getFileName() const { return m_strFileName; }
     void setFileName(const QString &strFileName) { m_strFileName = strFileName; }
 
+    /// Whether this path without links, as QFileInfo::canonicalFilePath() gives it, is that of the document's
+    /// file. Never for an empty one: there is no such file.
+    [[nodiscard]] bool isAt(const QString &strCanonicalPath) const;
+
     /// Supplied by the concrete document, which owns it; may be null.
     [[nodiscard]] QUndoStack *getUndoStack() const;
 

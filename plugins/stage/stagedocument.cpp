@@ -161,9 +161,8 @@ bool StageDocument::isOpenElsewhere(const QString &strFileName, const IDocument 
 {
     const QString strPath = QFileInfo(strFileName).canonicalFilePath();
     const auto &documents = DocumentManager::getDocuments();
-    return !strPath.isEmpty() && std::any_of(documents.begin(), documents.end(), [&](const IDocument *pDoc) {
-        return pDoc != pExcept && QFileInfo(pDoc->getFileName()).canonicalFilePath() == strPath;
-    });
+    return std::any_of(documents.begin(), documents.end(),
+        [&](const IDocument *pDoc) { return pDoc != pExcept && pDoc->isAt(strPath); });
 }
 
 bool StageDocument::saveAsOwn(const QString &strFileName)

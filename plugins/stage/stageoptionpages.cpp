@@ -100,10 +100,8 @@ GeneralOptionPage::GeneralOptionPage()
     pNote->setWordWrap(true);
     pLayout->addRow(pNote);
     const auto languages = ILanguageManager::getInstance().getLanguages();
-    for (const LanguageInfo *pInfo : languages) {
-        m_pLanguage->addItem(
-            QStringLiteral("%1 (%2)").arg(pInfo->nativeLanguage, pInfo->nativeCountry), pInfo->id);
-    }
+    for (const LanguageInfo *pInfo : languages)
+        m_pLanguage->addItem(pInfo->title(), pInfo->id);
     connect(m_pLanguage, &QComboBox::currentIndexChanged, this, &GeneralOptionPage::markChanged);
 }
 

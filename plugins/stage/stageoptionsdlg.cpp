@@ -9,29 +9,11 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
-#include <QReadLocker>
 #include <QStackedWidget>
 
 #include <algorithm>
 
 using ExtensionSystem::PluginManager;
-
-namespace {
-
-// A copy: a page being made may change the pool.
-QList<IOptionPageFactory *> pageFactories()
-{
-    const QReadLocker locker(PluginManager::listLock());
-    QList<IOptionPageFactory *> factories;
-    const auto objects = PluginManager::allObjects();
-    for (QObject *pObject : objects) {
-        if (auto *pFactory = qobject_cast<IOptionPageFactory *>(pObject))
-            factories.append(pFactory);
-    }
-    return factories;
-}
-
-} // namespace
 
 StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     : IOptionsDlg(pParent)
@@ -67,7 +49,7 @@ void StageOptionsDlg::addPages()
     addPage(new GeneralOptionPage);
     addPage(new BackupOptionPage);
     addPage(new EditingOptionPage);
-    for (IOptionPageFactory *pFactory : pageFactories())
+    for (IOptionPageFactory *pFactory : PluginManager::objects<IOptionPageFactory>())
         addPage(pFactory->createPage());
 }
 

@@ -213,7 +213,8 @@ private:
             &tst_Registry::unregisterAny, &tst_Registry::destroyAny, &tst_Registry::toggleAny,
             &tst_Registry::changeKeys, &tst_Registry::save, &tst_Registry::read, &tst_Registry::reset,
             &tst_Registry::trigger};
-        (this->*s_steps[nKind])();
+        const auto pStep = s_steps[nKind];
+        (this->*pStep)();
     }
 
     void createPanel()

@@ -6,7 +6,6 @@
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
 #include <irecentfilesmanager.h>
-#include <iui.h>
 #include <mainwindow.h>
 
 #include <QMenu>
@@ -14,6 +13,10 @@
 #include <QToolBar>
 #include <QTranslator>
 #include <QUndoGroup>
+
+#include <private/qabstractfileengine_p.h>
+
+#include <atomic>
 
 using ExtensionSystem::PluginManager;
 
@@ -56,6 +59,22 @@ public:
 
 private:
     const QString m_strSource;
+};
+
+// Counts whoever turns to a file below /silent, a drive that does not answer.
+class SilentDrive : public QAbstractFileEngineHandler
+{
+public:
+    using Engine = decltype(std::declval<const QAbstractFileEngineHandler &>().create(QString()));
+    Engine create(const QString &strFile) const override
+    {
+        m_nAsked += strFile.startsWith("/silent");
+        return Engine();
+    }
+    [[nodiscard]] int timesAsked() const { return m_nAsked; }
+
+private:
+    mutable std::atomic_int m_nAsked;
 };
 
 const QString s_recentKey = QStringLiteral("Kelpa/RecentProjects");
@@ -221,6 +240,26 @@ private slots:
         QVERIFY(!pMenu->isEnabled() && lines(pMenu->actions()).isEmpty());
     }
 
+    void theMenuOpensWithoutAskingADriveThatDoesNotAnswer()
+    {
+        const SilentDrive drive;
+        PluginManager::settings()->setValue(
+            s_recentKey, QStringList({"/silent/a.kelpa", "/silent/b.kelpa", "/silent/b"}));
+        m_pWindow.reset();
+        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pWindow->show();
+        load("open.kelpa");
+        QMenu *pMenu = ActionManager::getActionContainer("File.Recent_Projects")->getMenu();
+        pMenu->popup({});
+        QVERIFY(QTest::qWaitForWindowExposed(pMenu));
+        QCOMPARE(lines(pMenu->actions()).last(), "4. /silent/b");
+        pMenu->close();
+        QCOMPARE(drive.timesAsked(), 0);
+        BoxAnswers boxes({QMessageBox::No});
+        ActionManager::getAction("File.Recent_Projects.Project_2")->getAction()->trigger();
+        QVERIFY(drive.timesAsked() > 0);
+    }
+
     void anEntryOpensItsProject()
     {
         load("a.kelpa");
@@ -267,16 +306,6 @@ private slots:
         pGerman->trigger();
         QCOMPARE(boxes.texts().last(), "Failed to change language.");
         QVERIFY(pEnglish->isChecked() && !pGerman->isChecked());
-    }
-
-    void iconsAreLoadedAgainForAnotherScale()
-    {
-        QAction *pOpen = ActionManager::getAction("File.Open_Project")->getAction();
-        const qint64 nBefore = pOpen->icon().cacheKey();
-        emit m_pWindow->dpiChanged(200);
-        QVERIFY(!pOpen->icon().isNull());
-        QVERIFY(pOpen->icon().cacheKey() != nBefore);
-        QVERIFY(!ActionManager::getActionContainer("View.Language")->getMenu()->icon().isNull());
     }
 
 private:

@@ -2,7 +2,12 @@
 // The main window on screens of several scales, which the platform off screen has.
 #include <support/coretest.h>
 
+#include <actionmanager/actioncontainer.h>
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
+#include <appearance/ilanguagemanager.h>
 #include <icore.h>
+#include <iui.h>
 #include <mainwindow.h>
 
 #include <QDesktopServices>
@@ -44,29 +49,30 @@ private slots:
 
     void movingToAnotherScaleTellsItOnce_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("percent");
-        QTest::addColumn<int>("margin");
-        QTest::newRow("to 120 DPI") << "120" << 125 << 1;
-        QTest::newRow("to 144 DPI") << "144" << 150 << 1;
-        QTest::newRow("to 192 DPI") << "192" << 200 << 2;
+        const auto row = columns<QString, int, int, QList<int>>("name", "percent", "margin", "icons");
+        row("to 120 DPI", "120", 125, 1, {16, 16});
+        row("to 144 DPI", "144", 150, 1, {32, 32});
+        row("to 192 DPI", "192", 200, 2, {32, 32});
     }
-
     void movingToAnotherScaleTellsItOnce()
     {
         QFETCH(QString, name);
         QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
         m_pWindow->show();
+        const qint64 nCached = image().cacheKey();
         moveTo(name);
         QTRY_COMPARE(changed.count(), 1);
         QTEST(changed.first().first().toInt(), "percent");
         QVERIFY(!changed.wait(400));
+        QTEST(iconSides(), "icons");
         QFETCH(int, margin);
         QCOMPARE(m_pWindow->contentsMargins(), QMargins(margin, margin, margin, margin));
         changed.clear();
         moveTo("96");
         QTRY_COMPARE(changed.count(), 1);
         QCOMPARE(changed.first().first().toInt(), 100);
+        QCOMPARE(iconSides(), QList<int>({16, 16}));
+        QVERIFY2(image().cacheKey() != nCached, "the image was not read again");
     }
 
     // Two screens of one scale apart from each other: the check finds nothing new.
@@ -112,35 +118,42 @@ private slots:
 
     void help_data()
     {
-        QTest::addColumn<bool>("exists");
-        QTest::addColumn<bool>("opens");
-        QTest::addColumn<QStringList>("boxes");
-        QTest::newRow("opens") << true << true << QStringList();
-        QTest::newRow("cannot be opened") << true << false << QStringList("Could not open help file.");
-        QTest::newRow("is missing") << false << true << QStringList("Help document is missing.");
+        const auto row = columns<QString, QStringList, QString, bool, QStringList>(
+            "language", "files", "file", "opens", "boxes");
+        row("in English", "en_US", {"en", "de"}, "en", true, {});
+        row("in another language", "de_DE", {"en", "de"}, "de", true, {});
+        row("in English where there is none of that language", "pt_BR", {"en", "de"}, "en", true, {});
+        row("cannot be opened", "de_DE", {"de"}, "de", false, {"Could not open help file."});
+        row("is missing", "de_DE", {"pt"}, "en", true, {"Help document is missing."});
     }
-
     void help()
     {
-        QFETCH(bool, exists);
+        QFETCH(QString, language);
+        QFETCH(QStringList, files);
+        QFETCH(QString, file);
         QFETCH(bool, opens);
-        const QString strFile = ICore::resourcePath() + "/Kelpa_help_en.pdf";
-        QFile::remove(strFile);
-        QFile file(strFile);
-        QVERIFY(!exists || file.open(QIODevice::WriteOnly));
+        const auto pathOf = [](const QString &strCode) {
+            return QString("%1/Kelpa_help_%2.pdf").arg(ICore::resourcePath(), strCode);
+        };
+        for (const char *pCode : {"en", "de", "pt"})
+            QFile::remove(pathOf(pCode));
+        for (const QString &strCode : std::as_const(files))
+            QVERIFY(QFile(pathOf(strCode)).open(QIODevice::WriteOnly));
+        ExtensionSystem::PluginManager::settings()->setValue("Kelpa/Language", language);
+        ILanguageManager::getInstance().initialize();
         if (opens)
             QDesktopServices::setUrlHandler("file", this, "openUrl");
         else
-            QTest::ignoreMessage(QtInfoMsg, qPrintable("Failed to open help file: " + strFile));
-        if (!exists)
-            QTest::ignoreMessage(QtInfoMsg, qPrintable("Help file not found: " + strFile));
+            QTest::ignoreMessage(QtInfoMsg, qPrintable("Failed to open help file: " + pathOf(file)));
+        if (!files.contains(file))
+            QTest::ignoreMessage(QtInfoMsg, qPrintable("Help file not found: " + pathOf(file)));
         m_opened.clear();
         BoxAnswers boxes({QMessageBox::Ok});
         m_pWindow->onHelpContents();
         QDesktopServices::unsetUrlHandler("file");
-        file.remove();
         QTEST(boxes.texts(), "boxes");
-        QCOMPARE(m_opened, exists && opens ? QList<QUrl> {QUrl::fromLocalFile(strFile)} : QList<QUrl> {});
+        QCOMPARE(m_opened,
+            boxes.boxes.isEmpty() ? QList<QUrl> {QUrl::fromLocalFile(pathOf(file))} : QList<QUrl> {});
         QVERIFY(boxes.boxes.isEmpty() || !boxes.boxes.first().pParent);
     }
 
@@ -154,6 +167,16 @@ private:
         const auto it = std::find_if(screens.begin(), screens.end(),
             [&](const QScreen *pScreen) { return pScreen->name() == strName; });
         return it == screens.end() ? nullptr : *it;
+    }
+
+    static QPixmap image() { return IUi::getPixmap("open", 2, false, ":/designer/images/"); }
+
+    // Of a command and of the language menu.
+    static QList<int> iconSides()
+    {
+        const auto sideOf = [](const QIcon &icon) { return icon.availableSizes().value(0).width(); };
+        return {sideOf(ActionManager::getAction("File.Open_Project")->getAction()->icon()),
+            sideOf(ActionManager::getActionContainer("View.Language")->getMenu()->icon())};
     }
 
     void moveTo(const QString &strName)

@@ -140,6 +140,15 @@ private slots:
         QCOMPARE(host.errors().isEmpty(), err.isEmpty());
     }
 
+    void theRealProgramEndsInGoodOrderWhenItHasNothingToRun()
+    {
+        const std::pair<const char *, int> ends[] = {{"--version", 0}, {"--help", 0}, {"--shallow", 1}};
+        for (const auto &[pOption, nExitCode] : ends) {
+            ChildProcess program(QStringLiteral(KELPASTUDIO), {pOption});
+            QCOMPARE(program.finish(), nExitCode);
+        }
+    }
+
     void aRequiredPluginThatFailsEndsTheStart_data()
     {
         const auto row = columns<QString, QString>("folder", "message");

@@ -283,6 +283,22 @@ private slots:
             QVERIFY(url.toString().startsWith("https://"));
     }
 
+    void argumentsOfAnotherKindDoNoHarm()
+    {
+        IRecentFilesManager::getInstance()->addFile("/p/a.kelpa");
+        BoxAnswers boxes(QList<QMessageBox::StandardButton>(50, QMessageBox::No));
+        const QJsonArray kinds[] = {{}, {QJsonValue()}, {QJsonObject {{"toString", "x"}}},
+            {QJsonArray {"a", "b"}}, {"a", "b", "c", "d"}};
+        for (const QJsonArray &arguments : kinds) {
+            for (const char *pMethod :
+                {"showInExplorer", "removeFile", "callbackTunnelAsync", "openURL", "openFile"})
+                m_pClient->call("kpwelcome", pMethod, arguments);
+        }
+        QCOMPARE(m_pClient->call("kpwelcome", "getRecentFileList"), QJsonArray {"/p/a.kelpa"});
+        for (const QString &strOpened : std::as_const(m_pDesktop->opened))
+            QCOMPARE(QDir::cleanPath(strOpened), ICore::resourcePath());
+    }
+
     // The call is still being worked off when the client is gone.
     void clientLeavesWhileItsBoxIsOpen()
     {
