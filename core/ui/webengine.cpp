@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QLibrary>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
@@ -31,14 +32,27 @@ void allowRoot()
 #endif
 }
 
+// Without a graphics card OpenGL is emulated, and slower by far than the engine when it draws by itself. What
+// is overlooked here costs only time.
+bool hasGraphicsCard()
+{
+#ifdef Q_OS_LINUX
+    return QFile::exists(QStringLiteral("/dev/dri")) || QFile::exists(QStringLiteral("/dev/nvidiactl"))
+        || QFile::exists(QStringLiteral("/dev/dxg"));
+#else
+    return true;
+#endif
+}
+
 // The engine draws into contexts that share with this one. It is normally made before the application
-// object, at every start; made here, only who needs the engine pays for it.
+// object, at every start; made here, only who needs the engine pays for it. One that is
+// not valid tells the module to do without; the engine misses it when there is none.
 void shareContexts()
 {
     if (qt_gl_global_share_context())
         return;
     auto *pContext = new QOpenGLContext;
-    if (!pContext->create())
+    if (!hasGraphicsCard() || !pContext->create())
         qCDebug(lcWeb, "There is no OpenGL context to share");
     qt_gl_set_global_share_context(pContext);
     qAddPostRoutine([] {

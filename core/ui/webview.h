@@ -43,7 +43,8 @@ public:
     virtual void setBackground(const QColor &color) = 0;
 
 signals:
-    /// False also when a page that was there is gone, because the process that showed it ended.
+    /// False also when a page that was there is gone, because the process that showed it ended; not when it
+    /// wanted to go where it must not.
     void loadFinished(bool ok);
 
     /// The page gave itself a title.

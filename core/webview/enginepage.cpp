@@ -92,6 +92,14 @@ EnginePage::EnginePage(WebAccess access, QWebEngineProfile *pProfile, QObject *p
 
 bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool bMainFrame)
 {
+    const bool bAccepted = acceptAddress(url, type, bMainFrame);
+    if (bMainFrame)
+        m_bHeldBack = !bAccepted;
+    return bAccepted;
+}
+
+bool EnginePage::acceptAddress(const QUrl &url, NavigationType type, bool bMainFrame)
+{
     if (type == NavigationTypeLinkClicked && url.adjusted(QUrl::RemoveFragment) != m_current) {
         emit linkActivated(url);
         return false;

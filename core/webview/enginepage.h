@@ -36,6 +36,9 @@ class EnginePage : public QWebEnginePage
 public:
     EnginePage(WebAccess access, QWebEngineProfile *pProfile, QObject *pParent);
 
+    /// Whether the page last wanted to go where it must not, and so is where it was.
+    [[nodiscard]] bool isHeldBack() const { return m_bHeldBack; }
+
 signals:
     /// The user followed a link.
     void linkActivated(const QUrl &url);
@@ -53,9 +56,11 @@ protected:
         const QString &strSource) override;
 
 private:
+    [[nodiscard]] bool acceptAddress(const QUrl &url, NavigationType type, bool bMainFrame);
     [[nodiscard]] bool acceptRedirect(const QUrl &url);
 
     const WebAccess m_access;
     QUrl m_current; ///< last accepted in the main frame
     int m_nRedirects = 0;
+    bool m_bHeldBack = false;
 };

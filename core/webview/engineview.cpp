@@ -4,6 +4,8 @@
 #include "enginepage.h"
 
 #include <QJsonDocument>
+#include <QOpenGLContext>
+#include <QQuickWindow>
 #include <QVBoxLayout>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -27,7 +29,11 @@ EngineView::EngineView(WebAccess access, QWidget *pParent)
     setFocusProxy(m_pView);
     connect(pPage, &EnginePage::linkActivated, this, [](const QUrl &url) { openOutside(url); });
     connect(pPage, &QWebEnginePage::titleChanged, this, &WebView::titleChanged);
-    connect(pPage, &QWebEnginePage::loadFinished, this, &EngineView::onLoaded);
+    connect(pPage, &QWebEnginePage::loadFinished, this, [this, pPage](bool bOk) {
+        // What the page itself wanted and must not is no failure of what the program loaded.
+        if (bOk || m_bLoading || !pPage->isHeldBack())
+            onLoaded(bOk);
+    });
     connect(pPage, &QWebEnginePage::renderProcessTerminated, this, [this] { onLoaded(false); });
 }
 
@@ -39,14 +45,20 @@ EngineView::~EngineView()
 
 void EngineView::load(const QUrl &url)
 {
-    m_bLoading = true;
-    m_bLoaded = false;
+    beginLoading();
     m_pView->load(url);
 }
 
 void EngineView::setHtml(const QString &strHtml)
 {
+    beginLoading();
     m_pView->setHtml(strHtml);
+}
+
+void EngineView::beginLoading()
+{
+    m_bLoading = true;
+    m_bLoaded = false;
 }
 
 void EngineView::setZoomFactor(double fFactor)
@@ -97,6 +109,15 @@ void EngineView::setBackground(const QColor &color)
 {
     m_pView->page()->setBackgroundColor(color);
 }
+
+EngineFactory::EngineFactory()
+{
+    const QOpenGLContext *pContext = QOpenGLContext::globalShareContext();
+    if (!pContext || !pContext->isValid())
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+EngineFactory::~EngineFactory() = default;
 
 WebView *EngineFactory::create(WebAccess access, QWidget *pParent)
 {

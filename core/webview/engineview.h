@@ -22,6 +22,7 @@ public:
     void setBackground(const QColor &color) override;
 
 private:
+    void beginLoading();
     void onLoaded(bool bOk);
     void announcePageData();
 
@@ -37,8 +38,13 @@ class EngineFactory : public QObject, public WebViewFactory
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.ORVEN.Kelpa.WebViewFactory")
+    Q_DISABLE_COPY_MOVE(EngineFactory)
     Q_INTERFACES(WebViewFactory)
 
 public:
+    /// Chooses how all views draw: with OpenGL, or without when the program has no valid context to share.
+    EngineFactory();
+    ~EngineFactory() override;
+
     [[nodiscard]] WebView *create(WebAccess access, QWidget *pParent) override;
 };

@@ -10,6 +10,7 @@
 #include <ui/imainmdiarea.h>
 
 #include <QApplication>
+#include <QEvent>
 #include <QTimer>
 
 namespace {
@@ -49,8 +50,18 @@ bool WelcomePlugin::initialize(const QStringList &arguments, QString *errorStrin
 // A project of the command line may still be asking the user something.
 void WelcomePlugin::start()
 {
-    if (const QWidget *pDialog = QApplication::activeModalWidget())
-        connect(pDialog, &QObject::destroyed, this, &WelcomePlugin::start, Qt::QueuedConnection);
+    if (QWidget *pDialog = QApplication::activeModalWidget())
+        pDialog->installEventFilter(this);
     else
         ICore::getMainWindow()->setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
+}
+
+// Some dialogs are only hidden when they are done; those that are deleted are hidden first.
+bool WelcomePlugin::eventFilter(QObject *pWatched, QEvent *pEvent)
+{
+    if (pEvent->type() == QEvent::Hide) {
+        pWatched->removeEventFilter(this);
+        QMetaObject::invokeMethod(this, &WelcomePlugin::start, Qt::QueuedConnection);
+    }
+    return IPlugin::eventFilter(pWatched, pEvent);
 }

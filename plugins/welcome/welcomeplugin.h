@@ -23,6 +23,7 @@ public:
     ~WelcomePlugin() override;
 
     bool initialize(const QStringList &arguments, QString *errorString) override;
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
 
 private:
     void start();

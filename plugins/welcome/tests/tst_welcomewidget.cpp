@@ -8,9 +8,11 @@
 #include <ui/imainmdiarea.h>
 #include <ui/webview.h>
 #include <welcomeoptionpage.h>
+#include <welcomeplugin.h>
 #include <welcomewidget.h>
 
 #include <QCheckBox>
+#include <QDialog>
 #include <QListWidget>
 
 class tst_WelcomeWidget : public QObject
@@ -75,6 +77,24 @@ private slots:
         BoxAnswers boxes({QMessageBox::Ok});
         QTest::keyClick(pList, Qt::Key_Return);
         QTRY_COMPARE(boxes.texts(), QStringList("Could not find the requested file.\n/gone/a.kelpa"));
+    }
+
+    void pageComesAfterADialogThatIsOnlyHidden()
+    {
+        WelcomePlugin plugin;
+        QString strError;
+        QVERIFY(plugin.initialize({}, &strError));
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        emit m_pWindow->extsInitialized();
+        bool bTurned = false;
+        QTimer::singleShot(0, this, [&] { bTurned = true; });
+        QTRY_VERIFY(bTurned);
+        const QWidget *pPage = m_pWindow->getMdiArea()->getWelcomeWidget();
+        QVERIFY(pPage->isHidden());
+        dialog.hide();
+        QTRY_VERIFY(!pPage->isHidden());
     }
 
     void preferencesPage()
