@@ -5,6 +5,7 @@
 
 #include <QPointer>
 #include <QTcpSocket>
+#include <QTimer>
 #include <QWebSocket>
 #include <QWebSocketServer>
 
@@ -60,10 +61,15 @@ void watch(QTcpSocket *pTcp, QWebSocket *pSocket)
 }
 
 // The server deletes a TCP socket as soon as it has disconnected. Where that happens in an event loop within
-// the web socket's own signal, the web socket would not survive it.
+// the web socket's own signal, the web socket would not survive it: so it goes after it, when all is sent.
 bool keepUntilDestroyed(const QWebSocketServer &server, QWebSocket *pSocket, QTcpSocket *pTcp)
 {
-    QObject::connect(pSocket, &QObject::destroyed, pTcp, &QObject::deleteLater);
+    QObject::connect(pSocket, &QObject::destroyed, pTcp, [pTcp] {
+        if (pTcp->state() == QAbstractSocket::UnconnectedState)
+            pTcp->deleteLater();
+        else
+            QObject::connect(pTcp, &QTcpSocket::disconnected, pTcp, &QObject::deleteLater);
+    });
     return QObject::disconnect(pTcp, &QTcpSocket::disconnected, &server, nullptr);
 }
 
@@ -83,7 +89,7 @@ bool apply(const QWebSocketServer &server, QWebSocket *pSocket)
     pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     makeRoom(pTcp);
     watch(pTcp, pSocket);
-    return keepUntilDestroyed(server, pSocket, pTcp);
+    return keepUntilDestroyed(server, pSocket, pTcp) && pSocket->findChild<QTimer *>();
 }
 
 void pause(QWebSocket *pSocket)

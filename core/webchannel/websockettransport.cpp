@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QPromise>
 #include <QThreadPool>
+#include <QTimer>
 #include <QWebSocket>
 
 #include <memory>
@@ -39,6 +40,10 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket, Qt::ConnectionType de
         socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
     connect(
         &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
+    const auto timers =
+        socket->findChildren<QTimer *>(); // after five seconds without the rest it drops the client
+    for (QTimer *pTimer : timers)
+        pTimer->installEventFilter(this);
     connect(socket, &QWebSocket::bytesWritten, this, [this] { m_unread.invalidate(); });
 }
 
@@ -47,6 +52,12 @@ WebSocketTransport::~WebSocketTransport()
     reportUnlogged();
     if (!m_bInSocket)
         m_socket->deleteLater();
+}
+
+bool WebSocketTransport::eventFilter(QObject *pTimer, QEvent *pEvent)
+{
+    return (pEvent->type() == QEvent::Timer && !m_waiting.isEmpty())
+        || QWebChannelAbstractTransport::eventFilter(pTimer, pEvent);
 }
 
 void WebSocketTransport::sendMessage(const QJsonObject &message)
@@ -76,12 +87,12 @@ void WebSocketTransport::textMessageReceived(const QString &message)
 void WebSocketTransport::workOffInSocket(const QString &strMessage)
 {
     const QPointer<WebSocketTransport> pThis(this);
-    QWebSocket *pSocket = m_socket;
+    const QPointer<QWebSocket> pSocket(m_socket);
     m_bInSocket = true;
     workOff(parse(strMessage));
     if (pThis)
         m_bInSocket = false;
-    else
+    else if (pSocket)
         pSocket->deleteLater();
 }
 

@@ -30,6 +30,10 @@ public:
     /// fall further behind.
     void sendMessage(const QJsonObject &message) override;
 
+    /// A client that is not listened to, because a message is being worked off, is not late with the rest of
+    /// another.
+    bool eventFilter(QObject *pTimer, QEvent *pEvent) override;
+
 private slots:
     /// Anything but a JSON object that the channel knows is logged and dropped, the socket stays. A client
     /// that goes on so is not logged more often than a few times a second.
