@@ -96,10 +96,12 @@ void StageOptionsDlg::onCancel()
     IOptionsDlg::reject();
 }
 
+// What could not be saved stays before the author, who has been told why.
 void StageOptionsDlg::onOK()
 {
     onApply();
-    accept();
+    if (!hasChanges())
+        accept();
 }
 
 // Escape and the window's own close button.
