@@ -3,7 +3,8 @@
 """bench_welcome.py PROGRAM [--runs N] [--bound MS]: milliseconds from the painted window to the painted home page.
 
 Starts the program N times after one start that warms the caches, and prints each time and the median. Fails when
-the median exceeds the bound, if one is given, in each of six tries: other programs on the machine must not matter. Needs a display; the program has to be built with its plug-ins.
+the median exceeds the bound, if one is given, in each of six tries: other programs on the machine must not
+matter. Needs a display; the program has to be built with its plug-ins.
 """
 import argparse
 import os

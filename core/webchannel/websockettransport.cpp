@@ -40,8 +40,8 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket, Qt::ConnectionType de
         socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
     connect(
         &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
-    const auto timers =
-        socket->findChildren<QTimer *>(); // after five seconds without the rest it drops the client
+    // After five seconds without the rest of a frame it drops the client.
+    const auto timers = socket->findChildren<QTimer *>();
     for (QTimer *pTimer : timers)
         pTimer->installEventFilter(this);
     connect(socket, &QWebSocket::bytesWritten, this, [this] { m_unread.invalidate(); });

@@ -54,6 +54,10 @@ public:
     }
 
     [[nodiscard]] QUrl url() const { return server.serverUrl(); }
+    [[nodiscard]] WebSocketTransport *firstClient() const
+    {
+        return clients.constFirst().constFirst().value<WebSocketTransport *>();
+    }
 
     Counter counter;
     QWebSocketServer server;

@@ -115,8 +115,7 @@ private slots:
         ChannelServer program;
         Client client(program.url());
         QVERIFY(client.connected.wait());
-        const QPointer<WebSocketTransport> pTransport =
-            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const QPointer<WebSocketTransport> pTransport(program.firstClient());
         const QPointer<QObject> pSocket = pTransport->parent();
         if (byClient)
             client.socket.close();
@@ -136,8 +135,7 @@ private slots:
         ChannelServer program;
         Client client(program.url());
         QVERIFY(client.connected.wait());
-        const QPointer<WebSocketTransport> pTransport =
-            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const QPointer<WebSocketTransport> pTransport(program.firstClient());
         const QPointer<QObject> pSocket = pTransport->parent();
         bool bSocketStayed = false;
         connect(&program.counter, &Counter::marked, this, [&] {
@@ -164,10 +162,9 @@ private slots:
         client.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
         client.write(handshake("127.0.0.1:" + QByteArray::number(program.server.serverPort())));
         QTRY_COMPARE(program.clients.size(), 1);
-        auto *pTransport = program.clients.constFirst().constFirst().value<WebSocketTransport *>();
         connect(&program.counter, &Counter::marked, this, [] { QTest::qWait(6000); });
         client.write(frames.left(20));
-        QTRY_VERIFY(pTransport->parent()->findChild<QTimer *>()->isActive());
+        QTRY_VERIFY(program.firstClient()->parent()->findChild<QTimer *>()->isActive());
         client.write(frames.mid(20));
         QTRY_COMPARE_WITH_TIMEOUT(program.counter.total(), 5, 20000);
         QCOMPARE(client.state(), QAbstractSocket::ConnectedState);
@@ -240,10 +237,9 @@ private slots:
         ChannelServer program;
         Client client(program.url());
         QVERIFY(client.connected.wait());
-        auto *pTransport = program.clients.constFirst().constFirst().value<WebSocketTransport *>();
         const QJsonObject message {{QStringLiteral("text"), QString(characters, QLatin1Char('x'))}};
         for (int i = 0; i < messages; ++i)
-            pTransport->sendMessage(message);
+            program.firstClient()->sendMessage(message);
         QTRY_COMPARE_WITH_TIMEOUT(client.received.size(), messages, 60000);
     }
 
@@ -264,8 +260,7 @@ private slots:
         client.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
         client.write(handshake("localhost:" + QByteArray::number(program.server.serverPort())));
         QTRY_COMPARE(program.clients.size(), 1);
-        const QPointer<WebSocketTransport> pTransport =
-            program.clients.constFirst().constFirst().value<WebSocketTransport *>();
+        const QPointer<WebSocketTransport> pTransport(program.firstClient());
         const QJsonObject message {{QStringLiteral("text"), QString(4000000, QLatin1Char('x'))}};
         for (int i = 0; i < messages && log.lines().isEmpty(); ++i)
             pTransport->sendMessage(message);
