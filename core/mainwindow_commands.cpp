@@ -38,7 +38,7 @@ struct CommandRow
     const char *pDescription = nullptr;
     const char *pIcon = nullptr;
     bool bEnabled = true;
-    const char *pSlot = nullptr; // null: a plug-in connects it
+    void (MainWindow::*pSlot)() = nullptr; // null: a plug-in connects it
 };
 
 namespace {
@@ -78,22 +78,22 @@ constexpr MenuRow s_menus[] = {
 constexpr CommandRow s_entries[] = {
     {"MenuBar.File", Entry::Command, QT_TRANSLATE_NOOP("MainWindow", "File.New"),
         QT_TRANSLATE_NOOP("MainWindow", "&New"), Key::New, nullptr,
-        QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true, SLOT(fileNew())},
+        QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true, &MainWindow::fileNew},
     {"MenuBar.File", Entry::Command, "File.Open_Project", QT_TRANSLATE_NOOP("MainWindow", "&Open Project"),
         Key::Open, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Open an existing project"), "open", true,
-        SLOT(fileOpen())},
+        &MainWindow::fileOpen},
     {"MenuBar.File", Entry::SubMenu, "File.Recent_Projects"},
     {"MenuBar.File", Entry::Separator},
     {"MenuBar.File", Entry::Command, "File.Save", QT_TRANSLATE_NOOP("MainWindow", "&Save"), Key::Save,
         nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project"), "save", false,
-        SLOT(fileSave())},
+        &MainWindow::fileSave},
     {"File.SaveAs", Entry::Command, "File.SaveAs.Project", QT_TRANSLATE_NOOP("MainWindow", "Other Project"),
         Key::SaveAs, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project as a new one"),
-        nullptr, false, SLOT(fileSaveAs())},
+        nullptr, false, &MainWindow::fileSaveAs},
     {"MenuBar.File", Entry::SubMenu, "File.SaveAs"},
     {"MenuBar.File", Entry::Command, "File.Close", QT_TRANSLATE_NOOP("MainWindow", "&Close"), Key::Close,
         nullptr, QT_TRANSLATE_NOOP("MainWindow", "Close the current project"), nullptr, false,
-        SLOT(fileClose())},
+        &MainWindow::fileClose},
     {"MenuBar.File", Entry::Separator},
     {"MenuBar.File", Entry::Command, "File.Preview_Current_Scene_In_Browser",
         QT_TRANSLATE_NOOP("MainWindow", "Preview Current Scene in Browser"), Key::UnknownKey, "Ctrl+F5"},
@@ -109,13 +109,13 @@ constexpr CommandRow s_entries[] = {
     {"MenuBar.File", Entry::Separator},
     // The same default as "File.SaveAs.Project": users of existing shortcut lists expect it here.
     {"MenuBar.File", Entry::Command, "File.Exit", QT_TRANSLATE_NOOP("MainWindow", "E&xit"), Key::SaveAs,
-        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Quit the program"), nullptr, true, SLOT(fileExit())},
+        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Quit the program"), nullptr, true, &MainWindow::fileExit},
     {"MenuBar.Edit", Entry::Command, "Edit.Preferences", QT_TRANSLATE_NOOP("MainWindow", "&Preferences"),
-        Key::Preferences, nullptr, nullptr, "preferences", true, SLOT(onPreferences())},
+        Key::Preferences, nullptr, nullptr, "preferences", true, &MainWindow::onPreferences},
     {"MenuBar.View", Entry::SubMenu, "View.Language"},
     {"MenuBar.Help", Entry::Command, "Help.About", QT_TRANSLATE_NOOP("MainWindow", "About")},
     {"MenuBar.Help", Entry::Command, "Help.Help_Contents", QT_TRANSLATE_NOOP("MainWindow", "Help Contents"),
-        Key::UnknownKey, "F1", nullptr, nullptr, true, SLOT(onHelpContents())},
+        Key::UnknownKey, "F1", nullptr, nullptr, true, &MainWindow::onHelpContents},
     {"MenuBar.Help", Entry::Command, "Help.ReportProblem",
         QT_TRANSLATE_NOOP("MainWindow", "Report a Problem")},
     {"MenuBar.Help", Entry::Command, "Help.ProvideSuggestion",
@@ -190,7 +190,7 @@ void MainWindow::createCommand(const CommandRow &row)
         m_themedIcons.emplace(strId, QLatin1String(row.pIcon));
     }
     if (row.pSlot)
-        connect(pAction, SIGNAL(triggered()), this, row.pSlot);
+        connect(pAction, &QAction::triggered, this, row.pSlot);
     m_actions.emplace(QLatin1String(row.pId), pAction);
 
     ContextAction *pCommand = ActionManager::registerAction(pAction, strId, this, false);

@@ -141,28 +141,27 @@ private slots:
     void aDocumentMayGoInsideItsOwnClosing()
     {
         QFETCH(int, moment);
-        QPointer<FakeDocument> pDoomed;
-        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+        m_pFactory->prepare = [this, moment](FakeDocument *pDoc) {
             const auto kill = [pDoc = QPointer(pDoc)] { delete pDoc; };
             if (moment == 0)
                 connect(pDoc, &IDocument::aboutToClose, this, kill);
             else if (moment == 1)
                 connect(pDoc, &IDocument::requestClosing, this, kill);
-            pDoomed = pDoc;
+            m_pDoomed = pDoc;
         };
-        m_pFactory->onEditor = [&](IEditor *pEditor) {
+        m_pFactory->onEditor = [this, moment](IEditor *pEditor) {
             if (moment == 2)
-                connect(pEditor, &IEditor::aboutToDeactivate, this, [&] { delete pDoomed; });
+                connect(pEditor, &IEditor::aboutToDeactivate, this, [this] { delete m_pDoomed; });
         };
         QVERIFY(m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
         m_pFactory->prepare = nullptr;
         m_pFactory->onEditor = nullptr;
         if (moment == 3)
             connect(EditorManager::getInstance(), &EditorManager::editorDeactivated, this,
-                [&] { delete pDoomed; });
+                [this] { delete m_pDoomed; });
         m_pWindow->show();
         QVERIFY(m_pWindow->close());
-        QVERIFY(!pDoomed);
+        QVERIFY(!m_pDoomed);
         QVERIFY(DocumentManager::getDocuments().isEmpty());
         for (const IEditor *pEditor : EditorManager::getEditors())
             QVERIFY(!pEditor->getDocument());
@@ -184,7 +183,7 @@ private slots:
         QFETCH(bool, create);
         QFETCH(bool, activated);
         m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
-        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+        m_pFactory->prepare = [this, activated](FakeDocument *pDoc) {
             if (!activated)
                 connect(pDoc, &IDocument::aboutToOpen, this, [pDoc = QPointer(pDoc)] { delete pDoc; });
         };
@@ -323,6 +322,7 @@ private:
     std::unique_ptr<TestProgram> m_pProgram;
     std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<FakeFactory> m_pFactory;
+    QPointer<FakeDocument> m_pDoomed; ///< slots that delete it stay connected to the end of the test
 };
 
 // A program of its own that adds five recent projects to the store.
