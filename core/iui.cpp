@@ -87,6 +87,9 @@ void widenContents(QMessageBox *pBox)
     }
     const auto labels = pBox->findChildren<QLabel *>();
     for (QLabel *pLabel : labels) {
+        // The box passes its own format on to the first text only.
+        if (pLabel->objectName() == QLatin1String("qt_msgbox_informativelabel"))
+            pLabel->setTextFormat(pBox->textFormat());
         if (!pLabel->text().isEmpty())
             widenLabel(pLabel);
     }
@@ -104,12 +107,14 @@ QPixmap messageIcon(const QString &strName, int nDPI)
 }
 
 QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, const QString &strTitle,
-    const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+    const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton,
+    const QString &strInformative = {})
 {
     QWidget *pOwner = pParent ? pParent : ICore::getMainWindow();
     QMessageBox box(pOwner);
     box.setTextFormat(Qt::PlainText);
     box.setText(strText);
+    box.setInformativeText(strInformative);
     box.setStandardButtons(buttons);
     box.setDefaultButton(defaultButton);
     return IUi::run(&box, strIcon, strTitle);
@@ -150,9 +155,11 @@ QMessageBox::StandardButton IUi::run(QMessageBox *pBox, const QString &strIcon, 
 }
 
 QMessageBox::StandardButton IUi::information(QWidget *pParent, const QString &strTitle,
-    const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+    const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton,
+    const QString &strInformative)
 {
-    return runBox(pParent, QStringLiteral("information_32"), strTitle, strText, buttons, defaultButton);
+    return runBox(
+        pParent, QStringLiteral("information_32"), strTitle, strText, buttons, defaultButton, strInformative);
 }
 
 QMessageBox::StandardButton IUi::question(QWidget *pParent, const QString &strTitle, const QString &strText,

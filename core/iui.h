@@ -33,10 +33,10 @@ public:
     static void clearIconCache();
 
     /// Modal boxes; a null parent means the main window. They return the button that was clicked, or Cancel
-    /// when the box was closed without one.
+    /// when the box was closed without one. `strInformative` stands in a second, lighter text.
     static QMessageBox::StandardButton information(QWidget *pParent, const QString &strTitle,
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
-        QMessageBox::StandardButton defaultButton = QMessageBox::Ok);
+        QMessageBox::StandardButton defaultButton = QMessageBox::Ok, const QString &strInformative = {});
     static QMessageBox::StandardButton question(QWidget *pParent, const QString &strTitle,
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No,
         QMessageBox::StandardButton defaultButton = QMessageBox::Yes);

@@ -298,10 +298,15 @@ void MainWindow::raiseUp()
     activateWindow();
 }
 
-// Stops at the first document that refuses. Closing one may delete others, so they are watched.
+// Stops at the first document that refuses. Closing one may delete others, so they are watched. Each is
+// shown, and named in the title, before it asks: two projects may have the same name.
 bool MainWindow::closeDocuments(const QList<QPointer<IDocument>> &documents)
 {
     for (const QPointer<IDocument> &pDoc : documents) {
+        if (IEditor *pEditor = pDoc ? EditorManager::getEditorOfDocument(pDoc) : nullptr) {
+            EditorManager::activateEditor(pEditor);
+            updateActivatedMdiSubFilePath(m_pMdiArea->activeSubWindow()); // the one before left no title
+        }
         if (!pDoc)
             continue;
         if (!pDoc->close())
@@ -324,7 +329,6 @@ void MainWindow::closeEvent(QCloseEvent *pEvent)
         return QList<QPointer<IDocument>>(documents.cbegin(), documents.cend());
     };
     if (!closeDocuments(shown) || !closeDocuments(rest())) {
-        updateActivatedMdiSubFilePath(m_pMdiArea->activeSubWindow()); // the closed ones left no title
         pEvent->ignore();
         return;
     }

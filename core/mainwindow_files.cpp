@@ -51,6 +51,24 @@ IEditor *editorShowing(const QString &strPath)
     return nullptr;
 }
 
+bool tellUnopenable(const QString &strPath)
+{
+    IUi::information(nullptr, QStringLiteral("Kelpa Studio"), MainWindow::tr("Cannot open this file type."),
+        QMessageBox::Ok, QMessageBox::Ok, QDir::toNativeSeparators(strPath));
+    return false;
+}
+
+// A plug-in may fail to make one. What it made already is the caller's to delete.
+IEditor *editorFor(IDocumentFactory *pFactory, IDocument *pDoc)
+{
+    IEditor *pEditor = pFactory->createEditor();
+    if (pEditor)
+        pEditor->setDocument(pDoc);
+    else
+        tellUnopenable(pDoc->getFileName());
+    return pEditor;
+}
+
 IDocument *activeDocument()
 {
     const IEditor *pEditor = EditorManager::activeEditor();
@@ -97,11 +115,9 @@ bool MainWindow::loadFile(const QString &strFileName)
         return true;
     }
     IDocumentFactory *pFactory = factoryFor(strPath);
-    if (!pFactory) {
-        IUi::information(this, QStringLiteral("Kelpa Studio"), tr("Cannot open this file type."));
-        return false;
-    }
-    const QPointer<IDocument> pDoc = pFactory->createDocument();
+    const QPointer<IDocument> pDoc = pFactory ? pFactory->createDocument() : nullptr;
+    if (!pDoc)
+        return tellUnopenable(strPath);
     pDoc->setFileName(strPath);
     const bool bOpened = pDoc->open() && pDoc && loadOpenedDocument(pDoc, true);
     if (!bOpened) {
@@ -120,8 +136,9 @@ bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
         return false;
     if (bAddToRecentFile)
         addRecent(pDoc->getFileName());
-    IEditor *pEditor = pFactory->createEditor();
-    pEditor->setDocument(pDoc);
+    IEditor *pEditor = editorFor(pFactory, pDoc);
+    if (!pEditor)
+        return false;
     DocumentManager::addDocument(pDoc);
     EditorManager::addEditor(pEditor);
     addStack(pDoc);
@@ -148,7 +165,9 @@ void MainWindow::fileNew()
         return;
     IDocument *pDoc = pFactory->createDocument();
     ICreateDocumentDlg *pDialog = pFactory->createNewDocumentDialog();
-    if (pDialog->exec() != QDialog::Accepted)
+    if (!pDoc || !pDialog)
+        qCWarning(lcFiles, "The factory made no document or no dialog for a new project.");
+    if (!pDoc || !pDialog || pDialog->exec() != QDialog::Accepted)
         delete pDoc;
     else if (!createDocument(pFactory, pDoc, pDialog))
         return;
@@ -177,8 +196,11 @@ bool MainWindow::createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICr
 
 void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
 {
-    IEditor *pEditor = pFactory->createEditor();
-    pEditor->setDocument(pDoc);
+    IEditor *pEditor = editorFor(pFactory, pDoc);
+    if (!pEditor) {
+        delete pDoc;
+        return;
+    }
     DocumentManager::addDocument(pDoc);
     EditorManager::addEditor(pEditor);
     enableCommand("File.Save", true);
@@ -273,7 +295,7 @@ void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
 
 void MainWindow::addRecent(const QString &strPath)
 {
-    // A relative path, from a command line, would mean another file for a program started elsewhere.
+    // A relative path, as a plug-in may pass it, would mean another file for a program started elsewhere.
     const bool bRelative = !strPath.isEmpty() && QDir::isRelativePath(strPath);
     IRecentFilesManager::getInstance()->addFile(bRelative ? QFileInfo(strPath).absoluteFilePath() : strPath);
     updateRecentFileActions();

@@ -782,6 +782,14 @@ Eine Bühne von %2 mal %3 Pixeln mit %4 Bildern pro Sekunde ist nicht möglich.<
         <source>%1 is open. Close it first.</source>
         <translation>%1 ist geöffnet. Schließen Sie die Datei zuerst.</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>Keine Sicherungskopie von %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

@@ -782,6 +782,14 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
         <source>%1 is open. Close it first.</source>
         <translation>%1 está abierto. Ciérrelo primero.</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Guardar &amp;como...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>No hay copia de seguridad de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

@@ -782,6 +782,14 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
         <source>%1 is open. Close it first.</source>
         <translation>%1 est ouvert. Fermez-le d&apos;abord.</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>Aucune copie de sauvegarde de %1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

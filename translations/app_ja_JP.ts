@@ -782,6 +782,14 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
         <source>%1 is open. Close it first.</source>
         <translation>%1 は開かれています。先に閉じてください。</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>名前を付けて保存(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>%1 のバックアップを作成できません: %2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

@@ -782,6 +782,14 @@ Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</tran
         <source>%1 is open. Close it first.</source>
         <translation>%1 está aberto. Feche-o primeiro.</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Salvar &amp;como...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>Sem cópia de segurança de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

@@ -782,6 +782,14 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
         <source>%1 is open. Close it first.</source>
         <translation>%1 đang mở. Hãy đóng trước.</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Lưu &amp;thành...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>Không có bản sao lưu của %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

@@ -782,6 +782,14 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
         <source>%1 is open. Close it first.</source>
         <translation>%1 已打开。请先将其关闭。</translation>
     </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>另存为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>No backup of %1: %2</source>
+        <translation>无法备份 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>StageEditor</name>

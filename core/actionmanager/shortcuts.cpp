@@ -3,6 +3,7 @@
 
 #include "actionmanager/actionmanager.h"
 #include "actionmanager/contextaction.h"
+#include "filewriter.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
-#include <QSaveFile>
 #include <QSettings>
 
 #include <algorithm>
@@ -215,11 +215,10 @@ bool Shortcuts::exportTo(const QString &strFileName, QString &strError)
             shortcuts.insert(it.key(), it.value());
     }
     const QJsonObject root {{QStringLiteral("format"), s_format}, {s_group, shortcuts}};
-    QSaveFile file(strFileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(root).toJson()) >= 0 && file.commit())
-        return true;
-    strError = message(strFileName, file.errorString());
-    return false;
+    const QString strReason = FileWriter::write(strFileName, QJsonDocument(root).toJson());
+    if (!strReason.isEmpty())
+        strError = message(strFileName, strReason);
+    return strReason.isEmpty();
 }
 
 bool Shortcuts::importFrom(const QString &strFileName, QString &strError)

@@ -4,6 +4,7 @@
 #include "irecentfilesmanager.h"
 #include "iui.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QUndoStack>
 
@@ -64,13 +65,17 @@ bool IDocument::saveBeforeClose()
     if (isTempDocument())
         return saveTempBeforeClose();
     const QPointer<IDocument> pThis = this;
-    if (save())
-        return !pThis.isNull();
+    m_strSaveError.clear();
+    m_bSavedByClose = true;
+    const bool bSaved = save();
     if (!pThis)
         return false;
+    m_bSavedByClose = false;
+    if (bSaved)
+        return true;
     IUi::information(nullptr, s_title,
         tr("Could not save project %1.").arg(QFileInfo(m_strFileName).completeBaseName()), QMessageBox::Ok,
-        QMessageBox::Ok);
+        QMessageBox::Ok, m_strSaveError);
     return false;
 }
 
@@ -116,9 +121,25 @@ bool IDocument::saveBackup()
     return false;
 }
 
-bool IDocument::isAt(const QString &strCanonicalPath) const
+void IDocument::setFileName(const QString &strFileName)
 {
-    return !strCanonicalPath.isEmpty() && QFileInfo(m_strFileName).canonicalFilePath() == strCanonicalPath;
+    m_strFileName = strFileName;
+    m_strResolvedPath = resolvedPath(strFileName);
+}
+
+QString IDocument::resolvedPath(const QString &strFileName)
+{
+    const QFileInfo file(strFileName);
+    if (strFileName.isEmpty() || file.exists())
+        return file.canonicalFilePath();
+    const QString strFolder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return strFolder.isEmpty() ? QDir::cleanPath(file.absoluteFilePath())
+                               : QDir(strFolder).filePath(file.fileName());
+}
+
+bool IDocument::isAt(const QString &strResolvedPath) const
+{
+    return !strResolvedPath.isEmpty() && m_strResolvedPath == strResolvedPath;
 }
 
 QUndoStack *IDocument::getUndoStack() const

@@ -48,18 +48,24 @@ public:
     virtual bool saveAs();
     virtual bool revert();
 
-    /// Pushes a command on the document's undo stack; the document takes it over.
+    /// A document pushes the command on its undo stack and takes it over. The base does nothing.
     virtual void submitCommand(QUndoCommand *pCommand);
 
-    /// Writes a backup copy if one is due. False: none was taken.
+    /// A document writes a backup copy if one is due, at any time it is called. False: none was taken, as
+    /// always by the base.
     virtual bool saveBackup();
 
     [[nodiscard]] QString getFileName() const { return m_strFileName; }
-    void setFileName(const QString &strFileName) { m_strFileName = strFileName; }
 
-    /// Whether this path without links, as QFileInfo::canonicalFilePath() gives it, is that of the document's
-    /// file. Never for an empty one: there is no such file.
-    [[nodiscard]] bool isAt(const QString &strCanonicalPath) const;
+    /// Also notes where the file is now, for isAt(): a document calls it again when it saves.
+    void setFileName(const QString &strFileName);
+
+    /// The path without links. Of a file that does not exist, only its folder is looked for.
+    [[nodiscard]] static QString resolvedPath(const QString &strFileName);
+
+    /// Whether this path without links, as QFileInfo::canonicalFilePath() or resolvedPath() gives it, was
+    /// that of the document's file when its name was set. Never for an empty one. The disk is not asked.
+    [[nodiscard]] bool isAt(const QString &strResolvedPath) const;
 
     /// Supplied by the concrete document, which owns it; may be null.
     [[nodiscard]] QUndoStack *getUndoStack() const;
@@ -84,6 +90,11 @@ signals:
 protected:
     void setUndoStack(QUndoStack *pUndoStack);
 
+    /// Why save() failed; close() shows it in its box, so that save() need not tell while it is called there.
+    void setSaveError(const QString &strReason) { m_strSaveError = strReason; }
+    [[nodiscard]] QString getSaveError() const { return m_strSaveError; }
+    [[nodiscard]] bool isSavedByClose() const { return m_bSavedByClose; }
+
 private:
     bool saveBeforeClose();
     bool saveTempBeforeClose();
@@ -92,4 +103,7 @@ private:
     QPointer<QUndoStack> m_pUndoStack;
     bool m_bTempDocument = false;
     bool m_bOpenAsBackup = false;
+    QString m_strResolvedPath;
+    QString m_strSaveError;
+    bool m_bSavedByClose = false;
 };

@@ -8,6 +8,7 @@
 #include "stagewriter.h"
 
 #include <document/documentmanager.h>
+#include <document/editormanager.h>
 #include <icore.h>
 #include <iui.h>
 #include <mainwindow.h>
@@ -15,7 +16,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QPointer>
+#include <QPushButton>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -32,12 +35,33 @@ bool inRange(int nValue, int nMax)
     return nValue >= 1 && nValue <= nMax;
 }
 
+// One for all documents, since the system gives a user only about a hundred.
+std::shared_ptr<QFileSystemWatcher> sharedWatcher()
+{
+    static std::weak_ptr<QFileSystemWatcher> s_pShared;
+    auto pWatcher = s_pShared.lock();
+    if (!pWatcher)
+        s_pShared = pWatcher = std::make_shared<QFileSystemWatcher>();
+    return pWatcher;
+}
+
+// The name with the suffix, cut where it would be longer than file systems allow.
+QString withSuffix(QString strName, const QString &strSuffix)
+{
+    constexpr int nMaxBytes = 255;
+    while (QFile::encodeName(strName + strSuffix).size() > nMaxBytes)
+        strName.chop(strName.size() > 1 && strName.back().isLowSurrogate() ? 2 : 1);
+    return strName + strSuffix;
+}
+
 } // namespace
 
 // Model and stack are children: they are still there when the base class announces the end of the document.
 StageDocument::StageDocument()
     : m_pModel(new StageModel(this))
+    , m_pWatcher(sharedWatcher())
 {
+    connect(m_pWatcher.get(), &QFileSystemWatcher::fileChanged, this, &StageDocument::onFileChanged);
     auto *pStack = new QUndoStack(this);
     setUndoStack(pStack);
     connect(pStack, &QUndoStack::cleanChanged, this, [this] { emit modifyChanged(isModified()); });
@@ -47,7 +71,11 @@ StageDocument::StageDocument()
     });
 }
 
-StageDocument::~StageDocument() = default;
+StageDocument::~StageDocument()
+{
+    if (!getFileName().isEmpty())
+        m_pWatcher->removePath(getFileName());
+}
 
 void StageDocument::cleanTempDir()
 {
@@ -101,6 +129,7 @@ bool StageDocument::read(const QString &strAction)
         return false;
     }
     m_pModel->setProject(*result.project);
+    watchFile();
     return true;
 }
 
@@ -119,6 +148,7 @@ bool StageDocument::save(const QString &strFileName)
 {
     const QString strReason = StageWriter::writeFile(m_pModel->project(), strFileName);
     const QString strFile = QDir::toNativeSeparators(strFileName);
+    setSaveError(strReason);
     if (!strReason.isEmpty()) {
         qCWarning(lcStage, "%s: not saved: %s", qUtf8Printable(strFile), qUtf8Printable(strReason));
         emit statusChanged(tr("Could not save %1: %2").arg(strFile, strReason));
@@ -159,7 +189,7 @@ bool StageDocument::saveAs()
 
 bool StageDocument::isOpenElsewhere(const QString &strFileName, const IDocument *pExcept)
 {
-    const QString strPath = QFileInfo(strFileName).canonicalFilePath();
+    const QString strPath = resolvedPath(strFileName);
     const auto &documents = DocumentManager::getDocuments();
     return std::any_of(documents.begin(), documents.end(),
         [&](const IDocument *pDoc) { return pDoc != pExcept && pDoc->isAt(strPath); });
@@ -167,17 +197,62 @@ bool StageDocument::isOpenElsewhere(const QString &strFileName, const IDocument 
 
 bool StageDocument::saveAsOwn(const QString &strFileName)
 {
-    if (!save(strFileName))
+    if (!save(strFileName)) {
+        tellFailure(QDir::toNativeSeparators(strFileName));
         return false;
+    }
     const bool bStackTells = !getUndoStack()->isClean();
     removeBackup();
     setIsTempDocument(false);
     setFileName(strFileName);
+    watchFile();
     getUndoStack()->setClean();
     if (!bStackTells)
         emit modifyChanged(isModified());
     emit titleChanged();
     return true;
+}
+
+// At closing, the box of close() gives the reason. The document may be gone when this returns.
+void StageDocument::tellFailure(const QString &strFile)
+{
+    if (isSavedByClose())
+        return;
+    const QPointer<StageDocument> pThis = this;
+    QMessageBox box(ICore::getMainWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(tr("Could not save %1: %2").arg(strFile, getSaveError()));
+    box.setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
+    box.button(QMessageBox::Save)->setText(tr("Save &As..."));
+    if (IUi::run(&box, QStringLiteral("information_32"), s_title) == QMessageBox::Save && pThis)
+        QMetaObject::invokeMethod(this, &StageDocument::saveElsewhere, Qt::QueuedConnection);
+}
+
+// By the main window, which keeps the recent projects, and therefore once save() has returned.
+void StageDocument::saveElsewhere()
+{
+    IEditor *pEditor = EditorManager::getEditorOfDocument(this);
+    if (!pEditor)
+        return;
+    EditorManager::activateEditor(pEditor);
+    if (EditorManager::activeEditor() == pEditor)
+        ICore::getMainWindow()->fileSaveAs();
+}
+
+void StageDocument::watchFile()
+{
+    if (QFile::exists(getFileName()))
+        m_pWatcher->addPath(getFileName());
+}
+
+// A project whose file went is not saved any more. One that was replaced, as each save does, is not watched.
+void StageDocument::onFileChanged(const QString &strPath)
+{
+    if (strPath != getFileName())
+        return;
+    watchFile();
+    if (!QFile::exists(strPath))
+        getUndoStack()->resetClean();
 }
 
 void StageDocument::submitCommand(QUndoCommand *pCommand)
@@ -190,27 +265,37 @@ bool StageDocument::saveBackup()
 {
     if (!isModified() || (!m_strBackup.isEmpty() && m_nBackupRevision == m_nRevision))
         return false;
-    const QString strFile = backupFileName();
+    const QString strFile = m_strBackup.isEmpty() ? freeBackupName() : m_strBackup;
     const QString strReason = StageWriter::writeFile(m_pModel->project(), strFile);
     if (!strReason.isEmpty()) {
         qCWarning(lcStage, "%s: no backup: %s", qUtf8Printable(strFile), qUtf8Printable(strReason));
+        if (MainWindow *pMainWindow = m_bBackupFailed ? nullptr : ICore::getMainWindow())
+            pMainWindow->showNotification(
+                tr("No backup of %1: %2").arg(QDir::toNativeSeparators(getFileName()), strReason),
+                KPNotificationBar::Warning, QString(), true);
+        m_bBackupFailed = true;
         return false;
     }
+    m_bBackupFailed = false;
     m_strBackup = strFile;
     m_nBackupRevision = m_nRevision;
     return true;
 }
 
-QString StageDocument::backupFileName() const
+// Not that of a file which is there: it may be all that an earlier run left of somebody's work.
+QString StageDocument::freeBackupName() const
 {
-    const QString strBackup = getFileName() + QStringLiteral(".backup");
-    if (!isTempDocument() || !ICore::getMainWindow())
-        return strBackup;
-    return QDir(ICore::getMainWindow()->getDefaultTempPath())
-        .absoluteFilePath(QFileInfo(strBackup).fileName());
+    const QFileInfo file(getFileName());
+    const bool bTemp = isTempDocument() && ICore::getMainWindow();
+    const QDir folder(bTemp ? ICore::getMainWindow()->getDefaultTempPath() : file.absolutePath());
+    const QString strSuffix = QStringLiteral(".backup");
+    QString strName = withSuffix(file.fileName(), strSuffix);
+    for (int i = 2; folder.exists(strName); ++i)
+        strName = withSuffix(file.fileName(), strSuffix + QStringLiteral("-%1").arg(i));
+    return folder.absoluteFilePath(strName);
 }
 
-// Only the one written here: a backup that an earlier run left behind is the author's to keep.
+// Only the one written here.
 void StageDocument::removeBackup()
 {
     if (!m_strBackup.isEmpty() && !QFile::remove(m_strBackup) && QFile::exists(m_strBackup))

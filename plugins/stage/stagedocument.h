@@ -3,6 +3,9 @@
 
 #include <document/idocument.h>
 
+#include <memory>
+
+class QFileSystemWatcher;
 class StageModel;
 
 /// A project in the format "kelpa". It owns its model and its undo stack. GUI thread only.
@@ -17,7 +20,8 @@ public:
 
     [[nodiscard]] StageModel *getModel() const { return m_pModel; }
 
-    /// Whether an open document other than `pExcept` has this file: both would write it.
+    /// Whether an open document other than `pExcept` has this file, or had it until it went: both would write
+    /// it.
     [[nodiscard]] static bool isOpenElsewhere(const QString &strFileName, const IDocument *pExcept);
 
     void cleanTempDir() override;
@@ -30,7 +34,8 @@ public:
     bool close() override;
 
     /// Writes the project to that file, without making it the document's own. On failure the reason goes to
-    /// the log and out through statusChanged(), and the file is as it was.
+    /// the log and out through statusChanged(), and the file is as it was. The two below also show it in a
+    /// box that offers to save elsewhere, but for save() while the document closes.
     bool save(const QString &strFileName) override;
     bool save() override;
 
@@ -43,17 +48,25 @@ public:
     void submitCommand(QUndoCommand *pCommand) override;
 
     /// Writes "<file>.backup", or a file in the main window's temporary folder for a temporary document,
-    /// when something changed since the last save and the last backup.
+    /// when something changed since the last save and the last backup. A file of that name which this
+    /// document did not write stays, and the backup gets a number at its end. The first of several failures
+    /// is told in the notification bar.
     bool saveBackup() override;
 
 private:
     bool read(const QString &strAction);
     bool saveAsOwn(const QString &strFileName);
+    void tellFailure(const QString &strFile);
+    void saveElsewhere();
+    void watchFile();
+    void onFileChanged(const QString &strPath);
     void removeBackup();
-    [[nodiscard]] QString backupFileName() const;
+    [[nodiscard]] QString freeBackupName() const;
 
     StageModel *const m_pModel;
     int m_nRevision = 0;
     int m_nBackupRevision = 0;
     QString m_strBackup; ///< the backup this document wrote; empty without one
+    bool m_bBackupFailed = false;
+    std::shared_ptr<QFileSystemWatcher> m_pWatcher;
 };

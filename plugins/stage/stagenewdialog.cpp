@@ -21,8 +21,23 @@
 #include <QStandardPaths>
 
 namespace {
+
 const QString s_suffix = QStringLiteral(".kelpa");
+
+// A file that neither exists nor is open, in a folder that is there.
+QString freePath(const QString &strName)
+{
+    QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    if (!folder.exists())
+        folder = QDir::home();
+    QString strPath = folder.absoluteFilePath(strName + s_suffix);
+    for (int i = 2; QFileInfo::exists(strPath) || StageDocument::isOpenElsewhere(strPath, nullptr); ++i)
+        strPath =
+            folder.absoluteFilePath(QStringLiteral("%1-%2%3").arg(strName, QString::number(i), s_suffix));
+    return strPath;
 }
+
+} // namespace
 
 StageNewDialog::StageNewDialog(QWidget *pParent)
     : ICreateDocumentDlg(pParent)
@@ -59,8 +74,7 @@ void StageNewDialog::addPathRow(QFormLayout *pLayout)
     m_pPath->setObjectName(QStringLiteral("path"));
     m_pPath->setAccessibleName(tr("Project file"));
     m_pPath->setMinimumWidth(DisplayScale::proportional(DisplayScale::logicalDpi(this), 360));
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    m_pPath->setText(QDir::toNativeSeparators(folder.absoluteFilePath(tr("untitled") + s_suffix)));
+    m_pPath->setText(QDir::toNativeSeparators(freePath(tr("untitled"))));
     pLabel->setBuddy(m_pPath);
     auto *pBrowse = new QPushButton(tr("&Browse..."), this);
     pBrowse->setAccessibleName(tr("Browse for the project file"));

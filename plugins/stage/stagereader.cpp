@@ -13,6 +13,7 @@
 #include <QSet>
 
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 using namespace StageFormat;
@@ -290,23 +291,6 @@ QString Parser::source(QJsonObject &object, const QString &strPath)
     return QDir::cleanPath(m_folder.absoluteFilePath(strSource));
 }
 
-// Counted before parsing, since a parsed value takes many times the bytes that it has in the file.
-int countValues(const QByteArray &text)
-{
-    int nCount = 1;
-    bool bInString = false;
-    for (int i = 0; i < static_cast<int>(text.size()); ++i) {
-        const char c = text.at(i);
-        if (bInString && c == '\\')
-            ++i;
-        else if (c == '"')
-            bInString = !bInString;
-        else if (!bInString && (c == ',' || c == '[' || c == '{'))
-            ++nCount;
-    }
-    return nCount;
-}
-
 QString placeOf(const QByteArray &text, int nOffset)
 {
     const QByteArray before = text.left(qMax(0, nOffset));
@@ -323,10 +307,43 @@ StageReader::Result failure(const QString &strReason)
 
 } // namespace
 
+StageReader::Extent StageReader::extentOf(const QByteArray &text)
+{
+    Extent extent;
+    qint64 nLevel = 0;
+    bool bInString = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char c = text.at(i);
+        if (bInString && c == '\\') {
+            ++i;
+        } else if (c == '"') {
+            bInString = !bInString;
+        } else if (!bInString && std::strchr(",[{]}", c)) {
+            const bool bCloses = c == ']' || c == '}';
+            nLevel += c == ',' ? 0 : (bCloses ? -1 : 1);
+            extent.nValues += bCloses ? 0 : 1;
+            extent.nIndentation += 2 + 4 * nLevel; // a new line, and a blank after a colon
+        }
+    }
+    return extent;
+}
+
+// The values are counted before parsing, since a parsed one takes many times the bytes that it has in the
+// file.
+QString StageReader::excess(const QByteArray &text)
+{
+    if (text.size() > nMaxFileBytes)
+        return Parser::tr("the file is larger than %1").arg(QLocale().formattedDataSize(nMaxFileBytes));
+    if (extentOf(text).nValues > nMaxValues)
+        return Parser::tr("the file holds more than %1 values").arg(nMaxValues);
+    return {};
+}
+
 StageReader::Result StageReader::fromJson(const QByteArray &text, const QString &strFolder)
 {
-    if (countValues(text) > nMaxValues)
-        return failure(Parser::tr("the file holds more than %1 values").arg(nMaxValues));
+    const QString strExcess = excess(text);
+    if (!strExcess.isEmpty())
+        return failure(strExcess);
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (document.isNull())
@@ -351,12 +368,8 @@ StageReader::Result StageReader::readFile(const QString &strFileName)
     QFile file(strFileName);
     if (!file.open(QIODevice::ReadOnly))
         return failure(file.errorString());
-    // The size is asked for first and the reading is bounded too: some files are longer than they say.
-    const QByteArray text = file.size() > nMaxFileBytes ? QByteArray() : file.read(nMaxFileBytes + 1);
-    if (file.size() > nMaxFileBytes || text.size() > nMaxFileBytes) {
-        return failure(
-            Parser::tr("the file is larger than %1").arg(QLocale().formattedDataSize(nMaxFileBytes)));
-    }
+    // One byte more than there may be tells that it is too large: some files are longer than they say.
+    const QByteArray text = file.read(nMaxFileBytes + 1);
     if (file.error() != QFileDevice::NoError)
         return failure(file.errorString());
     return fromJson(text, info.absolutePath());

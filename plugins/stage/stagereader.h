@@ -15,6 +15,17 @@ struct Result
     QString error;
 };
 
+/// The JSON values in a text without blanks, and the bytes that indentation would add to it, or some more.
+struct Extent
+{
+    int nValues = 1;
+    qint64 nIndentation = 1;
+};
+[[nodiscard]] Extent extentOf(const QByteArray &text);
+
+/// Why a text is too large for fromJson(); empty when it is not.
+[[nodiscard]] QString excess(const QByteArray &text);
+
 /// Paths of images are taken as relative to `strFolder`.
 [[nodiscard]] Result fromJson(const QByteArray &text, const QString &strFolder);
 

@@ -2,12 +2,14 @@
 #include "stagewriter.h"
 
 #include "stageformat.h"
+#include "stagereader.h"
+
+#include <filewriter.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 namespace {
 
@@ -71,20 +73,15 @@ QByteArray StageWriter::toJson(const StageProject &project, const QString &strFo
     object[QLatin1String("version")] = StageFormat::nVersion;
     object[QLatin1String("stage")] = stageObject(project);
     object[QLatin1String("scenes")] = scenes;
-    return QJsonDocument(object).toJson();
+    const QJsonDocument document(object);
+    const QByteArray compact = document.toJson(QJsonDocument::Compact);
+    const qint64 nSize = compact.size() + StageReader::extentOf(compact).nIndentation;
+    return nSize > StageFormat::nMaxFileBytes ? compact : document.toJson();
 }
 
-// A disk that fills up may show as a short count only, without an error of the file.
 QString StageWriter::writeFile(const StageProject &project, const QString &strFileName)
 {
-    QSaveFile file(strFileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
     const QByteArray text = toJson(project, QFileInfo(strFileName).absolutePath());
-    if (file.write(text) != text.size() || !file.flush()) {
-        const QString strReason = file.errorString();
-        file.cancelWriting();
-        return strReason;
-    }
-    return file.commit() ? QString() : file.errorString();
+    const QString strExcess = StageReader::excess(text);
+    return strExcess.isEmpty() ? FileWriter::write(strFileName, text) : strExcess;
 }

@@ -9,12 +9,11 @@ struct StageProject;
 /// Writes project files.
 namespace StageWriter {
 
-/// The text of a project file. Images under and beside `strFolder`, where the file will lie, become relative
-/// to it.
+/// The text of a project file, without indentation when that would make it larger than a file may be. Images
+/// under and beside `strFolder`, where the file will lie, become relative to it.
 [[nodiscard]] QByteArray toJson(const StageProject &project, const QString &strFolder);
 
-/// Replaces the file as a whole or leaves it as it was; an existing file keeps its permissions. Empty on
-/// success, otherwise the reason.
+/// As FileWriter::write(). What the reader would refuse as too large is not written.
 [[nodiscard]] QString writeFile(const StageProject &project, const QString &strFileName);
 
 } // namespace StageWriter

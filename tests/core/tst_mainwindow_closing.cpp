@@ -48,7 +48,7 @@ struct Outcome
 
 QString pathOf(int nProject)
 {
-    return QStringLiteral("/p/%1.kelpa").arg(nProject);
+    return QStringLiteral("/p/%1.final.kelpa").arg(nProject);
 }
 
 QString keptPathOf(int nProject)
@@ -61,11 +61,11 @@ bool expectOne(int nProject, const Case &project, QStringList &calls, Outcome &o
 {
     calls.append("close");
     if (project.answer != QMessageBox::NoButton)
-        outcome.boxes.append(QStringLiteral("Save changes made to %1?").arg(nProject));
+        outcome.boxes.append(QStringLiteral("Save changes made to %1.final?").arg(nProject));
     if (project.answer == QMessageBox::Yes)
         calls.append(project.bTemporary ? "saveAs" : "save");
     if (project.answer == QMessageBox::Yes && !project.bSaves && !project.bTemporary)
-        outcome.boxes.append(QStringLiteral("Could not save project %1.").arg(nProject));
+        outcome.boxes.append(QStringLiteral("Could not save project %1.final.").arg(nProject));
     if (!project.bCloses)
         return false;
     if (project.bTemporary)
@@ -131,11 +131,11 @@ private slots:
 
     void aDocumentMayGoInsideItsOwnClosing_data()
     {
-        QTest::addColumn<int>("moment");
-        QTest::newRow("when it is about to close") << 0;
-        QTest::newRow("when its closing is requested") << 1;
-        QTest::newRow("when its editor is about to be deactivated") << 2;
-        QTest::newRow("when its editor was deactivated") << 3;
+        const auto row = columns<int>("moment");
+        row("when it is about to close", 0);
+        row("when its closing is requested", 1);
+        row("when its editor is about to be deactivated", 2);
+        row("when its editor was deactivated", 3);
     }
 
     void aDocumentMayGoInsideItsOwnClosing()
@@ -170,12 +170,11 @@ private slots:
 
     void aDocumentMayGoWhileItIsOpened_data()
     {
-        QTest::addColumn<bool>("create");
-        QTest::addColumn<bool>("activated");
-        QTest::newRow("opened, when it says so") << false << false;
-        QTest::newRow("opened, when its editor becomes active") << false << true;
-        QTest::newRow("new, when it says so") << true << false;
-        QTest::newRow("new, when its editor becomes active") << true << true;
+        const auto row = columns<bool, bool>("create", "activated");
+        row("opened, when it says so", false, false);
+        row("opened, when its editor becomes active", false, true);
+        row("new, when it says so", true, false);
+        row("new, when its editor becomes active", true, true);
     }
 
     void aDocumentMayGoWhileItIsOpened()
@@ -299,6 +298,12 @@ private:
         QCOMPARE(m_pWindow->isVisible(), !outcome.bClosed);
         QCOMPARE(m_pFactory->deleted, outcome.deleted);
         QCOMPARE(boxes.texts(), outcome.boxes);
+        for (const auto &box : boxes.boxes) {
+            QVERIFY(box.title == "Kelpa Studio" && box.pParent == m_pWindow.get());
+            if (box.text.startsWith("Save"))
+                QCOMPARE(box.buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            QCOMPARE(box.defaultButton, box.text.startsWith("Save") ? QMessageBox::Yes : QMessageBox::Ok);
+        }
         QCOMPARE(calls, outcome.calls);
         QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles(), outcome.recent);
         QCOMPARE(EditorManager::getEditors().size(), 3 - outcome.deleted.size());

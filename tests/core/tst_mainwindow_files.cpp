@@ -74,17 +74,11 @@ private slots:
 
     void creatingThatComesToNothing_data()
     {
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("content");
-        QTest::addColumn<QStringList>("recent");
-        QTest::addColumn<bool>("leftAlone");
-        QTest::newRow("cancelled dialog")
-            << int(QDialog::Rejected) << "/n.kelpa" << true << QStringList() << false;
-        QTest::newRow("no path keeps document and dialog")
-            << int(QDialog::Accepted) << "" << true << QStringList() << true;
-        QTest::newRow("content that fails")
-            << int(QDialog::Accepted) << "/n.kelpa" << false << QStringList("/n.kelpa") << false;
+        const auto row = columns<int, QString, bool, QStringList, bool>(
+            "result", "path", "content", "recent", "leftAlone");
+        row("cancelled dialog", QDialog::Rejected, "/n.kelpa", true, {}, false);
+        row("no path keeps document and dialog", QDialog::Accepted, "", true, {}, true);
+        row("content that fails", QDialog::Accepted, "/n.kelpa", false, {"/n.kelpa"}, false);
     }
 
     void creatingThatComesToNothing()
@@ -115,6 +109,38 @@ private slots:
         QCOMPARE(EditorManager::getEditors().size(), 2);
         QCOMPARE(EditorManager::activeEditor(), EditorManager::getEditors().first());
         QCOMPARE(recent().first(), m_pProgram->filePath("b.kelpa"));
+
+        // The link leads to another file now: the open project is still the one that was opened.
+        QVERIFY(QFile::remove(strLink) && QFile::link(m_pProgram->write("c.kelpa"), strLink));
+        QVERIFY(m_pWindow->loadFile(strLink));
+        QVERIFY(QFile::remove(strLink) && QFile::link(strPath, strLink));
+        QVERIFY(m_pWindow->loadFile(m_pProgram->filePath("c.kelpa")));
+        QCOMPARE(EditorManager::getEditors().size(), 3);
+        QCOMPARE(EditorManager::activeEditor(), EditorManager::getEditors().last());
+    }
+
+    void aFactoryThatMakesNothing_data()
+    {
+        const auto row = columns<QString, int, int>("missing", "boxes", "opened");
+        row("no document", "document", 1, 0);
+        row("no editor", "editor", 2, 0);
+        row("no dialog", "dialog", 0, 1);
+    }
+
+    void aFactoryThatMakesNothing()
+    {
+        QFETCH(int, opened);
+        QFETCH(QString, missing);
+        m_pFactory->missing = missing;
+        m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
+        const BoxAnswers boxes({QMessageBox::Ok});
+        m_pWindow->fileNew();
+        QCOMPARE(int(m_pWindow->loadFile(m_pProgram->write("a.kelpa"))), opened);
+        QTEST(int(boxes.boxes.size()), "boxes");
+        QCOMPARE(EditorManager::getEditors().size(), opened);
+        QCOMPARE(DocumentManager::getDocuments().size(), opened);
+        QCOMPARE(m_pFactory->documents.count(nullptr), m_pFactory->documents.size() - opened);
+        QVERIFY(!m_pFactory->pDialog);
     }
 
     void fileThatCannotBeOpened()
@@ -134,6 +160,7 @@ private slots:
         QVERIFY(!m_pWindow->loadFile(m_pProgram->write("a.txt")));
         QCOMPARE(boxes.texts(), QStringList({"Cannot open this file type."}));
         QCOMPARE(boxes.boxes.first().title, "Kelpa Studio");
+        QCOMPARE(boxes.boxes.first().informative.remove(QChar(0x200B)), m_pProgram->filePath("a.txt"));
         QVERIFY(m_pFactory->documents.isEmpty());
     }
 
@@ -149,9 +176,9 @@ private slots:
 
     void closingOneDocument_data()
     {
-        QTest::addColumn<bool>("later");
-        QTest::newRow("with its editor at once") << false;
-        QTest::newRow("with its editor later") << true;
+        const auto row = columns<bool>("later");
+        row("with its editor at once", false);
+        row("with its editor later", true);
     }
 
     void closingOneDocument()
@@ -179,10 +206,10 @@ private slots:
         QVERIFY(working.open(QIODevice::WriteOnly));
         QSignalSpy saving(ICore::getInstance(), &ICore::aboutToSaveSettings);
 
+        EditorManager::activateEditor(EditorManager::getEditors().first());
         QVERIFY(!m_pWindow->close());
+        QCOMPARE(EditorManager::activeEditor()->getDocument(), pMiddle);
         QCOMPARE(saving.count(), 1);
-        QCOMPARE(m_pFactory->deleted, QStringList(m_pProgram->filePath("c.kelpa")));
-        QVERIFY(m_pFactory->documents.first()->calls.isEmpty());
         QVERIFY(working.exists());
 
         pMiddle->closeAnswer = true;
@@ -207,42 +234,23 @@ private slots:
         QCOMPARE(bare.calls, QStringList({"close"}));
     }
 
-    void savingCommands()
+    // The walk through the stage saves everything else.
+    void savingWithoutADocumentDoesNothing()
     {
         m_pWindow->fileSave();
-        m_pWindow->fileClose();
-        FakeDocument *pDoc = load("a.kelpa");
-        m_pWindow->fileSave();
-        QCOMPARE(pDoc->calls, QStringList({"save"}));
-
-        const QString strTemp = pDoc->getFileName();
-        pDoc->setIsTempDocument(true);
-        pDoc->bSaveAsSucceeds = false;
-        m_pWindow->fileSave();
-        QCOMPARE(recent(), QStringList({strTemp}));
-        pDoc->bSaveAsSucceeds = true;
-        pDoc->strSaveAsName = "/p/kept.kelpa";
-        m_pWindow->fileSave();
-        QCOMPARE(recent(), QStringList({"/p/kept.kelpa"}));
-        pDoc->strSaveAsName = "/p/copy.kelpa";
         m_pWindow->fileSaveAs();
-        QCOMPARE(recent(), QStringList({"/p/copy.kelpa", "/p/kept.kelpa"}));
         m_pWindow->fileClose();
-        QVERIFY(m_pFactory->documents.first().isNull());
+        QVERIFY(recent().isEmpty());
     }
 
     void drops_data()
     {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<bool>("opens");
-        QTest::addColumn<bool>("consumed");
-        QTest::addColumn<bool>("accepted");
-        QTest::addColumn<int>("opened");
-        QTest::newRow("only the first of two")
-            << QStringList {"a.KELPA", "b.kelpa"} << true << true << true << 1;
-        QTest::newRow("one that cannot be opened") << QStringList {"a.kelpa"} << false << true << false << 0;
-        QTest::newRow("no project") << QStringList {"a.png"} << true << true << false << 0;
-        QTest::newRow("nothing") << QStringList {} << true << false << false << 0;
+        const auto row =
+            columns<QStringList, bool, bool, bool, int>("files", "opens", "consumed", "accepted", "opened");
+        row("only the first of two", {"a.KELPA", "b.kelpa"}, true, true, true, 1);
+        row("one that cannot be opened", {"a.kelpa"}, false, true, false, 0);
+        row("no project", {"a.png"}, true, true, false, 0);
+        row("nothing", {}, true, false, false, 0);
     }
 
     void drops()

@@ -83,10 +83,12 @@ public:
     {
         QString title;
         QString text;
+        QString informative;
         QMessageBox::StandardButtons buttons;
         QMessageBox::StandardButton defaultButton;
         QSize iconSize;
         QWidget *pParent;
+        QString parentTitle;
     };
     QList<Box> boxes;
 
@@ -105,8 +107,9 @@ private:
         if (!pBox || pBox == m_pAnswered || !pBox->isVisible())
             return;
         m_pAnswered = pBox;
-        boxes.append({pBox->windowTitle(), pBox->text(), pBox->standardButtons(),
-            pBox->standardButton(pBox->defaultButton()), pBox->iconPixmap().size(), pBox->parentWidget()});
+        boxes.append({pBox->windowTitle(), pBox->text(), pBox->informativeText(), pBox->standardButtons(),
+            pBox->standardButton(pBox->defaultButton()), pBox->iconPixmap().size(), pBox->parentWidget(),
+            pBox->parentWidget() ? pBox->parentWidget()->windowTitle() : QString()});
         const auto button = m_answers.isEmpty() ? QMessageBox::NoButton : m_answers.takeFirst();
         if (QAbstractButton *pButton = pBox->button(button))
             pButton->click();
@@ -237,6 +240,8 @@ public:
 
     IDocument *createDocument() override
     {
+        if (missing == "document")
+            return nullptr;
         auto *pDocument = new FakeDocument;
         documents.append(pDocument);
         pDocument->pDeleted = &deleted;
@@ -246,6 +251,8 @@ public:
     }
     IEditor *createEditor() override
     {
+        if (missing == "editor")
+            return nullptr;
         auto *pEditor = new IEditor;
         editors.append(pEditor);
         if (onEditor)
@@ -256,7 +263,7 @@ public:
     IOptionsDlg *createOptionsDialog() override { return nullptr; }
     ICreateDocumentDlg *createNewDocumentDialog() override
     {
-        pDialog = new FakeNewDialog(strNewPath, nDialogResult);
+        pDialog = missing == "dialog" ? nullptr : new FakeNewDialog(strNewPath, nDialogResult);
         return pDialog;
     }
     QString getOpenFileName() override { return strOpenName; }
@@ -267,6 +274,7 @@ public:
     std::function<void(FakeDocument *)> prepare;
     std::function<void(IEditor *)> onEditor;
     QPointer<ICreateDocumentDlg> pDialog;
+    QString missing; ///< what it returns null for: "document", "editor" or "dialog"
     QString strNewPath;
     QString strOpenName;
     int nDialogResult = QDialog::Accepted;

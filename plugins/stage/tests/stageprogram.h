@@ -25,6 +25,31 @@ inline QByteArray projectText(int nElements)
         + elements.join(',') + R"(]}, {"name": "Two", "elements": []}]})";
 }
 
+/// Gives each dialog for a file this path while it lives; an empty one cancels.
+class FileAnswer
+{
+public:
+    explicit FileAnswer(const QString *pPath)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [=] { answer(*pPath); });
+        m_timer.start(1);
+    }
+
+private:
+    static void answer(const QString &strPath)
+    {
+        auto *pDialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!pDialog || !pDialog->isVisible())
+            return;
+        if (strPath.isEmpty())
+            return pDialog->reject();
+        pDialog->findChild<QLineEdit *>("fileNameEdit")->setText(strPath);
+        QMetaObject::invokeMethod(pDialog, "accept");
+    }
+
+    QTimer m_timer;
+};
+
 /// The main window with the stage in it, as the program has it.
 template <typename Factory>
 struct StageProgramWith : TestProgram

@@ -5,12 +5,34 @@
 #include "stagemodel.h"
 #include "stagereader.h"
 
+#include <actionmanager/shortcuts.h>
 #include <support/coretest.h>
 
-#include <csignal>
-#include <sys/resource.h>
-#include <sys/wait.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+// The disk of this test: these two stand in for those of the system library.
+static qint64 s_nFree = -1; // bytes that files may still grow; -1: as many as they like
+static int s_nSyncError = 0;
+
+extern "C" Q_DECL_EXPORT ssize_t write(int nFile, const void *pData, size_t nSize)
+{
+    struct stat info = {};
+    if (s_nFree >= 0 && ::fstat(nFile, &info) == 0 && S_ISREG(info.st_mode)) {
+        nSize = qMin(nSize, size_t(s_nFree));
+        s_nFree -= qint64(nSize);
+        errno = ENOSPC;
+        return nSize == 0 ? -1 : ::syscall(SYS_write, nFile, pData, nSize);
+    }
+    return ::syscall(SYS_write, nFile, pData, nSize);
+}
+
+extern "C" Q_DECL_EXPORT int fdatasync(int nFile)
+{
+    errno = s_nSyncError;
+    return s_nSyncError ? -1 : int(::syscall(SYS_fdatasync, nFile));
+}
 
 namespace {
 
@@ -50,17 +72,6 @@ void move(StageDocument &document, const QList<int> &elements, const QPointF &by
 void step(StageDocument &document, int nIndex, double dx)
 {
     move(document, {nIndex}, {dx, 0}, Kind::Step);
-}
-
-// Runs the body in a child process; its result is the exit code.
-int inChild(const std::function<int()> &body)
-{
-    const pid_t pid = ::fork();
-    if (pid == 0)
-        ::_exit(body());
-    int nStatus = 0;
-    ::waitpid(pid, &nStatus, 0);
-    return WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1;
 }
 
 } // namespace
@@ -169,36 +180,69 @@ private slots:
 
     void aSaveThatFailsSaysWhyAndLeavesTheFile_data()
     {
-        const auto row = columns<bool>("fullDisk");
-        row("in a folder that is not ours", false);
-        row("on a full disk", true);
+        const auto row = columns<uint, int, int, QString>("user", "bytesFree", "syncError", "reason");
+        row("in a folder that is not ours", 65534, -1, 0, "Permission denied");
+        row("on a full disk", 0, 0, 0, "No space left on device");
+        row("on a disk that fills up", 0, 100, 0, "No space left on device");
+        row("on a disk that is full as the last turns out", 0, -1, ENOSPC, "No space left on device");
+        row("on a disk that breaks", 0, -1, EIO, "Input/output error");
     }
     void aSaveThatFailsSaysWhyAndLeavesTheFile()
     {
-        QFETCH(bool, fullDisk);
-        if (::getuid() != 0 && !fullDisk)
+        QFETCH(uint, user);
+        QFETCH(int, bytesFree);
+        QFETCH(int, syncError);
+        QFETCH(QString, reason);
+        if (::geteuid() != 0 && user != 0)
             QSKIP("Another user's folder needs root.");
         TestProgram program;
         const QString strFile = program.write("kept.kelpa", "as it was");
-        const int nResult = inChild([&] {
-            QString strStatus;
-            const auto pDocument = newDocument(strFile);
-            connect(
-                pDocument.get(), &IDocument::statusChanged, this, [&](const QString &s) { strStatus = s; });
-            if (fullDisk) {
-                const rlimit limit {100, 100};
-                ::signal(SIGXFSZ, SIG_IGN);
-                ::setrlimit(RLIMIT_FSIZE, &limit);
-            } else if (::setuid(65534) != 0) {
-                return 2;
-            }
-            if (pDocument->save() || !pDocument->isModified())
-                return 3;
-            return strStatus.contains("kept.kelpa: ") ? 0 : 4;
-        });
-        QCOMPARE(nResult, 0);
+        const auto pDocument = newDocument(strFile);
+        const BoxAnswers answers({QMessageBox::Cancel});
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("kept.kelpa: not saved: " + reason));
+        s_nFree = bytesFree;
+        s_nSyncError = syncError;
+        const bool bSaved = (user != 0 && ::seteuid(user) != 0) || pDocument->save();
+        QString strError;
+        const bool bExported = Shortcuts::exportTo(strFile, strError); // written the same way
+        s_nFree = -1;
+        s_nSyncError = 0;
+        QVERIFY(user == 0 || ::seteuid(0) == 0);
+        QVERIFY(!bSaved && pDocument->isModified() && !bExported && strError.endsWith(reason));
+        QCOMPARE(answers.texts().join('\n').remove(QChar(0x200B)),
+            QString("Could not save %1: %2").arg(strFile, reason));
         QCOMPARE(contentOf(strFile), QByteArray("as it was"));
-        QCOMPARE(QDir(program.folder.path()).entryList({"kept*"}, QDir::Files).size(), 1);
+        QCOMPARE(entries(program).size(), 1);
+    }
+
+    void theLongestNamesAreSavedAndBackedUp()
+    {
+        for (const int nBytes : {241, 248, 249, 255}) {
+            const TestProgram program;
+            const QString strName =
+                QString((nBytes - 6) / 2, QChar(0xE4)) + QString(nBytes % 2, 'n') + ".kelpa";
+            const auto pDocument = newDocument(program.folder.filePath(strName));
+            QVERIFY(pDocument->save());
+            step(*pDocument, 0, 5);
+            QVERIFY(pDocument->saveBackup());
+            QCOMPARE(entries(program).size(), 2);
+        }
+    }
+
+    void aProjectWhoseFileGoesIsNotSavedAnyMore()
+    {
+        TestProgram program;
+        const DocumentManager manager;
+        const auto pDocument = newDocument(program.filePath("a.kelpa"));
+        DocumentManager::addDocument(pDocument.get());
+        for (int i = 0; i < 2; ++i) { // a save puts another file in the place of the one before
+            QVERIFY(pDocument->save());
+            QCoreApplication::processEvents();
+            QVERIFY(!pDocument->isModified());
+        }
+        QVERIFY(QFile::remove(pDocument->getFileName()));
+        QTRY_VERIFY(pDocument->isModified());
+        QVERIFY(StageDocument::isOpenElsewhere(program.filePath("./a.kelpa"), nullptr));
     }
 
     void backupsAreTakenWhenDueAndGoWithASave()
@@ -220,21 +264,29 @@ private slots:
         QVERIFY(!QFile::exists(strBackup));
     }
 
-    void closingWithoutSavingRemovesOnlyTheOwnBackup()
+    void aBackupOfAnEarlierRunStaysAsItWas()
     {
         TestProgram program;
+        const QString strOld = program.write("a.kelpa.backup", "of a crash");
         const auto pDocument = newDocument(program.filePath("a.kelpa"));
-        const QString strOther = program.write("b.kelpa.backup", "of a crash");
-        const auto pOther = newDocument(program.filePath("b.kelpa"));
-        QVERIFY(pDocument->saveBackup());
-        const BoxAnswers answers({QMessageBox::No, QMessageBox::No});
+        for (int i = 1; i <= 2; ++i) {
+            QVERIFY(pDocument->saveBackup());
+            QCOMPARE(entries(program).size(), 2);
+            step(*pDocument, 0, 5);
+        }
+        const BoxAnswers answers({QMessageBox::No});
         QVERIFY(pDocument->close());
-        QVERIFY(pOther->close());
-        QVERIFY(!QFile::exists(program.filePath("a.kelpa.backup")));
-        QCOMPARE(contentOf(strOther), QByteArray("of a crash"));
+        QCOMPARE(entries(program), QStringList({"a.kelpa.backup"}));
+        QCOMPARE(contentOf(strOld), QByteArray("of a crash"));
     }
 
 private:
+    // Also hidden ones.
+    static QStringList entries(const TestProgram &program)
+    {
+        return QDir(program.folder.path()).entryList({"*kelpa*", "*.backup"}, QDir::Files | QDir::Hidden);
+    }
+
     // Half of the edits take the elements of the edit before, so that steps have something to merge with.
     void randomEdit(StageDocument &document, QRandomGenerator &random)
     {

@@ -4,6 +4,8 @@
 #include "stagemodel.h"
 #include "stageprogram.h"
 
+#include <irecentfilesmanager.h>
+
 class tst_StageEditor : public QObject
 {
     Q_OBJECT
@@ -72,6 +74,34 @@ private slots:
             delete pOther;
             delete pOtherDocument;
         }
+    }
+
+    void aProjectThatCannotBeSavedLeadsToAnotherPlace()
+    {
+        const QString strFolder = m_pProgram->filePath("away");
+        const QString strOld = strFolder + "/two.kelpa";
+        const QString strNew = m_pProgram->filePath("new.kelpa");
+        QVERIFY(QDir().mkdir(strFolder));
+        m_pEditor = m_pProgram->open("away/two.kelpa");
+        m_pEditor->getView()->addElement({});
+        m_pProgram->open("three.kelpa");
+        QVERIFY(QDir(strFolder).removeRecursively());
+
+        QVERIFY(!document()->saveBackup());
+        QVERIFY(m_pProgram->window->getNotificationBar()->text().contains(strOld));
+        const BoxAnswers answers({QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Save});
+        QVERIFY(!m_pProgram->window->close());
+        QCOMPARE(answers.boxes.size(), 2);
+        QVERIFY(answers.boxes.first().parentTitle.startsWith(strOld));
+        QCOMPARE(answers.boxes.last().text, "Could not save project two.");
+        QCOMPARE(answers.boxes.last().informative, "No such file or directory");
+
+        const FileAnswer place(&strNew);
+        m_pProgram->command("File.Save")->trigger();
+        QVERIFY(answers.boxes.last().text.contains("two.kelpa: No such file or directory"));
+        QTRY_COMPARE(document()->getFileName(), strNew);
+        QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles().first(), strNew);
+        QVERIFY(!document()->isModified());
     }
 
     void keysWorkOnTheElements()

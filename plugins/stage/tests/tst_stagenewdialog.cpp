@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "stagedocument.h"
 #include "stagenewdialog.h"
 
 #include <support/coretest.h>
@@ -58,6 +59,22 @@ private slots:
         if (!problem.isEmpty()) {
             dialog.accept(); // as the Enter key might
             QCOMPARE(dialog.result(), 0);
+        }
+    }
+
+    void theFirstOfferIsAFileThatCanBeMade()
+    {
+        const TestProgram program;
+        qputenv("HOME", program.folder.path().toLocal8Bit());
+        const DocumentManager manager;
+        StageDocument open;
+        DocumentManager::addDocument(&open);
+        for (const char *pName : {"untitled.kelpa", "untitled-2.kelpa", "untitled-3.kelpa"}) {
+            Dialog dialog;
+            QVERIFY2(dialog.mayAccept(), qPrintable(dialog.problem()));
+            QCOMPARE(dialog.getFilePath(), program.filePath(pName));
+            open.setFileName(dialog.getFilePath());
+            program.write(pName);
         }
     }
 

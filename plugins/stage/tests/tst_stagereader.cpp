@@ -24,7 +24,7 @@ const QByteArray s_project = R"({
   ]}]
 })";
 
-QByteArray with(const char *pOld, const char *pNew)
+QByteArray with(const char *pOld, const QByteArray &pNew)
 {
     QByteArray text = s_project;
     return text.replace(pOld, pNew);
@@ -165,6 +165,29 @@ private slots:
             for (auto it = element.begin(); it != element.end(); ++it)
                 QCOMPARE(sceneAfter[u"elements"][i].toObject().value(it.key()), it.value());
         }
+    }
+
+    // Every level of indentation costs four bytes a line.
+    void whatWasReadCanBeSavedAndReadAgain()
+    {
+        const QTemporaryDir folder;
+        const QByteArray deep =
+            QByteArray(500, '[') + QByteArray("1,").repeated(100'000) + '1' + QByteArray(500, ']');
+        auto project = *StageReader::fromJson(
+            with("\"version\": 1,", "\"version\": 1, \"deep\": " + deep + ','), s_folder)
+                            .project;
+        const QString strFile = folder.filePath("a.kelpa");
+        QCOMPARE(StageWriter::writeFile(project, strFile), QString());
+        QVERIFY(StageReader::readFile(strFile).project);
+
+        QJsonArray values;
+        for (int i = 0; i <= 2'000'000; ++i)
+            values.append(i);
+        project.unknown["many"] = values;
+        QCOMPARE(StageWriter::writeFile(project, strFile), "the file holds more than 2000000 values");
+        project.unknown["many"] = QString(64 * 1024 * 1024, 'x');
+        QVERIFY(StageWriter::writeFile(project, strFile).startsWith("the file is larger than 64"));
+        QVERIFY(StageReader::readFile(strFile).project);
     }
 
     void imagesFollowAProjectThatIsSavedElsewhere()

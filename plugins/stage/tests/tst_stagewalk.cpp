@@ -65,6 +65,8 @@ private:
         factory.nWidth = how == Impossible ? 0 : 1;
         if (how == Impossible)
             expect(QString("Could not create project %1.\n").arg(strPath), QMessageBox::Ok);
+        if (how == Unwritable)
+            expect(QString("Could not save %1: ").arg(strPath), QMessageBox::Cancel);
         act([&] {
             const FolderGone gone(m_strFolder, how == Unwritable);
             m_program.command("File.New")->trigger();
@@ -123,6 +125,8 @@ private:
             return saveAsBy("File.Save");
         const bool bFails = pick(4) == 0;
         say("save", {QString::number(bFails)});
+        if (bFails && pDocument && pDocument->canSave())
+            expect(QString("Could not save %1: ").arg(pDocument->path), QMessageBox::Cancel);
         act([&] {
             const FolderGone gone(m_strFolder, bFails);
             m_program.command("File.Save")->trigger();
@@ -159,9 +163,11 @@ private:
         m_bChoiceFails = nHow <= 1;
         if (m_model.disk.contains(m_strChosen))
             expect(QFileInfo(m_strChosen).fileName() + " already exists.", QMessageBox::Yes);
-        if (m_model.disk.contains(m_strChosen) && m_model.isOpenElsewhere(m_strChosen, document)) {
+        if (m_model.isOpenElsewhere(m_strChosen, document)) {
             expect(m_strChosen + " is open. Close it first.", QMessageBox::Ok);
             m_bChoiceFails = true;
+        } else if (nHow == 1) {
+            expect(QString("Could not save %1: ").arg(m_strChosen), QMessageBox::Cancel);
         }
     }
 
@@ -303,12 +309,10 @@ private:
         const QString strPath = anyPath();
         const int nElements = pick(4);
         say("disk", {strPath, QString::number(nElements)});
-        if (nElements == 0)
-            m_model.disk.remove(strPath);
-        if (nElements == 0)
-            QFile::remove(strPath);
-        else
-            put(strPath, nElements);
+        if (nElements != 0)
+            return put(strPath, nElements);
+        m_model.remove(strPath);
+        QFile::remove(strPath);
     }
 
     // What opening the file does; true: it is shown.
@@ -376,22 +380,10 @@ private:
     void act(const std::function<void()> &step)
     {
         const BoxAnswers boxes(m_answers);
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { answerFileDialog(); });
-        timer.start(1);
+        const FileAnswer place(&m_strChosen);
         step();
         // Long words have places to break at.
         m_said = boxes.texts().replaceInStrings(QString(QChar(0x200B)), QString());
-    }
-    void answerFileDialog() const
-    {
-        auto *pDialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (!pDialog || !pDialog->isVisible())
-            return;
-        if (m_strChosen.isEmpty())
-            return pDialog->reject();
-        pDialog->findChild<QLineEdit *>("fileNameEdit")->setText(m_strChosen);
-        QMetaObject::invokeMethod(pDialog, "accept");
     }
 
     WalkProgram m_program;

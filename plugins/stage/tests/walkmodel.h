@@ -114,6 +114,16 @@ struct Model
         document.bTemp = false;
         disk[document.path] = document.elements();
     }
+    void remove(const QString &strPath)
+    {
+        for (ModelDocument &document : documents) {
+            if (disk.contains(strPath) && document.path == strPath) {
+                document.nClean = -1;
+                document.bSaveDone = false;
+            }
+        }
+        disk.remove(strPath);
+    }
     void savedAs(ModelDocument &document, const QString &strPath)
     {
         if (document.bTemp)
