@@ -3,10 +3,13 @@
 #include "pluginmanager_p.h"
 
 #include "logging_p.h"
+#include "platform_p.h"
 #include "pluginscanner.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
+#include <QMetaMethod>
 
 #include <cstdio>
 
@@ -16,7 +19,8 @@ Q_LOGGING_CATEGORY(lcExtensionSystem, "kelpa.extensionsystem", QtInfoMsg)
 
 namespace {
 PluginManager *s_pInstance = nullptr;
-}
+thread_local QString s_strActivity; // of the event that is being handled
+} // namespace
 
 PluginManager::PluginManager()
     : d(std::make_unique<Private>())
@@ -40,9 +44,53 @@ void PluginManager::setMessageSink(MessageSink sink)
     d->sink = std::move(sink);
 }
 
+void PluginManager::setNeededPlugins(const QStringList &names)
+{
+    d->needed = names;
+}
+
+void PluginManager::setLateWorkDelay(int nMs)
+{
+    d->nLateWorkDelayMs = nMs;
+}
+
+void PluginManager::startLateWork()
+{
+    if (d->runner)
+        d->runner->startLateWork();
+}
+
+void PluginManager::setHearsOtherStarts(bool bHears)
+{
+    if (s_pInstance && s_pInstance->d->instance)
+        s_pInstance->d->instance->setHears(bHears);
+}
+
 void PluginManager::setShutdownTimeout(int nTimeoutMs)
 {
     d->nShutdownTimeoutMs = nTimeoutMs;
+}
+
+void PluginManager::setActivity(const QString &activity)
+{
+    s_strActivity = activity;
+}
+
+QString PluginManager::exchangeActivity(const QString &strActivity)
+{
+    return std::exchange(s_strActivity, strActivity);
+}
+
+void PluginManager::tellException(QEvent *pEvent, const QString &strActivity, const QString &strReason)
+{
+    if (pEvent->type() == QEvent::Close)
+        pEvent->ignore();
+    qCWarning(lcExtensionSystem).noquote()
+        << (strActivity.isEmpty() ? QStringLiteral("An event failed:")
+                                  : strActivity + QStringLiteral(" failed:"))
+        << strReason;
+    if (s_pInstance)
+        emit s_pInstance->exceptionCaught(strActivity, strReason);
 }
 
 QStringList PluginManager::arguments()
@@ -80,6 +128,8 @@ void PluginManager::report(const PluginError &error)
 {
     d->errors.append(error);
     qCWarning(lcExtensionSystem).noquote() << error.text();
+    if (error.phase == PluginPhase::RemoteCommand)
+        emit exceptionCaught(QString(), error.message);
 }
 
 std::optional<int> PluginManager::start(const QStringList &commandLine)
@@ -100,16 +150,17 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
         return explainOptions(commandLine, records);
     }
     QDir().mkpath(strSettings);
+    openSettings(strSettings);
+    emit aboutToLoadPlugins();
     if (const auto exitCode = claimInstance(strSettings))
         return exitCode;
-    openSettings(strSettings);
+    settings()->sync(); // the one whose place this takes may have written meanwhile
     setArguments(line.absoluteArguments());
     const auto missing = line.missingFolders();
     for (const PluginError &error : missing + clashes)
         report(error);
     for (PluginRecord &record : records)
         record.arguments = line.pluginOptions(record.spec.name);
-    emit aboutToLoadPlugins();
     return startPlugins(records);
 }
 
@@ -142,8 +193,10 @@ std::optional<int> PluginManager::claimInstance(const QString &strSettingsFolder
     return std::nullopt;
 }
 
-std::optional<int> PluginManager::startPlugins(const QList<PluginRecord> &records)
+std::optional<int> PluginManager::startPlugins(QList<PluginRecord> records)
 {
+    if (const QString strMissing = markNeeded(&records); !strMissing.isEmpty())
+        return failStart(strMissing);
     d->runner = std::make_unique<PluginRunner>(records, d->line->selection());
     d->runner->setProfiled(d->line->wantsProfile());
     for (const PluginError &error : d->runner->errors())
@@ -151,19 +204,39 @@ std::optional<int> PluginManager::startPlugins(const QList<PluginRecord> &record
     connect(d->runner.get(), &PluginRunner::failed, this, &PluginManager::report);
     connect(d->runner.get(), &PluginRunner::requiredPluginFailed, this, &PluginManager::requiredPluginFailed);
     connect(d->runner.get(), &PluginRunner::initializationDone, this, &PluginManager::finishStart);
-    if (!d->runner->start() || d->runner->running().isEmpty())
-        return failStart();
+    if (!d->runner->start(d->nLateWorkDelayMs) || d->runner->running().isEmpty())
+        return failStart(startFailure());
     d->bTakesCommands = true;
+    Platform::onTermination(this, [this] { requestEnd(); });
     QMetaObject::invokeMethod(this, &PluginManager::runCommands, Qt::QueuedConnection);
     return std::nullopt;
 }
 
-int PluginManager::failStart()
+// A library that cannot be read cannot say that it is required. The result is the reason against a start.
+QString PluginManager::markNeeded(QList<PluginRecord> *pRecords) const
 {
-    const PluginError *pError = d->runner->requiredFailure();
-    const QString strReason = pError
-        ? pError->text()
-        : tr("No plug-in could be loaded from %1.").arg(d->line->pluginFolders().join(QStringLiteral(", ")));
+    for (const QString &strName : std::as_const(d->needed)) {
+        bool bFound = false;
+        for (PluginRecord &record : *pRecords) {
+            if (record.spec.name == strName)
+                bFound = record.spec.bRequired = true;
+        }
+        if (!bFound)
+            return tr("The plug-in \"%1\" is missing in %2.")
+                .arg(strName, d->line->pluginFolders().join(QStringLiteral(", ")));
+    }
+    return QString();
+}
+
+QString PluginManager::startFailure() const
+{
+    if (const PluginError *pError = d->runner->requiredFailure())
+        return pError->text();
+    return tr("No plug-in could be loaded from %1.").arg(d->line->pluginFolders().join(QStringLiteral(", ")));
+}
+
+int PluginManager::failStart(const QString &strReason)
+{
     tell(Message::StartFailure,
         tr("%1 cannot start.").arg(QCoreApplication::applicationName()) + QLatin1Char('\n') + strReason);
     return 1;
@@ -172,7 +245,15 @@ int PluginManager::failStart()
 void PluginManager::requiredPluginFailed()
 {
     d->bTakesCommands = false;
-    QCoreApplication::exit(failStart());
+    QCoreApplication::exit(failStart(startFailure()));
+}
+
+void PluginManager::requestEnd()
+{
+    if (isSignalConnected(QMetaMethod::fromSignal(&PluginManager::endRequested)))
+        emit endRequested();
+    else
+        QCoreApplication::quit();
 }
 
 void PluginManager::finishStart()
@@ -182,7 +263,7 @@ void PluginManager::finishStart()
         tell(Message::Note, d->runner->profile());
 }
 
-// Plug-ins hear of it once all run, and of one after the other: a file may open a message box.
+// Plug-ins hear of it once all run; also while the hook for an earlier one shows a message box.
 void PluginManager::takeCommand(const RemoteCommand &command)
 {
     d->commands.append(command);
@@ -191,19 +272,16 @@ void PluginManager::takeCommand(const RemoteCommand &command)
 
 void PluginManager::runCommands()
 {
-    if (d->bRunsCommands || !d->bTakesCommands)
-        return;
-    d->bRunsCommands = true;
     while (d->bTakesCommands && !d->commands.isEmpty()) {
         const RemoteCommand command = d->commands.takeFirst();
         d->runner->remoteCommand(command.options, command.workingDirectory, command.arguments);
     }
-    d->bRunsCommands = false;
 }
 
 void PluginManager::shutdown()
 {
     d->bTakesCommands = false;
+    Platform::resetTermination();
     d->instance.reset(); // a start from now on is a first one
     for (const RemoteCommand &command : std::as_const(d->commands))
         qCWarning(lcExtensionSystem).noquote() << "The program ends before it could open" << command.arguments

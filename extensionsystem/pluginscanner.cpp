@@ -2,6 +2,7 @@
 #include <extensionsystem/pluginscanner.h>
 
 #include "logging_p.h"
+#include "platform_p.h"
 
 #include <extensionsystem/iplugin.h>
 
@@ -35,12 +36,26 @@ IPlugin *loadPlugin(QPluginLoader &loader, QString *pErrorString)
     return nullptr;
 }
 
+// One that is damaged goes by the name of its file.
+PluginRecord damagedPlugin(const QFileInfo &file)
+{
+    PluginRecord record;
+    record.spec.name = file.completeBaseName();
+    if (record.spec.name.startsWith(QLatin1String("lib")))
+        record.spec.name.remove(0, 3);
+    record.spec.file = file.filePath();
+    record.spec.problems.append(QStringLiteral("the library is incomplete"));
+    return record;
+}
+
 // The loader that read the metadata loads the library later, so that the file is read once.
 std::optional<PluginRecord> readPlugin(const QString &strFile)
 {
     QElapsedTimer timer;
     timer.start();
     const auto pLoader = std::make_shared<QPluginLoader>(strFile);
+    if (pLoader->metaData().isEmpty() && !Platform::isWholeLibrary(strFile))
+        return damagedPlugin(QFileInfo(strFile));
     if (pLoader->metaData().value(QLatin1String("IID")).toString() != s_iid)
         return std::nullopt;
     PluginRecord record;

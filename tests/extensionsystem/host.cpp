@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // A program with nothing but the framework, for tests. It prints what it learns, and ends when all plug-ins
-// are up unless HOST_STAYS is set. HOST_WRITES writes a setting, HOST_DROPS_ROOT runs it as nobody,
-// HOST_DISK_FULL lets no file grow.
+// are up unless HOST_STAYS is set. HOST_NEEDS names plug-ins that it needs. HOST_WRITES writes a setting,
+// HOST_DROPS_ROOT runs it as nobody, HOST_DISK_FULL lets no file grow.
 #include <extensionsystem/pluginmanager.h>
 
 #include <QCoreApplication>
+#include <QTranslator>
 
 #include <csignal>
 #include <cstdio>
@@ -35,6 +36,17 @@ void fillDisk()
     setrlimit(RLIMIT_FSIZE, &none);
 }
 
+// The framework's own texts come in brackets when there are catalogues.
+class Brackets : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *pContext, const char *pText, const char *, int) const override
+    {
+        return QByteArray(pContext).endsWith("SingleInstance") ? '[' + QString(pText) + ']' : QString();
+    }
+};
+
 void onInitializationDone()
 {
     print("done " + PluginManager::arguments().join(' '));
@@ -58,6 +70,10 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName("Host");
     QCoreApplication::setApplicationVersion("1.0");
     PluginManager manager;
+    Brackets brackets;
+    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins,
+        [&] { QCoreApplication::installTranslator(&brackets); });
+    manager.setNeededPlugins(qEnvironmentVariable("HOST_NEEDS").split(' ', Qt::SkipEmptyParts));
     QObject::connect(&manager, &PluginManager::initializationDone, onInitializationDone);
     QObject::connect(
         &manager, &PluginManager::settingsFailed, [](const QString &strFile, const QString &strReason) {

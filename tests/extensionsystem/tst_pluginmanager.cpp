@@ -66,9 +66,9 @@ private slots:
         QCOMPARE(host.finish(), 0);
         const QStringList expected = {"base construct", "anchor construct", "base initialize",
             "anchor initialize --depth 20 --rusty", "anchor extensionsInitialized",
-            "base extensionsInitialized", "base delayedInitialize", "anchor delayedInitialize",
-            "done /tmp/a.kelpa /c.kelpa", "setting ", "anchor aboutToShutdown", "base aboutToShutdown",
-            "anchor destroy", "base destroy"};
+            "base extensionsInitialized", "anchor event", "anchor after", "base event", "base after",
+            "base delayedInitialize", "anchor delayedInitialize", "done /tmp/a.kelpa /c.kelpa", "setting ",
+            "anchor aboutToShutdown", "base aboutToShutdown", "anchor destroy", "base destroy"};
         QCOMPARE(host.lines(), expected);
         QCOMPARE(host.errors(), QString());
     }
@@ -96,6 +96,7 @@ private slots:
         expect("behind", "initialize", "needs failing 1.0.0, which failed: no licence for the sea");
         expect("broken", "read", "broken metadata: \"Version\" is no version: \"one\"");
         expect("failing", "initialize", "no licence for the sea");
+        expect("noise", "read", "broken metadata: the library is incomplete");
         expect("stranger", "load", "its object, a Stranger, is no ExtensionSystem::IPlugin");
         expect("throwing", "load", "exception: broken on purpose");
         QCOMPARE(lines, expected);
@@ -140,13 +141,24 @@ private slots:
         QCOMPARE(host.errors().isEmpty(), err.isEmpty());
     }
 
+    // Where there is no display, two of them need none.
     void theRealProgramEndsInGoodOrderWhenItHasNothingToRun()
     {
         const std::pair<const char *, int> ends[] = {{"--version", 0}, {"--help", 0}, {"--shallow", 1}};
         for (const auto &[pOption, nExitCode] : ends) {
-            ChildProcess program(QStringLiteral(KELPASTUDIO), {pOption});
+            const QString strPlatform = nExitCode ? "offscreen" : "xcb";
+            ChildProcess program(
+                QStringLiteral(KELPASTUDIO), {pOption}, {{"QT_QPA_PLATFORM", strPlatform}, {"DISPLAY", ""}});
             QCOMPARE(program.finish(), nExitCode);
         }
+    }
+
+    void theRealProgramOutlivesWhatASlotThrows()
+    {
+        ChildProcess program(QStringLiteral(KELPASTUDIO),
+            withSettings(m_settings.path(), {"--new-instance", "--plugin-path", testPath("slot")}));
+        QVERIFY(program.waitForLine("slot after"));
+        QVERIFY2(program.errors().contains("event failed: exception: broken"), qPrintable(program.errors()));
     }
 
     void aRequiredPluginThatFailsEndsTheStart_data()
@@ -156,17 +168,32 @@ private slots:
             "/libneeded.so, phase initialize: no licence for the sea\n");
         row("in its late work", "requiredlate",
             "/liblate.so, phase delayedInitialize: exception: broken on purpose\n");
+        row("and only the program knows that it is", "bad",
+            "/libfailing.so, phase initialize: no licence for the sea\n");
     }
     void aRequiredPluginThatFailsEndsTheStart()
     {
         QFETCH(QString, folder);
         QFETCH(QString, message);
-        Host host({"good", qPrintable(folder)}, withSettings(m_settings.path()));
+        Host host({"good", qPrintable(folder)}, withSettings(m_settings.path()),
+            {{"HOST_NEEDS", folder == "bad" ? "failing" : "base"}});
         QCOMPARE(host.finish(), 1);
         QVERIFY2(host.errors().contains("\nHost cannot start.\n"), qPrintable(host.errors()));
         QVERIFY2(host.errors().endsWith(testPath(qPrintable(folder)) + message), qPrintable(host.errors()));
         QVERIFY(!host.lines().contains("done "));
         QVERIFY(host.lines().contains("base destroy"));
+    }
+
+    void aNeededLibraryThatCannotBeReadEndsTheStart()
+    {
+        const std::pair<const char *, const char *> reasons[] = {
+            {"ghost", "The plug-in \"ghost\" is missing in /"},
+            {"noise", "plug-in \"noise\", " TEST_ROOT "/bad/libnoise.so, phase read: broken metadata"}};
+        for (const auto &[pName, pReason] : reasons) {
+            Host host({"good", "bad"}, withSettings(m_settings.path()), {{"HOST_NEEDS", pName}});
+            QCOMPARE(host.finish(), 1);
+            QVERIFY2(host.errors().contains(QString("cannot start.\n") + pReason), qPrintable(host.errors()));
+        }
     }
 
     void settingsFaults_data()

@@ -61,9 +61,9 @@ private:
     }
 
     // Guarded: a signal to process 0 would stop the whole test run.
-    static bool freeze(const ChildProcess &host)
+    static bool send(int nSignal, const ChildProcess &host)
     {
-        return host.processId() > 0 && ::kill(static_cast<pid_t>(host.processId()), SIGSTOP) == 0;
+        return host.processId() > 0 && ::kill(static_cast<pid_t>(host.processId()), nSignal) == 0;
     }
 
     // Another start leaves its file to the one that runs.
@@ -139,7 +139,7 @@ private slots:
     void dyingDuringTheHandOverMakesTheSecondTheFirst()
     {
         const auto pFirst = runningHost();
-        QVERIFY(freeze(*pFirst)); // it accepts, but does not answer
+        QVERIFY(send(SIGSTOP, *pFirst)); // it accepts, but does not answer
         const auto pSecond = host({"a.kelpa"});
         QVERIFY(!pSecond->waitForFinished(300));
         pFirst->kill();
@@ -147,13 +147,50 @@ private slots:
         checkHandOver(*pSecond, "b.kelpa");
     }
 
-    void anInstanceThatHangsLosesNothing()
+    // Brackets are the host's translation.
+    void anInstanceThatHangsLosesNothingAndOpensNothingTwice()
     {
         const auto pFirst = runningHost();
-        QVERIFY(freeze(*pFirst));
+        QVERIFY(send(SIGSTOP, *pFirst));
         const auto pSecond = host({"a.kelpa"});
         QVERIFY(pSecond->waitForLine(QString("done %1/a.kelpa").arg(folder("elsewhere"))));
-        QCOMPARE(pSecond->errors(), "The running instance does not answer; another one is started.\n");
+        QCOMPARE(pSecond->errors(), "[The running instance does not answer; another one is started.]\n");
+        QVERIFY(send(SIGCONT, *pFirst));
+        checkHandOver(*pFirst, "b.kelpa");
+        QVERIFY(pFirst->lines().filter("a.kelpa").isEmpty());
+    }
+
+    void anInstanceThatMayBeEndingLosesNothing()
+    {
+        SingleInstance instance(folder("settings"));
+        QCOMPARE(instance.claim({}), SingleInstance::Role::First);
+        QSignalSpy commands(&instance, &SingleInstance::commandReceived);
+        instance.setHears(false);
+        const auto pSecond = host({"a.kelpa"});
+        QVERIFY(pSecond->waitForLine(QString("done %1/a.kelpa").arg(folder("elsewhere"))));
+        QVERIFY(commands.isEmpty());
+        instance.setHears(true);
+        const auto pThird = host({"b.kelpa"});
+        QTRY_COMPARE(commands.size(), 1);
+    }
+
+    void aBoxOfOneCommandDoesNotHoldUpTheNext()
+    {
+        const auto pFirst = host({"--plugin-path", testPath("asking")});
+        QVERIFY(pFirst->waitForLine("setting "));
+        for (const char *pFile : {"a.kelpa", "b.kelpa"}) {
+            QCOMPARE(host({pFile})->finish(), 0);
+            QVERIFY(
+                pFirst->waitForLine(QString("asking remoteCommand %1 %2").arg(folder("elsewhere"), pFile)));
+        }
+    }
+
+    void theSystemMayEndTheProgram()
+    {
+        const auto pHost = runningHost();
+        QVERIFY(send(SIGTERM, *pHost));
+        QCOMPARE(pHost->finish(), 0);
+        QCOMPARE(pHost->lines().last(), "base destroy");
     }
 
     void twoSimultaneousStartsAgree()
@@ -217,9 +254,20 @@ private slots:
     {
         SingleInstance instance(folder("settings"));
         QCOMPARE(instance.claim({}), SingleInstance::Role::First);
-        for (int i = 0; i < 4; ++i)
+        QSignalSpy commands(&instance, &SingleInstance::commandReceived);
+        const QString strDropped = "A message from another start was dropped: %1";
+        for (int i = 0; i < 4; ++i) {
             QTest::ignoreMessage(
-                QtWarningMsg, "A message from another start was dropped: too many connections at a time");
+                QtWarningMsg, qPrintable(strDropped.arg("the sender did not wait for the receipt")));
+            {
+                const auto pHasty = connected();
+                pHasty->write(framed(RemoteCommand().toJson()));
+                pHasty->flush();
+            }
+            QCoreApplication::processEvents();
+        }
+        for (int i = 0; i < 4; ++i)
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(strDropped.arg("too many connections at a time")));
         std::vector<std::unique_ptr<QLocalSocket>> sockets;
         const auto isOpen = [](const auto &pSocket) {
             return pSocket->state() == QLocalSocket::ConnectedState;
@@ -229,6 +277,7 @@ private slots:
             QCoreApplication::processEvents();
         }
         QTRY_COMPARE(std::count_if(sockets.begin(), sockets.end(), isOpen), 16);
+        QVERIFY(commands.isEmpty());
     }
 
     void whatIsTooLongToHandOverStartsByItself()
