@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <support/coretest.h>
 
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
+#include <appearance/ilanguagemanager.h>
 #include <extensionsystem/iplugin.h>
 #include <icore.h>
 #include <mainwindow.h>
@@ -81,7 +84,62 @@ private slots:
         QVERIFY(contentOf(m_pProgram->filePath("machine.ini")).contains("late=machine"));
     }
 
+    void whatFailsIsToldAndUnsavedWorkIsCopied()
+    {
+        m_pPlugin->extensionsInitialized();
+        QCOMPARE(told(), QString());
+        FakeDocument *pDocument = openModified();
+        m_pFactory->prepare = [](FakeDocument *) { throw std::runtime_error("no ink"); };
+        QCloseEvent event;
+        PluginManager::deliver(&event, [] {
+            ActionManager::getAction("File.New")->getAction()->trigger();
+            return true;
+        });
+        QVERIFY(!event.isAccepted());
+        QCOMPARE(told(), "\"New\" failed: exception: no ink. Unsaved projects were backed up.");
+        QCOMPARE(pDocument->calls, QStringList("saveBackup"));
+        PluginManager::deliver(&event, [] { return throw 7, true; });
+        QCOMPARE(told(), "Something failed: exception of unknown type. Unsaved projects were backed up.");
+    }
+
+    void anEndFromOutsideCopiesAndAsks()
+    {
+        m_pPlugin->extensionsInitialized();
+        const FakeDocument *pDocument = openModified();
+        BoxAnswers answers({QMessageBox::Cancel});
+        const auto request = [this] {
+            emit m_pProgram->manager.endRequested();
+            QCoreApplication::exit();
+        };
+        QMetaObject::invokeMethod(this, request, Qt::QueuedConnection);
+        QCoreApplication::exec();
+        QCOMPARE(answers.boxes.size(), 1);
+        QCOMPARE(pDocument->calls, QStringList({"saveBackup", "close"}));
+        QVERIFY(ICore::getMainWindow()->isVisible());
+    }
+
+    void settingsThatCannotBeWrittenAreTold()
+    {
+        m_pPlugin->extensionsInitialized();
+        QSettings *pSettings = PluginManager::settings();
+        QVERIFY(ILanguageManager::getInstance().saveLanguage("en_US"));
+        QFile::remove(pSettings->fileName());
+        QVERIFY(QDir().mkpath(pSettings->fileName() + "/in the way"));
+        QVERIFY(!ILanguageManager::getInstance().saveLanguage("en_US"));
+        QVERIFY2(told().startsWith("The settings in " + pSettings->fileName()), qPrintable(told()));
+    }
+
 private:
+    static QString told() { return ICore::getMainWindow()->getNotificationBar()->text(); }
+
+    [[nodiscard]] FakeDocument *openModified() const
+    {
+        m_pProgram->write("a.kelpa");
+        ICore::getMainWindow()->loadFile(m_pProgram->filePath("a.kelpa"));
+        m_pFactory->documents.constFirst()->modify();
+        return m_pFactory->documents.constFirst();
+    }
+
     [[nodiscard]] QStringList names() const
     {
         QStringList result;
