@@ -86,10 +86,9 @@ void CorePlugin::tellException(const QString &strCommand, const QString &strReas
 {
     saveBackups();
     const ContextAction *pCommand = ActionManager::getAction(strCommand);
-    const QString strTitle = pCommand ? pCommand->getAction()->text().remove(QLatin1Char('&')) : QString();
-    warn(strTitle.isEmpty() ? tr("Something failed: %1. Unsaved projects were backed up.").arg(strReason)
-                            : tr("\"%1\" failed: %2. Unsaved projects were backed up.", "a command, a reason")
-                                  .arg(strTitle, strReason));
+    const QString strTitle = pCommand ? pCommand->getAction()->text().remove(QLatin1Char('&')) : strCommand;
+    warn(strTitle.isEmpty() ? tr("Something failed: %1").arg(strReason)
+                            : tr("\"%1\" failed: %2", "a command, a reason").arg(strTitle, strReason));
 }
 
 void CorePlugin::tellFaults()

@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
-#include <QMetaMethod>
 
 #include <cstdio>
 
@@ -71,14 +70,9 @@ void PluginManager::setShutdownTimeout(int nTimeoutMs)
     d->nShutdownTimeoutMs = nTimeoutMs;
 }
 
-void PluginManager::setActivity(const QString &activity)
+QString PluginManager::setActivity(const QString &activity)
 {
-    s_strActivity = activity;
-}
-
-QString PluginManager::exchangeActivity(const QString &strActivity)
-{
-    return std::exchange(s_strActivity, strActivity);
+    return std::exchange(s_strActivity, activity);
 }
 
 void PluginManager::tellException(QEvent *pEvent, const QString &strActivity, const QString &strReason)
@@ -195,8 +189,7 @@ std::optional<int> PluginManager::claimInstance(const QString &strSettingsFolder
 
 std::optional<int> PluginManager::startPlugins(QList<PluginRecord> records)
 {
-    if (const QString strMissing = markNeeded(&records); !strMissing.isEmpty())
-        return failStart(strMissing);
+    markNeeded(&records);
     d->runner = std::make_unique<PluginRunner>(records, d->line->selection());
     d->runner->setProfiled(d->line->wantsProfile());
     for (const PluginError &error : d->runner->errors())
@@ -205,15 +198,15 @@ std::optional<int> PluginManager::startPlugins(QList<PluginRecord> records)
     connect(d->runner.get(), &PluginRunner::requiredPluginFailed, this, &PluginManager::requiredPluginFailed);
     connect(d->runner.get(), &PluginRunner::initializationDone, this, &PluginManager::finishStart);
     if (!d->runner->start(d->nLateWorkDelayMs) || d->runner->running().isEmpty())
-        return failStart(startFailure());
+        return failStart();
     d->bTakesCommands = true;
-    Platform::onTermination(this, [this] { requestEnd(); });
+    Platform::onTermination(this, [this] { emit endRequested(); });
     QMetaObject::invokeMethod(this, &PluginManager::runCommands, Qt::QueuedConnection);
     return std::nullopt;
 }
 
-// A library that cannot be read cannot say that it is required. The result is the reason against a start.
-QString PluginManager::markNeeded(QList<PluginRecord> *pRecords) const
+// A library that cannot be read cannot say that it is required.
+void PluginManager::markNeeded(QList<PluginRecord> *pRecords) const
 {
     for (const QString &strName : std::as_const(d->needed)) {
         bool bFound = false;
@@ -222,21 +215,17 @@ QString PluginManager::markNeeded(QList<PluginRecord> *pRecords) const
                 bFound = record.spec.bRequired = true;
         }
         if (!bFound)
-            return tr("The plug-in \"%1\" is missing in %2.")
-                .arg(strName, d->line->pluginFolders().join(QStringLiteral(", ")));
+            pRecords->append(unusablePlugin(strName, d->line->pluginFolders().join(QStringLiteral(", ")),
+                QStringLiteral("there is no such library"), true));
     }
-    return QString();
 }
 
-QString PluginManager::startFailure() const
+int PluginManager::failStart()
 {
-    if (const PluginError *pError = d->runner->requiredFailure())
-        return pError->text();
-    return tr("No plug-in could be loaded from %1.").arg(d->line->pluginFolders().join(QStringLiteral(", ")));
-}
-
-int PluginManager::failStart(const QString &strReason)
-{
+    const PluginError *pError = d->runner->requiredFailure();
+    const QString strReason = pError
+        ? pError->text()
+        : tr("No plug-in could be loaded from %1.").arg(d->line->pluginFolders().join(QStringLiteral(", ")));
     tell(Message::StartFailure,
         tr("%1 cannot start.").arg(QCoreApplication::applicationName()) + QLatin1Char('\n') + strReason);
     return 1;
@@ -245,15 +234,7 @@ int PluginManager::failStart(const QString &strReason)
 void PluginManager::requiredPluginFailed()
 {
     d->bTakesCommands = false;
-    QCoreApplication::exit(failStart(startFailure()));
-}
-
-void PluginManager::requestEnd()
-{
-    if (isSignalConnected(QMetaMethod::fromSignal(&PluginManager::endRequested)))
-        emit endRequested();
-    else
-        QCoreApplication::quit();
+    QCoreApplication::exit(failStart());
 }
 
 void PluginManager::finishStart()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <extensionsystem/caught.h>
 #include <extensionsystem/extensionsystem_global.h>
 #include <extensionsystem/pluginerror.h>
 #include <extensionsystem/pluginrecord.h>
@@ -78,17 +77,18 @@ public:
     template <typename Function>
     static bool deliver(QEvent *event, Function function)
     {
-        const QString strOuter = exchangeActivity(QString());
+        const QString strOuter = setActivity(QString());
         bool bResult = false;
         const QString strThrown = caught([&] { bResult = function(); });
-        const QString strActivity = exchangeActivity(strOuter);
+        const QString strActivity = setActivity(strOuter);
         if (!strThrown.isEmpty())
             tellException(event, strActivity, strThrown);
         return bResult;
     }
 
-    /// Names what the program does while it handles the present event, such as the id of a command.
-    static void setActivity(const QString &activity);
+    /// Names what the present event makes the program do, such as the id of a command. The result is the name
+    /// before.
+    static QString setActivity(const QString &activity);
 
     /// While the program may be ending, false: other starts are not heard and run by themselves.
     static void setHearsOtherStarts(bool bHears);
@@ -162,14 +162,12 @@ signals:
     /// named in that event, or empty. In the thread that threw.
     void exceptionCaught(const QString &activity, const QString &reason);
 
-    /// The system asks the program to end (SIGTERM). Who listens calls QCoreApplication::quit(), perhaps
-    /// after asking the user; with no listener the program quits.
+    /// The system asks the program to end (SIGTERM): who listens calls QCoreApplication::quit().
     void endRequested();
 
 private:
     struct Private;
 
-    static QString exchangeActivity(const QString &strActivity);
     static void tellException(QEvent *pEvent, const QString &strActivity, const QString &strReason);
     void tell(Message kind, const QString &text) const;
     void report(const PluginError &error);
@@ -177,11 +175,9 @@ private:
     [[nodiscard]] std::optional<int> claimInstance(const QString &strSettingsFolder);
     void openSettings(const QString &strFolder);
     [[nodiscard]] std::optional<int> startPlugins(QList<PluginRecord> records);
-    [[nodiscard]] QString markNeeded(QList<PluginRecord> *pRecords) const;
-    [[nodiscard]] int failStart(const QString &strReason);
-    [[nodiscard]] QString startFailure() const;
+    void markNeeded(QList<PluginRecord> *pRecords) const;
+    [[nodiscard]] int failStart();
     void requiredPluginFailed();
-    void requestEnd();
     void finishStart();
     void takeCommand(const RemoteCommand &command);
     void runCommands();

@@ -3,7 +3,6 @@
 
 #include "startprofile.h"
 
-#include <extensionsystem/caught.h>
 #include <extensionsystem/iplugin.h>
 
 #include <QCoreApplication>

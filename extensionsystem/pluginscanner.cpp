@@ -36,16 +36,11 @@ IPlugin *loadPlugin(QPluginLoader &loader, QString *pErrorString)
     return nullptr;
 }
 
-// One that is damaged goes by the name of its file.
-PluginRecord damagedPlugin(const QFileInfo &file)
+// For a library that cannot say it itself.
+QString nameOf(const QString &strFile)
 {
-    PluginRecord record;
-    record.spec.name = file.completeBaseName();
-    if (record.spec.name.startsWith(QLatin1String("lib")))
-        record.spec.name.remove(0, 3);
-    record.spec.file = file.filePath();
-    record.spec.problems.append(QStringLiteral("the library is incomplete"));
-    return record;
+    const QString strName = QFileInfo(strFile).completeBaseName();
+    return strName.startsWith(QLatin1String("lib")) ? strName.mid(3) : strName;
 }
 
 // The loader that read the metadata loads the library later, so that the file is read once.
@@ -55,7 +50,7 @@ std::optional<PluginRecord> readPlugin(const QString &strFile)
     timer.start();
     const auto pLoader = std::make_shared<QPluginLoader>(strFile);
     if (pLoader->metaData().isEmpty() && !Platform::isWholeLibrary(strFile))
-        return damagedPlugin(QFileInfo(strFile));
+        return unusablePlugin(nameOf(strFile), strFile, QStringLiteral("the library is incomplete"));
     if (pLoader->metaData().value(QLatin1String("IID")).toString() != s_iid)
         return std::nullopt;
     PluginRecord record;
@@ -67,6 +62,17 @@ std::optional<PluginRecord> readPlugin(const QString &strFile)
 }
 
 } // namespace
+
+PluginRecord unusablePlugin(
+    const QString &strName, const QString &strFile, const QString &strProblem, bool bRequired)
+{
+    PluginRecord record;
+    record.spec.name = strName;
+    record.spec.file = strFile;
+    record.spec.problems.append(strProblem);
+    record.spec.bRequired = bRequired;
+    return record;
+}
 
 QList<PluginRecord> findPlugins(const QStringList &folders)
 {

@@ -14,4 +14,8 @@ namespace ExtensionSystem {
 /// name of its file; other files are passed over.
 [[nodiscard]] EXTENSIONSYSTEM_EXPORT QList<PluginRecord> findPlugins(const QStringList &folders);
 
+/// The record of a plug-in whose metadata cannot be read.
+[[nodiscard]] PluginRecord unusablePlugin(
+    const QString &strName, const QString &strFile, const QString &strProblem, bool bRequired = false);
+
 } // namespace ExtensionSystem

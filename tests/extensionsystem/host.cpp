@@ -5,7 +5,6 @@
 #include <extensionsystem/pluginmanager.h>
 
 #include <QCoreApplication>
-#include <QTranslator>
 
 #include <csignal>
 #include <cstdio>
@@ -36,17 +35,6 @@ void fillDisk()
     setrlimit(RLIMIT_FSIZE, &none);
 }
 
-// The framework's own texts come in brackets when there are catalogues.
-class Brackets : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *pContext, const char *pText, const char *, int) const override
-    {
-        return QByteArray(pContext).endsWith("SingleInstance") ? '[' + QString(pText) + ']' : QString();
-    }
-};
-
 void onInitializationDone()
 {
     print("done " + PluginManager::arguments().join(' '));
@@ -70,9 +58,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName("Host");
     QCoreApplication::setApplicationVersion("1.0");
     PluginManager manager;
-    Brackets brackets;
-    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins,
-        [&] { QCoreApplication::installTranslator(&brackets); });
+    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, [] { print("catalogues"); });
+    QObject::connect(&manager, &PluginManager::endRequested, [] { QCoreApplication::quit(); });
     manager.setNeededPlugins(qEnvironmentVariable("HOST_NEEDS").split(' ', Qt::SkipEmptyParts));
     QObject::connect(&manager, &PluginManager::initializationDone, onInitializationDone);
     QObject::connect(

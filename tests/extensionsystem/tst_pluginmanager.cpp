@@ -64,7 +64,7 @@ private slots:
         Host host({"good"},
             withSettings(m_settings.path(), {"--depth", "20", "a.kelpa", "--rusty", "/b/../c.kelpa"}));
         QCOMPARE(host.finish(), 0);
-        const QStringList expected = {"base construct", "anchor construct", "base initialize",
+        const QStringList expected = {"catalogues", "base construct", "anchor construct", "base initialize",
             "anchor initialize --depth 20 --rusty", "anchor extensionsInitialized",
             "base extensionsInitialized", "anchor event", "anchor after", "base event", "base after",
             "base delayedInitialize", "anchor delayedInitialize", "done /tmp/a.kelpa /c.kelpa", "setting ",
@@ -163,37 +163,28 @@ private slots:
 
     void aRequiredPluginThatFailsEndsTheStart_data()
     {
-        const auto row = columns<QString, QString>("folder", "message");
-        row("while it is initialised", "required",
-            "/libneeded.so, phase initialize: no licence for the sea\n");
-        row("in its late work", "requiredlate",
-            "/liblate.so, phase delayedInitialize: exception: broken on purpose\n");
-        row("and only the program knows that it is", "bad",
-            "/libfailing.so, phase initialize: no licence for the sea\n");
+        const auto row = columns<QString, QString, QString>("folder", "needs", "message");
+        row("while it is initialised", "required", "base",
+            "/required/libneeded.so, phase initialize: no licence for the sea");
+        row("in its late work", "requiredlate", "base",
+            "/requiredlate/liblate.so, phase delayedInitialize: exception: broken on purpose");
+        row("and only the program knows that it is", "bad", "failing",
+            "/bad/libfailing.so, phase initialize: no licence for the sea");
+        row("for its library broke off", "bad", "noise",
+            "/bad/libnoise.so, phase read: broken metadata: the library is incomplete");
+        row("for it is not there", "bad", "ghost", "phase read: broken metadata: there is no such library");
     }
     void aRequiredPluginThatFailsEndsTheStart()
     {
         QFETCH(QString, folder);
+        QFETCH(QString, needs);
         QFETCH(QString, message);
-        Host host({"good", qPrintable(folder)}, withSettings(m_settings.path()),
-            {{"HOST_NEEDS", folder == "bad" ? "failing" : "base"}});
+        Host host({"good", qPrintable(folder)}, withSettings(m_settings.path()), {{"HOST_NEEDS", needs}});
         QCOMPARE(host.finish(), 1);
-        QVERIFY2(host.errors().contains("\nHost cannot start.\n"), qPrintable(host.errors()));
-        QVERIFY2(host.errors().endsWith(testPath(qPrintable(folder)) + message), qPrintable(host.errors()));
+        QVERIFY2(host.errors().contains("Host cannot start.\n"), qPrintable(host.errors()));
+        QVERIFY2(host.errors().endsWith(message + '\n'), qPrintable(host.errors()));
         QVERIFY(!host.lines().contains("done "));
-        QVERIFY(host.lines().contains("base destroy"));
-    }
-
-    void aNeededLibraryThatCannotBeReadEndsTheStart()
-    {
-        const std::pair<const char *, const char *> reasons[] = {
-            {"ghost", "The plug-in \"ghost\" is missing in /"},
-            {"noise", "plug-in \"noise\", " TEST_ROOT "/bad/libnoise.so, phase read: broken metadata"}};
-        for (const auto &[pName, pReason] : reasons) {
-            Host host({"good", "bad"}, withSettings(m_settings.path()), {{"HOST_NEEDS", pName}});
-            QCOMPARE(host.finish(), 1);
-            QVERIFY2(host.errors().contains(QString("cannot start.\n") + pReason), qPrintable(host.errors()));
-        }
+        QCOMPARE(host.lines().contains("base destroy"), host.lines().contains("base construct"));
     }
 
     void settingsFaults_data()
@@ -264,19 +255,13 @@ private slots:
         QVERIFY(!QFile::exists(strStore + ".broken3"));
     }
 
-    void withoutAManagerThereIsNothing()
-    {
-        QCOMPARE(PluginManager::instance(), nullptr);
-        QCOMPARE(PluginManager::listLock(), nullptr);
-        QCOMPARE(PluginManager::settings(), nullptr);
-        PluginManager::addObject(this);
-        PluginManager::checkSettings();
-        QVERIFY(PluginManager::objects<QObject>().isEmpty());
-        QVERIFY(PluginManager::arguments().isEmpty() && PluginManager::plugins().isEmpty());
-    }
-
     void thePoolHoldsEachObjectOnce()
     {
+        PluginManager::addObject(this); // without a manager there is nothing, which is no error
+        PluginManager::checkSettings();
+        QVERIFY(!PluginManager::instance() && !PluginManager::listLock() && !PluginManager::settings());
+        QVERIFY(PluginManager::objects<QObject>().isEmpty() && PluginManager::arguments().isEmpty());
+        QVERIFY(PluginManager::plugins().isEmpty());
         PluginManager manager;
         QTimer timer;
         QObject other;
