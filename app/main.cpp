@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogues.h"
 
+#include <extensionsystem/commandline.h>
 #include <extensionsystem/pluginmanager.h>
 
 #include <QApplication>
@@ -25,6 +26,8 @@ constexpr bool s_bHasConsole = false;
 constexpr bool s_bHasConsole = true;
 #endif
 
+constexpr int s_nPaintPatienceMs = 3000; // for a window that is not painted, as behind a locked screen
+
 bool hasScreen()
 {
     const QString strPlatform = QGuiApplication::platformName();
@@ -44,10 +47,55 @@ void showMessage(PluginManager::Message kind, const QString &strText)
     box.exec();
 }
 
+// Whether the user only wants to read something, which needs no display where there is a console.
+bool isQuestion(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const ExtensionSystem::CommandLine line(arguments);
+    return s_bHasConsole && (line.wantsVersion() || line.wantsHelp());
+}
+
+void prepare(PluginManager &manager)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Kelpa Studio"));
+    QCoreApplication::setOrganizationName(QStringLiteral("ORVEN"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KELPA_VERSION));
+    manager.setMessageSink(showMessage);
+    manager.setNeededPlugins({QStringLiteral("core")});
+    manager.setLateWorkDelay(s_nPaintPatienceMs);
+    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, &installCatalogues);
+}
+
+/// Keeps what handlers throw from ending the program, and starts the late work of the plug-ins when the user
+/// sees the window.
+class Program : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *pReceiver, QEvent *pEvent) override
+    {
+        const bool bPainted = pEvent->type() == QEvent::Paint && pReceiver->isWidgetType();
+        const bool bResult =
+            PluginManager::deliver(pEvent, [&] { return QApplication::notify(pReceiver, pEvent); });
+        if (bPainted && PluginManager::instance())
+            PluginManager::instance()->startLateWork();
+        return bResult;
+    }
+};
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    if (isQuestion(argc, argv)) {
+        QCoreApplication application(argc, argv);
+        PluginManager manager;
+        prepare(manager);
+        return manager.start(QCoreApplication::arguments()).value_or(0);
+    }
     // The program scales by itself; its children shall not inherit that.
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // the menus stand in the title bar
@@ -60,18 +108,13 @@ int main(int argc, char *argv[])
         QFontDatabase::families();
     });
 #endif
-    QApplication application(argc, argv);
+    Program application(argc, argv);
 #ifdef KELPA_FONTCONFIG
     started.set_value();
     std::jthread fonts = std::move(reading); // joined before the application goes
 #endif
-    QCoreApplication::setApplicationName(QStringLiteral("Kelpa Studio"));
-    QCoreApplication::setOrganizationName(QStringLiteral("ORVEN"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KELPA_VERSION));
-
     PluginManager manager;
-    manager.setMessageSink(showMessage);
-    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, &installCatalogues);
+    prepare(manager);
     if (const auto exitCode = manager.start(QCoreApplication::arguments()))
         return *exitCode;
 #ifdef KELPA_FONTCONFIG

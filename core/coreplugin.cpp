@@ -1,18 +1,47 @@
 // SPDX-License-Identifier: MIT
 #include "coreplugin.h"
 
+#include "actionmanager/actionmanager.h"
+#include "actionmanager/contextaction.h"
 #include "appearance/ilanguagemanager.h"
+#include "document/documentmanager.h"
+#include "document/idocument.h"
+#include "icore.h"
 #include "mainwindow.h"
+
+#include <extensionsystem/pluginmanager.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QSessionManager>
+
+using ExtensionSystem::PluginManager;
 
 namespace {
 Q_LOGGING_CATEGORY(lcCore, "kelpa.core")
+
+// A document of a plug-in may throw here too.
+void saveBackups()
+{
+    for (IDocument *pDoc : QList<IDocument *>(DocumentManager::getDocuments())) {
+        const QString strThrown = ExtensionSystem::caught([pDoc] {
+            if (pDoc->isModified())
+                pDoc->saveBackup();
+        });
+        if (!strThrown.isEmpty())
+            qCWarning(
+                lcCore, "%s: no backup: %s", qUtf8Printable(pDoc->getFileName()), qUtf8Printable(strThrown));
+    }
 }
+
+void warn(const QString &strText)
+{
+    ICore::getMainWindow()->showNotification(strText, KPNotificationBar::Warning, QString(), true);
+}
+} // namespace
 
 CorePlugin::CorePlugin()
 {
@@ -25,6 +54,59 @@ CorePlugin::CorePlugin()
     QLocale::setDefault(QLocale(ILanguageManager::getInstance().getCurrentLangId()));
     m_pMainWindow = std::make_unique<MainWindow>(nullptr);
     QApplication::setActiveWindow(m_pMainWindow.get());
+    watchProgram();
+}
+
+// What goes wrong with the program as a whole, and its end from outside.
+void CorePlugin::watchProgram()
+{
+    const PluginManager *pManager = PluginManager::instance();
+    connect(pManager, &PluginManager::settingsFailed, this, &CorePlugin::tellFaults);
+    connect(pManager, &PluginManager::exceptionCaught, this, &CorePlugin::tellException);
+    connect(pManager, &PluginManager::endRequested, this, [] {
+        saveBackups();
+        if (!QApplication::activeModalWidget()) // else the user is being asked something already
+            QCoreApplication::quit();
+    });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &CorePlugin::endSession);
+}
+
+// The session waits for the answers where it allows to ask.
+void CorePlugin::endSession(QSessionManager &session)
+{
+    saveBackups();
+    if (!session.allowsInteraction())
+        return;
+    if (!m_pMainWindow->close())
+        session.cancel();
+    session.release();
+}
+
+void CorePlugin::tellException(const QString &strCommand, const QString &strReason)
+{
+    saveBackups();
+    const ContextAction *pCommand = ActionManager::getAction(strCommand);
+    const QString strTitle = pCommand ? pCommand->getAction()->text().remove(QLatin1Char('&')) : strCommand;
+    warn(strTitle.isEmpty() ? tr("Something failed: %1").arg(strReason)
+                            : tr("\"%1\" failed: %2", "a command, a reason").arg(strTitle, strReason));
+}
+
+void CorePlugin::tellFaults()
+{
+    QStringList texts;
+    const auto faults = PluginManager::settingsFaults();
+    for (const auto &fault : faults)
+        texts.append(
+            tr("The settings in %1 cannot be read or written.").arg(QDir::toNativeSeparators(fault.file)));
+    QStringList names;
+    const auto errors = PluginManager::errors();
+    for (const auto &error : errors)
+        names.append(error.plugin);
+    names.removeDuplicates();
+    if (!names.isEmpty())
+        texts.append(tr("These plug-ins could not be started: %1.").arg(names.join(QStringLiteral(", "))));
+    if (!texts.isEmpty())
+        warn(texts.join(QLatin1Char(' ')));
 }
 
 CorePlugin::~CorePlugin() = default;
@@ -38,6 +120,7 @@ bool CorePlugin::initialize(const QStringList &arguments, QString *errorString)
 void CorePlugin::extensionsInitialized()
 {
     m_pMainWindow->extensionsInitialized();
+    tellFaults();
 }
 
 bool CorePlugin::delayedInitialize()

@@ -6,6 +6,7 @@
 #include <memory>
 
 class MainWindow;
+class QSessionManager;
 
 /// The object through which the framework starts the core. It fixes the order in which language, main window
 /// and managers come to life, and passes every hook on to the main window, which it owns.
@@ -34,5 +35,10 @@ public slots:
     void fileOpenRequest(const QString &);
 
 private:
+    void watchProgram();
+    void tellFaults();
+    void tellException(const QString &strCommand, const QString &strReason);
+    void endSession(QSessionManager &session);
+
     std::unique_ptr<MainWindow> m_pMainWindow;
 };

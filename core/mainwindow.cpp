@@ -25,6 +25,7 @@
 #include <QMdiSubWindow>
 #include <QNetworkProxyFactory>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabBar>
@@ -319,6 +320,9 @@ bool MainWindow::closeDocuments(const QList<QPointer<IDocument>> &documents)
 
 void MainWindow::closeEvent(QCloseEvent *pEvent)
 {
+    // A project handed over while the questions are asked, or after the last, would be lost.
+    auto stays = qScopeGuard([] { PluginManager::setHearsOtherStarts(true); });
+    PluginManager::setHearsOtherStarts(false);
     ICore::saveSettings();
     QList<QPointer<IDocument>> shown;
     for (const IEditor *pEditor : EditorManager::getEditors())
@@ -333,5 +337,6 @@ void MainWindow::closeEvent(QCloseEvent *pEvent)
         return;
     }
     removeDefaultTempDir();
+    stays.dismiss();
     pEvent->accept();
 }

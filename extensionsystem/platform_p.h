@@ -3,7 +3,10 @@
 
 #include <QString>
 
+#include <functional>
+
 class QLocalSocket;
+class QObject;
 
 /// What differs from system to system.
 namespace ExtensionSystem::Platform {
@@ -20,5 +23,14 @@ namespace ExtensionSystem::Platform {
 
 /// Is the process at the other end run by the same user?
 [[nodiscard]] bool isOwnPeer(const QLocalSocket &socket);
+
+/// False: the file is empty, or ends before the library in it does, as after a copy that broke off.
+[[nodiscard]] bool isWholeLibrary(const QString &strFile);
+
+/// From now on, the system's wish that this process end (SIGTERM) calls the function from the event loop
+/// instead, as long as the context lives; the second puts an end to that. Nothing where there is no such
+/// wish.
+void onTermination(QObject *pContext, const std::function<void()> &function);
+void resetTermination();
 
 } // namespace ExtensionSystem::Platform

@@ -5,9 +5,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QSocketNotifier>
 
+#include <csignal>
+#include <cstring>
 #include <ctime>
 
+#include <fcntl.h>
+#ifdef Q_OS_LINUX
+#include <link.h>
+#endif
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -56,6 +63,14 @@ QString privateFile(const QString &strKey, const QString &strSuffix)
     return strFolder.isEmpty() ? QString() : strFolder + QLatin1Char('/') + strName + strSuffix;
 }
 
+int s_termination[2] = {-1, -1}; // a pipe: a signal handler may do little more than write
+
+void noteTermination(int)
+{
+    const char cAny = 0;
+    Q_UNUSED(write(s_termination[1], &cAny, 1))
+}
+
 } // namespace
 
 qint64 msSinceProcessStart()
@@ -97,6 +112,45 @@ bool isOwnPeer(const QLocalSocket &socket)
     gid_t group = 0;
     return getpeereid(nDescriptor, &user, &group) == 0 && user == geteuid();
 #endif
+}
+
+// The table of sections comes last in a library.
+bool isWholeLibrary(const QString &strFile)
+{
+    QFile file(strFile);
+#ifdef Q_OS_LINUX
+    ElfW(Ehdr) header = {};
+    if (!file.open(QIODevice::ReadOnly)
+        || file.read(reinterpret_cast<char *>(&header), sizeof header) != sizeof header)
+        return false;
+    return std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0
+        && header.e_shoff + quint64(header.e_shentsize) * header.e_shnum <= quint64(file.size());
+#else
+    return file.size() > 0;
+#endif
+}
+
+void onTermination(QObject *pContext, const std::function<void()> &function)
+{
+    if (pipe(s_termination) != 0)
+        return;
+    for (const int nEnd : s_termination) {
+        fcntl(nEnd, F_SETFD, FD_CLOEXEC);
+        fcntl(nEnd, F_SETFL, O_NONBLOCK);
+    }
+    auto *pNotifier = new QSocketNotifier(s_termination[0], QSocketNotifier::Read, pContext);
+    QObject::connect(pNotifier, &QSocketNotifier::activated, pContext, [function] {
+        char cAny = 0;
+        while (read(s_termination[0], &cAny, 1) > 0) { }
+        function();
+    });
+    signal(SIGTERM, noteTermination);
+}
+
+void resetTermination()
+{
+    if (s_termination[0] >= 0)
+        signal(SIGTERM, SIG_DFL);
 }
 
 } // namespace ExtensionSystem::Platform

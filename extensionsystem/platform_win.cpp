@@ -2,6 +2,7 @@
 #include "platform_p.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace ExtensionSystem::Platform {
 
@@ -26,5 +27,18 @@ bool isOwnPeer(const QLocalSocket &socket)
     Q_UNUSED(socket)
     return true;
 }
+
+bool isWholeLibrary(const QString &strFile)
+{
+    return QFileInfo(strFile).size() > 0;
+}
+
+void onTermination(QObject *pContext, const std::function<void()> &function)
+{
+    Q_UNUSED(pContext)
+    Q_UNUSED(function)
+}
+
+void resetTermination() { }
 
 } // namespace ExtensionSystem::Platform

@@ -6,6 +6,8 @@
 #include <QMetaType>
 #include <QString>
 
+#include <exception>
+
 namespace ExtensionSystem {
 
 /// The steps in a plug-in's life, in their order.
@@ -35,6 +37,20 @@ struct EXTENSIONSYSTEM_EXPORT PluginError
     [[nodiscard]] QString text() const;
     bool operator==(const PluginError &) const = default;
 };
+
+/// Runs the function; a throw goes no further and becomes the result, which is empty otherwise.
+template <typename Function>
+QString caught(Function function)
+{
+    try {
+        function();
+        return QString();
+    } catch (const std::exception &exception) {
+        return QStringLiteral("exception: ") + QString::fromLocal8Bit(exception.what());
+    } catch (...) {
+        return QStringLiteral("exception of unknown type");
+    }
+}
 
 } // namespace ExtensionSystem
 

@@ -3,10 +3,12 @@
 #include "pluginmanager_p.h"
 
 #include "logging_p.h"
+#include "platform_p.h"
 #include "pluginscanner.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 
 #include <cstdio>
 
@@ -16,7 +18,8 @@ Q_LOGGING_CATEGORY(lcExtensionSystem, "kelpa.extensionsystem", QtInfoMsg)
 
 namespace {
 PluginManager *s_pInstance = nullptr;
-}
+thread_local QString s_strActivity; // of the event that is being handled
+} // namespace
 
 PluginManager::PluginManager()
     : d(std::make_unique<Private>())
@@ -40,9 +43,48 @@ void PluginManager::setMessageSink(MessageSink sink)
     d->sink = std::move(sink);
 }
 
+void PluginManager::setNeededPlugins(const QStringList &names)
+{
+    d->needed = names;
+}
+
+void PluginManager::setLateWorkDelay(int nMs)
+{
+    d->nLateWorkDelayMs = nMs;
+}
+
+void PluginManager::startLateWork()
+{
+    if (d->runner)
+        d->runner->startLateWork();
+}
+
+void PluginManager::setHearsOtherStarts(bool bHears)
+{
+    if (s_pInstance && s_pInstance->d->instance)
+        s_pInstance->d->instance->setHears(bHears);
+}
+
 void PluginManager::setShutdownTimeout(int nTimeoutMs)
 {
     d->nShutdownTimeoutMs = nTimeoutMs;
+}
+
+QString PluginManager::setActivity(const QString &activity)
+{
+    return std::exchange(s_strActivity, activity);
+}
+
+void PluginManager::tellException(QEvent *pEvent, const QString &strActivity, const QString &strReason)
+{
+    if (pEvent->type() == QEvent::Close)
+        pEvent->ignore();
+    qCWarning(lcExtensionSystem).noquote()
+        << (strActivity.isEmpty() ? QStringLiteral("An event failed:")
+                                  : strActivity + QStringLiteral(" failed:"))
+        << strReason;
+    if (s_pInstance)
+        emit s_pInstance->exceptionCaught(strActivity, strReason);
 }
 
 QStringList PluginManager::arguments()
@@ -80,6 +122,8 @@ void PluginManager::report(const PluginError &error)
 {
     d->errors.append(error);
     qCWarning(lcExtensionSystem).noquote() << error.text();
+    if (error.phase == PluginPhase::RemoteCommand)
+        emit exceptionCaught(QString(), error.message);
 }
 
 std::optional<int> PluginManager::start(const QStringList &commandLine)
@@ -100,16 +144,17 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
         return explainOptions(commandLine, records);
     }
     QDir().mkpath(strSettings);
+    openSettings(strSettings);
+    emit aboutToLoadPlugins();
     if (const auto exitCode = claimInstance(strSettings))
         return exitCode;
-    openSettings(strSettings);
+    settings()->sync(); // the one whose place this takes may have written meanwhile
     setArguments(line.absoluteArguments());
     const auto missing = line.missingFolders();
     for (const PluginError &error : missing + clashes)
         report(error);
     for (PluginRecord &record : records)
         record.arguments = line.pluginOptions(record.spec.name);
-    emit aboutToLoadPlugins();
     return startPlugins(records);
 }
 
@@ -142,8 +187,9 @@ std::optional<int> PluginManager::claimInstance(const QString &strSettingsFolder
     return std::nullopt;
 }
 
-std::optional<int> PluginManager::startPlugins(const QList<PluginRecord> &records)
+std::optional<int> PluginManager::startPlugins(QList<PluginRecord> records)
 {
+    markNeeded(&records);
     d->runner = std::make_unique<PluginRunner>(records, d->line->selection());
     d->runner->setProfiled(d->line->wantsProfile());
     for (const PluginError &error : d->runner->errors())
@@ -151,11 +197,27 @@ std::optional<int> PluginManager::startPlugins(const QList<PluginRecord> &record
     connect(d->runner.get(), &PluginRunner::failed, this, &PluginManager::report);
     connect(d->runner.get(), &PluginRunner::requiredPluginFailed, this, &PluginManager::requiredPluginFailed);
     connect(d->runner.get(), &PluginRunner::initializationDone, this, &PluginManager::finishStart);
-    if (!d->runner->start() || d->runner->running().isEmpty())
+    if (!d->runner->start(d->nLateWorkDelayMs) || d->runner->running().isEmpty())
         return failStart();
     d->bTakesCommands = true;
+    Platform::onTermination(this, [this] { emit endRequested(); });
     QMetaObject::invokeMethod(this, &PluginManager::runCommands, Qt::QueuedConnection);
     return std::nullopt;
+}
+
+// A library that cannot be read cannot say that it is required.
+void PluginManager::markNeeded(QList<PluginRecord> *pRecords) const
+{
+    for (const QString &strName : std::as_const(d->needed)) {
+        bool bFound = false;
+        for (PluginRecord &record : *pRecords) {
+            if (record.spec.name == strName)
+                bFound = record.spec.bRequired = true;
+        }
+        if (!bFound)
+            pRecords->append(unusablePlugin(strName, d->line->pluginFolders().join(QStringLiteral(", ")),
+                QStringLiteral("there is no such library"), true));
+    }
 }
 
 int PluginManager::failStart()
@@ -182,7 +244,7 @@ void PluginManager::finishStart()
         tell(Message::Note, d->runner->profile());
 }
 
-// Plug-ins hear of it once all run, and of one after the other: a file may open a message box.
+// Plug-ins hear of it once all run; also while the hook for an earlier one shows a message box.
 void PluginManager::takeCommand(const RemoteCommand &command)
 {
     d->commands.append(command);
@@ -191,19 +253,16 @@ void PluginManager::takeCommand(const RemoteCommand &command)
 
 void PluginManager::runCommands()
 {
-    if (d->bRunsCommands || !d->bTakesCommands)
-        return;
-    d->bRunsCommands = true;
     while (d->bTakesCommands && !d->commands.isEmpty()) {
         const RemoteCommand command = d->commands.takeFirst();
         d->runner->remoteCommand(command.options, command.workingDirectory, command.arguments);
     }
-    d->bRunsCommands = false;
 }
 
 void PluginManager::shutdown()
 {
     d->bTakesCommands = false;
+    Platform::resetTermination();
     d->instance.reset(); // a start from now on is a first one
     for (const RemoteCommand &command : std::as_const(d->commands))
         qCWarning(lcExtensionSystem).noquote() << "The program ends before it could open" << command.arguments

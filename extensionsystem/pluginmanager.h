@@ -16,6 +16,8 @@
 #include <memory>
 #include <optional>
 
+class QEvent;
+
 namespace ExtensionSystem {
 
 struct RemoteCommand;
@@ -48,6 +50,15 @@ public:
     /// How messages reach the user; without one they go to standard output and standard error.
     void setMessageSink(MessageSink sink);
 
+    /// The plug-ins without which start() fails, also when their libraries are missing or unreadable. Others
+    /// are needed when their metadata says so.
+    void setNeededPlugins(const QStringList &names);
+
+    /// Late work of the plug-ins waits for startLateWork(), in milliseconds no longer than this; 0 unless
+    /// set.
+    void setLateWorkDelay(int nMs);
+    void startLateWork();
+
     /// The whole start up to the event loop. `commandLine` begins with the program's name. A result means
     /// that the program ends with this exit code. Later failures of required plug-ins end the event loop
     /// with exit code 1.
@@ -59,6 +70,28 @@ public:
 
     /// How long shutdown() waits for asynchronous plug-ins, in milliseconds; 5000 unless set.
     void setShutdownTimeout(int nTimeoutMs);
+
+    /// Delivers an event; QApplication::notify() of a program calls nothing else, in any thread. What is
+    /// thrown meanwhile goes no further: exceptionCaught() tells it, a window that was to close stays, and
+    /// false is the result.
+    template <typename Function>
+    static bool deliver(QEvent *event, Function function)
+    {
+        const QString strOuter = setActivity(QString());
+        bool bResult = false;
+        const QString strThrown = caught([&] { bResult = function(); });
+        const QString strActivity = setActivity(strOuter);
+        if (!strThrown.isEmpty())
+            tellException(event, strActivity, strThrown);
+        return bResult;
+    }
+
+    /// Names what the present event makes the program do, such as the id of a command. The result is the name
+    /// before.
+    static QString setActivity(const QString &activity);
+
+    /// While the program may be ending, false: other starts are not heard and run by themselves.
+    static void setHearsOtherStarts(bool bHears);
 
     /// Free arguments of the command line, made absolute.
     [[nodiscard]] static QStringList arguments();
@@ -76,6 +109,9 @@ public:
 
     /// Call after sync(): reports a store that could not be read or written, once for each store.
     static void checkSettings();
+
+    /// Writes a store to its file now. False: it could not be written, which was reported once.
+    static bool storeSettings(QSettings *settings);
 
     /// What was reported; those of the start were reported before any plug-in could listen.
     [[nodiscard]] static QList<SettingsFault> settingsFaults();
@@ -122,15 +158,24 @@ signals:
     /// A settings store could not be read or written. The program goes on without it.
     void settingsFailed(const QString &file, const QString &reason);
 
+    /// A slot, an event handler or a plug-in's remoteCommand() threw; `activity` is what setActivity() last
+    /// named in that event, or empty. In the thread that threw.
+    void exceptionCaught(const QString &activity, const QString &reason);
+
+    /// The system asks the program to end (SIGTERM): who listens calls QCoreApplication::quit().
+    void endRequested();
+
 private:
     struct Private;
 
+    static void tellException(QEvent *pEvent, const QString &strActivity, const QString &strReason);
     void tell(Message kind, const QString &text) const;
     void report(const PluginError &error);
     [[nodiscard]] int explainOptions(const QStringList &commandLine, const QList<PluginRecord> &records);
     [[nodiscard]] std::optional<int> claimInstance(const QString &strSettingsFolder);
     void openSettings(const QString &strFolder);
-    [[nodiscard]] std::optional<int> startPlugins(const QList<PluginRecord> &records);
+    [[nodiscard]] std::optional<int> startPlugins(QList<PluginRecord> records);
+    void markNeeded(QList<PluginRecord> *pRecords) const;
     [[nodiscard]] int failStart();
     void requiredPluginFailed();
     void finishStart();

@@ -17,11 +17,12 @@ struct PluginManager::Private
     std::unique_ptr<SingleInstance> instance;
     QList<PluginError> errors;
     QStringList arguments;
+    QStringList needed; // plug-ins, by name
+    int nLateWorkDelayMs = 0;
     int nShutdownTimeoutMs = 5000;
 
     QList<RemoteCommand> commands; // received, not yet run
     bool bTakesCommands = false; // between the plug-ins' start and their shutdown
-    bool bRunsCommands = false;
 
     SettingsStore user;
     SettingsStore machine;

@@ -48,6 +48,19 @@ void PluginManager::checkSettings()
     }
 }
 
+// The status of a store keeps its first fault for ever; a fresh view of the same file has one of its own, and
+// shares what is still to be written.
+bool PluginManager::storeSettings(QSettings *settings)
+{
+    if (!settings)
+        return false;
+    settings->sync();
+    checkSettings();
+    QSettings view(settings->fileName(), settings->format());
+    view.sync();
+    return view.status() != QSettings::AccessError;
+}
+
 QList<SettingsFault> PluginManager::settingsFaults()
 {
     return instance() ? instance()->d->faults : QList<SettingsFault>();

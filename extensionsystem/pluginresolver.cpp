@@ -86,7 +86,8 @@ void Resolver::nameRecords()
             if (spec.problems.isEmpty() != bSound)
                 continue;
             verdict(i).reason = ownReason(spec);
-            if (!m_byName.contains(spec.name))
+            verdict(i).bOwnsName = !m_byName.contains(spec.name);
+            if (verdict(i).bOwnsName)
                 m_byName.insert(spec.name, i);
             else if (bSound)
                 verdict(i).reason = QStringLiteral("a plug-in of this name was found before: %1")

@@ -20,6 +20,7 @@ struct PluginSelection
 struct PluginVerdict
 {
     bool bSelected = true; ///< false: left out on purpose, which is no error
+    bool bOwnsName = false; ///< false: another record has the name
     QString reason; ///< why it cannot be used; empty when it can
     QList<int> required; ///< records it needs running
 };

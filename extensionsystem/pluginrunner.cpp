@@ -11,8 +11,9 @@
 #include <QSet>
 #include <QTimer>
 
-#include <exception>
+#include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace ExtensionSystem {
@@ -21,20 +22,10 @@ namespace {
 
 // What one turn of the event loop may cost; the window stays lively.
 constexpr int s_nTurnMs = 20;
-
-// Runs the hook; a throw becomes the reason that is returned.
-template <typename Function>
-QString caught(Function function)
-{
-    try {
-        function();
-        return QString();
-    } catch (const std::exception &exception) {
-        return QStringLiteral("exception: ") + QString::fromLocal8Bit(exception.what());
-    } catch (...) {
-        return QStringLiteral("exception of unknown type");
-    }
-}
+// After these many turns of late work there is a pause before each, which grows by a millisecond.
+constexpr int s_nTurnsWithoutPause = 10;
+constexpr int s_nLongestPauseMs = 50;
+constexpr int s_nLatePauseMs = 1000; // once the start is over
 
 } // namespace
 
@@ -47,11 +38,14 @@ struct PluginRunner::Private
         QString reason;
         QList<int> required;
         QPointer<IPlugin> object;
+        bool bNeeded = false; ///< marked "Required", and no library before it has its name
     };
 
     explicit Private(PluginRunner *pOwner)
         : q(pOwner)
     {
+        turn.setSingleShot(true);
+        connect(&turn, &QTimer::timeout, q, [this] { delayedTurn(); });
     }
 
     void resolve(const QList<PluginRecord> &records, const PluginSelection &selection);
@@ -67,6 +61,15 @@ struct PluginRunner::Private
         return profile.measure(plugins[n].record.spec.name, phase, [&] { return caught(function); });
     }
 
+    // The same for a hook of the object, which may delete itself.
+    template <typename Function>
+    QString objectHook(int n, PluginPhase phase, Function function)
+    {
+        const QPointer<IPlugin> &pObject = plugins[n].object;
+        const QString strThrown = pObject ? hook(n, phase, [&] { function(pObject.data()); }) : QString();
+        return pObject || !strThrown.isEmpty() ? strThrown : QStringLiteral("its object was deleted");
+    }
+
     bool constructAll();
     void construct(int n);
     bool initializeAll();
@@ -74,6 +77,7 @@ struct PluginRunner::Private
     bool extensionsInitializedAll();
     void delayedTurn();
     void nextTurn();
+    void endStart();
     bool delayedInitialize(int n);
     void stopFailed(PluginPhase phase);
     void askToStop(const QList<int> &records, int nTimeoutMs);
@@ -87,6 +91,11 @@ struct PluginRunner::Private
     QList<PluginError> errors;
     std::optional<PluginError> requiredFailure;
     QList<int> delayed;
+    QTimer turn; // of late work, the next
+    int nTurns = 0;
+    int nLateLimitMs = 10000;
+    QDeadlineTimer lateLimit;
+    bool bStartEnded = false;
     int nStopTimeoutMs = 5000;
     StartProfile profile;
 };
@@ -152,7 +161,8 @@ void PluginRunner::Private::resolve(const QList<PluginRecord> &records, const Pl
     order = resolution.order;
     for (int i = 0; i < records.size(); ++i) {
         const PluginVerdict &verdict = resolution.verdicts.at(i);
-        plugins.push_back({records.at(i), PluginState::Found, QString(), verdict.required, nullptr});
+        plugins.push_back({records.at(i), PluginState::Found, QString(), verdict.required, nullptr,
+            specs.at(i).bRequired && verdict.bOwnsName});
         if (!verdict.bSelected)
             plugins.back().state = PluginState::LeftOut;
         const bool bRequiredLeftOut = !verdict.bSelected && specs.at(i).bRequired && verdict.reason.isEmpty();
@@ -187,7 +197,7 @@ void PluginRunner::Private::fail(int n, PluginPhase phase, const QString &strRea
     plugins[n].state = PluginState::Failed;
     plugins[n].reason = strReason;
     const PluginError error = note(n, phase, strReason);
-    if (plugins[n].record.spec.bRequired && !requiredFailure)
+    if (plugins[n].bNeeded && !requiredFailure)
         requiredFailure = error;
 }
 
@@ -214,15 +224,26 @@ QList<int> PluginRunner::Private::inState(PluginState state) const
     return records;
 }
 
-bool PluginRunner::start()
+bool PluginRunner::start(int nLateWorkMs)
 {
     if (!d->requiredFailure && d->constructAll() && d->initializeAll() && d->extensionsInitializedAll()) {
         d->delayed = d->inState(PluginState::Running);
-        QTimer::singleShot(0, this, [this] { d->delayedTurn(); });
+        d->turn.start(nLateWorkMs);
         return true;
     }
     shutdown(d->nStopTimeoutMs);
     return false;
+}
+
+void PluginRunner::startLateWork()
+{
+    if (d->turn.isActive() && d->nTurns == 0)
+        d->turn.start(0);
+}
+
+void PluginRunner::setLateWorkLimit(int nMs)
+{
+    d->nLateLimitMs = nMs;
 }
 
 bool PluginRunner::Private::constructAll()
@@ -267,14 +288,14 @@ void PluginRunner::Private::initialize(int n)
     Plugin &plugin = plugins[n];
     QString strError;
     bool bDone = false;
-    const QString strThrown = hook(n, PluginPhase::Initialize,
-        [&] { bDone = plugin.object->initialize(plugin.record.arguments, &strError); });
-    if (bDone)
-        plugin.state = PluginState::Initialized;
-    else if (strThrown.isEmpty())
-        fail(n, PluginPhase::Initialize, strError.isEmpty() ? QStringLiteral("it gave no reason") : strError);
-    else
+    const QString strThrown = objectHook(n, PluginPhase::Initialize,
+        [&](IPlugin *pObject) { bDone = pObject->initialize(plugin.record.arguments, &strError); });
+    if (!strThrown.isEmpty())
         fail(n, PluginPhase::Initialize, strThrown);
+    else if (bDone)
+        plugin.state = PluginState::Initialized;
+    else
+        fail(n, PluginPhase::Initialize, strError.isEmpty() ? QStringLiteral("it gave no reason") : strError);
 }
 
 bool PluginRunner::Private::extensionsInitializedAll()
@@ -283,8 +304,8 @@ bool PluginRunner::Private::extensionsInitializedAll()
     for (auto it = records.crbegin(); it != records.crend() && !requiredFailure; ++it) {
         Plugin &plugin = plugins[*it];
         plugin.state = PluginState::Running;
-        const QString strThrown =
-            hook(*it, PluginPhase::ExtensionsInitialized, [&] { plugin.object->extensionsInitialized(); });
+        const QString strThrown = objectHook(*it, PluginPhase::ExtensionsInitialized,
+            [](IPlugin *pObject) { pObject->extensionsInitialized(); });
         if (!strThrown.isEmpty())
             fail(*it, PluginPhase::ExtensionsInitialized, strThrown);
     }
@@ -295,6 +316,8 @@ bool PluginRunner::Private::extensionsInitializedAll()
 // One turn of late work: as many plug-ins as the time allows, each once.
 void PluginRunner::Private::delayedTurn()
 {
+    if (nTurns++ == 0)
+        lateLimit.setRemainingTime(nLateLimitMs);
     QList<int> again;
     const QDeadlineTimer deadline(s_nTurnMs);
     while (!delayed.isEmpty() && !requiredFailure) {
@@ -311,11 +334,21 @@ void PluginRunner::Private::delayedTurn()
 void PluginRunner::Private::nextTurn()
 {
     if (requiredFailure)
-        emit q->requiredPluginFailed();
-    else if (!delayed.isEmpty())
-        QTimer::singleShot(0, q, [this] { delayedTurn(); });
-    else
-        emit q->initializationDone();
+        return emit q->requiredPluginFailed();
+    const bool bOver = delayed.isEmpty() || lateLimit.hasExpired();
+    if (!delayed.isEmpty())
+        turn.start(bOver ? s_nLatePauseMs : std::clamp(nTurns - s_nTurnsWithoutPause, 0, s_nLongestPauseMs));
+    if (bOver && !std::exchange(bStartEnded, true))
+        endStart();
+}
+
+// Whoever never finishes must not keep the others from hearing that the program is up.
+void PluginRunner::Private::endStart()
+{
+    for (const int n : std::as_const(delayed))
+        note(n, PluginPhase::DelayedInitialize,
+            QStringLiteral("it did not finish within %1 ms").arg(nLateLimitMs));
+    emit q->initializationDone();
 }
 
 // False: it wants another turn.
@@ -324,8 +357,8 @@ bool PluginRunner::Private::delayedInitialize(int n)
     if (plugins[n].state != PluginState::Running)
         return true;
     bool bFinished = true;
-    const QString strThrown =
-        hook(n, PluginPhase::DelayedInitialize, [&] { bFinished = plugins[n].object->delayedInitialize(); });
+    const QString strThrown = objectHook(n, PluginPhase::DelayedInitialize,
+        [&](IPlugin *pObject) { bFinished = pObject->delayedInitialize(); });
     if (strThrown.isEmpty())
         return bFinished;
     fail(n, PluginPhase::DelayedInitialize, strThrown);
@@ -352,6 +385,7 @@ void PluginRunner::Private::stopFailed(PluginPhase phase)
 void PluginRunner::shutdown(int nTimeoutMs)
 {
     d->delayed.clear();
+    d->turn.stop();
     d->askToStop(d->inState(PluginState::Running), nTimeoutMs);
     d->destroy(d->order);
 }

@@ -33,9 +33,17 @@ public:
     void setProfiled(bool bProfiled);
     [[nodiscard]] QString profile() const;
 
-    /// Constructs and initialises all plug-ins; delayed work follows from the event loop, then
-    /// initializationDone(). False: a required plug-in failed, requiredFailure() says how, nothing runs.
-    [[nodiscard]] bool start();
+    /// Constructs and initialises all plug-ins; delayed work follows from the event loop after so many
+    /// milliseconds or startLateWork(), then initializationDone(). False: a required plug-in failed,
+    /// requiredFailure() says how, nothing runs.
+    [[nodiscard]] bool start(int nLateWorkMs = 0);
+
+    /// Waits no longer with the delayed work; nothing happens when it has begun.
+    void startLateWork();
+
+    /// After so many milliseconds of delayed work, 10000 unless set, initializationDone() comes also while
+    /// plug-ins have not finished. Each is noted as an error, and has a turn each second from then on.
+    void setLateWorkLimit(int nMs);
 
     /// Null as long as no plug-in marked "Required" has failed.
     [[nodiscard]] const PluginError *requiredFailure() const;

@@ -2,6 +2,7 @@
 #include <extensionsystem/pluginscanner.h>
 
 #include "logging_p.h"
+#include "platform_p.h"
 
 #include <extensionsystem/iplugin.h>
 
@@ -35,12 +36,21 @@ IPlugin *loadPlugin(QPluginLoader &loader, QString *pErrorString)
     return nullptr;
 }
 
+// For a library that cannot say it itself.
+QString nameOf(const QString &strFile)
+{
+    const QString strName = QFileInfo(strFile).completeBaseName();
+    return strName.startsWith(QLatin1String("lib")) ? strName.mid(3) : strName;
+}
+
 // The loader that read the metadata loads the library later, so that the file is read once.
 std::optional<PluginRecord> readPlugin(const QString &strFile)
 {
     QElapsedTimer timer;
     timer.start();
     const auto pLoader = std::make_shared<QPluginLoader>(strFile);
+    if (pLoader->metaData().isEmpty() && !Platform::isWholeLibrary(strFile))
+        return unusablePlugin(nameOf(strFile), strFile, QStringLiteral("the library is incomplete"));
     if (pLoader->metaData().value(QLatin1String("IID")).toString() != s_iid)
         return std::nullopt;
     PluginRecord record;
@@ -52,6 +62,17 @@ std::optional<PluginRecord> readPlugin(const QString &strFile)
 }
 
 } // namespace
+
+PluginRecord unusablePlugin(
+    const QString &strName, const QString &strFile, const QString &strProblem, bool bRequired)
+{
+    PluginRecord record;
+    record.spec.name = strName;
+    record.spec.file = strFile;
+    record.spec.problems.append(strProblem);
+    record.spec.bRequired = bRequired;
+    return record;
+}
 
 QList<PluginRecord> findPlugins(const QStringList &folders)
 {

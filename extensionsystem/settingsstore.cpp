@@ -94,7 +94,11 @@ void SettingsStore::set(std::unique_ptr<QSettings> pSettings)
 
 bool SettingsStore::takeFault(SettingsFault *pFault)
 {
-    if (m_bTold || !m_pSettings || m_pSettings->status() == QSettings::NoError)
+    const auto isSound = [](const QSettings &settings) {
+        return settings.status() == QSettings::NoError
+            && (settings.scope() == QSettings::SystemScope || settings.isWritable());
+    };
+    if (m_bTold || !m_pSettings || isSound(*m_pSettings))
         return false;
     m_bTold = true;
     *pFault = {m_pSettings->fileName(), reasonOf(*m_pSettings)};

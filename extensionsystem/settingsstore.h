@@ -34,7 +34,8 @@ public:
     void set(std::unique_ptr<QSettings> pSettings);
     [[nodiscard]] QSettings *get() const { return m_pSettings.get(); }
 
-    /// The fault the store has now; true only the first time there is one.
+    /// The fault the store has now; true only the first time there is one. That the user's store could not be
+    /// written is one before anything is.
     [[nodiscard]] bool takeFault(SettingsFault *pFault);
 
 private:

@@ -17,6 +17,8 @@
 #include <QTimer>
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace ExtensionSystem {
 
 namespace {
@@ -184,8 +186,11 @@ SingleInstance::Role SingleInstance::alone(const QString &strProblem)
 
 void SingleInstance::accept(QLocalSocket *pSocket)
 {
-    ++m_nClients;
-    if (m_nClients > s_nMostClients)
+    if (!m_bHears)
+        return release(pSocket);
+    const auto sockets = m_pServer->findChildren<QLocalSocket *>();
+    const auto isOpen = [](const QLocalSocket *pClient) { return pClient->isOpen(); };
+    if (std::count_if(sockets.begin(), sockets.end(), isOpen) > s_nMostClients)
         return drop(pSocket, "too many connections at a time");
     if (!Platform::isOwnPeer(*pSocket))
         return drop(pSocket, "the sender is another user");
@@ -214,13 +219,21 @@ void SingleInstance::read(QLocalSocket *pSocket)
     receive(pSocket, pSocket->read(nSize));
 }
 
+// A sender that had no patience left has gone, and does by itself what it asked for.
 void SingleInstance::receive(QLocalSocket *pSocket, const QByteArray &json)
 {
+    if (!m_bHears)
+        return release(pSocket);
     const auto command = RemoteCommand::fromJson(json);
     if (!command)
         return drop(pSocket, "it is malformed");
+    pSocket->disconnect(this); // the write may find that the sender left
     pSocket->write(s_receipt);
-    pSocket->flush();
+    const bool bOut = pSocket->flush()
+        || (pSocket->state() == QLocalSocket::ConnectedState
+            && pSocket->waitForBytesWritten(s_nMessageTimeMs));
+    if (!bOut)
+        return drop(pSocket, "the sender did not wait for the receipt");
     release(pSocket);
     QMetaObject::invokeMethod(
         this, [this, command] { emit commandReceived(*command); }, Qt::QueuedConnection);
@@ -234,7 +247,6 @@ void SingleInstance::drop(QLocalSocket *pSocket, const char *pReason)
 
 void SingleInstance::release(QLocalSocket *pSocket)
 {
-    --m_nClients;
     pSocket->disconnect(this);
     if (auto *pTimer = pSocket->findChild<QTimer *>())
         pTimer->stop();

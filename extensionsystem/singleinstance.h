@@ -55,8 +55,11 @@ public:
     /// Where the first one listens; empty when there is no safe place.
     [[nodiscard]] QString serverName() const { return m_strName; }
 
+    /// While it does not listen, other starts find nobody there: they try again, then run by themselves.
+    void setHears(bool bHears) { m_bHears = bHears; }
+
 signals:
-    /// From the event loop, after the receipt went out.
+    /// From the event loop, after the receipt went out; never for a sender that did not wait for it.
     void commandReceived(const ExtensionSystem::RemoteCommand &command);
 
 private:
@@ -78,7 +81,7 @@ private:
     QString m_strLockFile;
     QString m_strProblem;
     std::unique_ptr<QLocalServer> m_pServer;
-    int m_nClients = 0;
+    bool m_bHears = true;
 };
 
 } // namespace ExtensionSystem

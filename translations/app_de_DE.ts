@@ -100,6 +100,26 @@
     </message>
 </context>
 <context>
+    <name>CorePlugin</name>
+    <message>
+        <source>Something failed: %1</source>
+        <translation>Etwas ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed: %2</source>
+        <comment>a command, a reason</comment>
+        <translation>„%1“ ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>The settings in %1 cannot be read or written.</source>
+        <translation>Die Einstellungen in %1 können nicht gelesen oder geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>These plug-ins could not be started: %1.</source>
+        <translation>Diese Plug-ins konnten nicht gestartet werden: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>Downloading Updates</source>
@@ -894,6 +914,13 @@ Eine Bühne von %2 mal %3 Pixeln mit %4 Bildern pro Sekunde ist nicht möglich.<
     <message>
         <source>%1 is open. Close it first.</source>
         <translation>%1 ist geöffnet. Schließen Sie die Datei zuerst.</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionPage</name>
+    <message>
+        <source>The settings could not be saved.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>

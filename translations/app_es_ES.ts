@@ -100,6 +100,26 @@
     </message>
 </context>
 <context>
+    <name>CorePlugin</name>
+    <message>
+        <source>Something failed: %1</source>
+        <translation>Algo ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed: %2</source>
+        <comment>a command, a reason</comment>
+        <translation>«%1» ha fallado: %2</translation>
+    </message>
+    <message>
+        <source>The settings in %1 cannot be read or written.</source>
+        <translation>No se puede leer o escribir la configuración en %1.</translation>
+    </message>
+    <message>
+        <source>These plug-ins could not be started: %1.</source>
+        <translation>No se pudieron iniciar estos complementos: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>Downloading Updates</source>
@@ -894,6 +914,13 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
     <message>
         <source>%1 is open. Close it first.</source>
         <translation>%1 está abierto. Ciérrelo primero.</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionPage</name>
+    <message>
+        <source>The settings could not be saved.</source>
+        <translation>No se pudo guardar la configuración.</translation>
     </message>
 </context>
 <context>

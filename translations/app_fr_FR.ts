@@ -100,6 +100,26 @@
     </message>
 </context>
 <context>
+    <name>CorePlugin</name>
+    <message>
+        <source>Something failed: %1</source>
+        <translation>Une erreur s’est produite : %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed: %2</source>
+        <comment>a command, a reason</comment>
+        <translation>« %1 » a échoué : %2</translation>
+    </message>
+    <message>
+        <source>The settings in %1 cannot be read or written.</source>
+        <translation>Les réglages dans %1 ne peuvent pas être lus ou écrits.</translation>
+    </message>
+    <message>
+        <source>These plug-ins could not be started: %1.</source>
+        <translation>Ces modules n’ont pas pu être démarrés : %1.</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>Downloading Updates</source>
@@ -894,6 +914,13 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
     <message>
         <source>%1 is open. Close it first.</source>
         <translation>%1 est ouvert. Fermez-le d&apos;abord.</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionPage</name>
+    <message>
+        <source>The settings could not be saved.</source>
+        <translation>Les réglages n’ont pas pu être enregistrés.</translation>
     </message>
 </context>
 <context>

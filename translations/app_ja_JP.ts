@@ -100,6 +100,26 @@
     </message>
 </context>
 <context>
+    <name>CorePlugin</name>
+    <message>
+        <source>Something failed: %1</source>
+        <translation>問題が発生しました: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed: %2</source>
+        <comment>a command, a reason</comment>
+        <translation>「%1」は失敗しました: %2</translation>
+    </message>
+    <message>
+        <source>The settings in %1 cannot be read or written.</source>
+        <translation>%1 の設定を読み書きできません。</translation>
+    </message>
+    <message>
+        <source>These plug-ins could not be started: %1.</source>
+        <translation>次のプラグインを起動できませんでした: %1</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>Downloading Updates</source>
@@ -894,6 +914,13 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
     <message>
         <source>%1 is open. Close it first.</source>
         <translation>%1 は開かれています。先に閉じてください。</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionPage</name>
+    <message>
+        <source>The settings could not be saved.</source>
+        <translation>設定を保存できませんでした。</translation>
     </message>
 </context>
 <context>

@@ -100,6 +100,26 @@
     </message>
 </context>
 <context>
+    <name>CorePlugin</name>
+    <message>
+        <source>Something failed: %1</source>
+        <translation>Algo falhou: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed: %2</source>
+        <comment>a command, a reason</comment>
+        <translation>“%1” falhou: %2</translation>
+    </message>
+    <message>
+        <source>The settings in %1 cannot be read or written.</source>
+        <translation>Não é possível ler ou gravar as configurações em %1.</translation>
+    </message>
+    <message>
+        <source>These plug-ins could not be started: %1.</source>
+        <translation>Não foi possível iniciar estes plug-ins: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>Downloading Updates</source>
@@ -894,6 +914,13 @@ Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</tran
     <message>
         <source>%1 is open. Close it first.</source>
         <translation>%1 está aberto. Feche-o primeiro.</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionPage</name>
+    <message>
+        <source>The settings could not be saved.</source>
+        <translation>Não foi possível salvar as configurações.</translation>
     </message>
 </context>
 <context>

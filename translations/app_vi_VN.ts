@@ -100,6 +100,26 @@
     </message>
 </context>
 <context>
+    <name>CorePlugin</name>
+    <message>
+        <source>Something failed: %1</source>
+        <translation>Đã xảy ra lỗi: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed: %2</source>
+        <comment>a command, a reason</comment>
+        <translation>“%1” không thực hiện được: %2</translation>
+    </message>
+    <message>
+        <source>The settings in %1 cannot be read or written.</source>
+        <translation>Không thể đọc hoặc ghi thiết đặt trong %1.</translation>
+    </message>
+    <message>
+        <source>These plug-ins could not be started: %1.</source>
+        <translation>Không thể khởi động các phần bổ trợ này: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>Downloading Updates</source>
@@ -894,6 +914,13 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
     <message>
         <source>%1 is open. Close it first.</source>
         <translation>%1 đang mở. Hãy đóng trước.</translation>
+    </message>
+</context>
+<context>
+    <name>StageOptionPage</name>
+    <message>
+        <source>The settings could not be saved.</source>
+        <translation>Không thể lưu thiết đặt.</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,8 @@
 #include "icore.h"
 #include "mainwindow.h"
 
+#include <extensionsystem/pluginmanager.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -32,6 +34,9 @@ ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManage
     , m_pManager(pManager)
 {
     m_pProxy->setShortcutVisibleInToolTip(true);
+    // The first connection: when a slot throws, the user is told which command it was.
+    connect(m_pProxy, &QAction::triggered, this,
+        [this] { ExtensionSystem::PluginManager::setActivity(m_strId); });
     connect(m_pProxy, &QAction::changed, this, &ContextAction::updateActiveState);
 }
 

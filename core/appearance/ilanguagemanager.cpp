@@ -87,5 +87,5 @@ bool ILanguageManager::saveLanguage(const QString &strId)
     if (!bListed || !m_pSettings)
         return false;
     m_pSettings->setValue(s_key, strId);
-    return true;
+    return ExtensionSystem::PluginManager::storeSettings(m_pSettings);
 }

@@ -51,7 +51,8 @@ public:
     /// As stored; empty when never saved.
     [[nodiscard]] QString getSaveLangId() const;
 
-    /// Stores the id of a listed language, spelled exactly so; false and nothing stored for any other.
+    /// Stores the id of a listed language, spelled exactly so; false and nothing stored for any other, and
+    /// when the store cannot be written.
     bool saveLanguage(const QString &strId);
 
     /// Replaces the store; not owned.

@@ -114,7 +114,7 @@ bool IThemesManager::saveThemes(const QString &strId)
     if (!bListed || !m_pSettings)
         return false;
     m_pSettings->setValue(s_key, strId);
-    return true;
+    return ExtensionSystem::PluginManager::storeSettings(m_pSettings);
 }
 
 // Themes other than "Dark" keep no raw sheet, so they are applied as they stand and then lost. Programs that

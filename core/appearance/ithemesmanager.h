@@ -43,7 +43,8 @@ public:
     /// As stored, "Dark" when nothing is.
     [[nodiscard]] QString getSaveThemeId() const;
 
-    /// Stores the id of a listed theme, spelled exactly so; false and nothing stored for any other.
+    /// Stores the id of a listed theme, spelled exactly so; false and nothing stored for any other, and when
+    /// the store cannot be written.
     bool saveThemes(const QString &strId);
 
     /// Gives the application the sheet of "Dark" again, with the sizes for the main window's screen. While

@@ -57,12 +57,12 @@ ThemeMenu::ThemeMenu()
 }
 
 // The check mark stays with the theme in force. Going back to that one after another choice is a choice too,
-// but needs no next start; another one is told each time it is chosen.
+// but needs no next start; another one is told, and stored, each time it is chosen.
 void ThemeMenu::choose(QAction *pAction)
 {
     IThemesManager &manager = IThemesManager::getInstance();
     const QString strId = pAction->data().toString();
-    if (strId != manager.getSaveThemeId() && !manager.saveThemes(strId))
+    if (!manager.saveThemes(strId))
         tell(tr("Failed to change theme."));
     else if (strId != manager.getCurrentThemeId())
         tell(tr("The theme change will take effect from the next run."));

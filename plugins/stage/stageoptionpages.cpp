@@ -3,6 +3,7 @@
 
 #include <appearance/ilanguagemanager.h>
 #include <document/documentmanager.h>
+#include <extensionsystem/pluginmanager.h>
 #include <iui.h>
 
 #include <QCheckBox>
@@ -15,6 +16,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStyledItemDelegate>
+
+using ExtensionSystem::PluginManager;
 
 namespace {
 
@@ -78,6 +81,15 @@ void StageOptionPage::discardChanges()
 {
     initValues();
     IOptionPage::discardChanges();
+}
+
+// What could not be written stays marked as changed.
+void StageOptionPage::saveChanges()
+{
+    if (PluginManager::storeSettings(PluginManager::settings()))
+        IOptionPage::saveChanges();
+    else
+        IUi::information(this, QStringLiteral("Kelpa Studio"), tr("The settings could not be saved."));
 }
 
 void StageOptionPage::markChanged()

@@ -21,6 +21,7 @@ public:
 
     void initValues() override;
     void discardChanges() override;
+    void saveChanges() override;
 
 protected:
     /// Puts what the settings hold into the controls.

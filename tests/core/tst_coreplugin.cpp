@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <support/coretest.h>
 
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
+#include <appearance/ilanguagemanager.h>
 #include <extensionsystem/iplugin.h>
 #include <icore.h>
 #include <mainwindow.h>
@@ -79,9 +82,46 @@ private slots:
         QVERIFY(QMetaObject::invokeMethod(ICore::getInstance(), "saveSettings"));
         QVERIFY(contentOf(m_pProgram->filePath("user.ini")).contains("late=user"));
         QVERIFY(contentOf(m_pProgram->filePath("machine.ini")).contains("late=machine"));
+
+        // What cannot be written is told.
+        const QString strFile = m_pProgram->filePath("user.ini");
+        QVERIFY(ILanguageManager::getInstance().saveLanguage("en_US"));
+        QVERIFY(QFile::remove(strFile) && QDir().mkpath(strFile));
+        QVERIFY(!ILanguageManager::getInstance().saveLanguage("en_US"));
+        QCOMPARE(told(), QString("The settings in %1 cannot be read or written.").arg(strFile));
+    }
+
+    void unsavedWorkIsCopiedWhenSomethingFailsAndBeforeTheEnd()
+    {
+        m_pPlugin->extensionsInitialized();
+        QCOMPARE(told(), QString());
+        QVERIFY(ICore::getMainWindow()->loadFile(m_pProgram->write("a.kelpa")));
+        FakeDocument *pDocument = m_pFactory->documents.constFirst();
+        pDocument->modify();
+        m_pFactory->prepare = [](FakeDocument *) { throw std::runtime_error("no ink"); };
+        QCloseEvent event;
+        const auto fileNew = [] {
+            return ActionManager::getAction("File.New")->getAction()->trigger(), true;
+        };
+        QVERIFY(!PluginManager::deliver(&event, fileNew) && !event.isAccepted());
+        QCOMPARE(told(), "\"New\" failed: exception: no ink");
+        PluginManager::deliver(&event, [] { return throw 7, true; });
+        QCOMPARE(told(), "Something failed: exception of unknown type");
+
+        BoxAnswers answers({QMessageBox::Cancel});
+        const auto request = [this] {
+            emit m_pProgram->manager.endRequested();
+            QCoreApplication::exit();
+        };
+        QMetaObject::invokeMethod(this, request, Qt::QueuedConnection);
+        QCoreApplication::exec();
+        QCOMPARE(answers.boxes.size(), 1);
+        QCOMPARE(pDocument->calls, QStringList({"saveBackup", "saveBackup", "saveBackup", "close"}));
     }
 
 private:
+    static QString told() { return ICore::getMainWindow()->getNotificationBar()->text(); }
+
     [[nodiscard]] QStringList names() const
     {
         QStringList result;

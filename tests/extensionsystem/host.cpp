@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A program with nothing but the framework, for tests. It prints what it learns, and ends when all plug-ins
-// are up unless HOST_STAYS is set. HOST_WRITES writes a setting, HOST_DROPS_ROOT runs it as nobody,
-// HOST_DISK_FULL lets no file grow.
+// are up unless HOST_STAYS is set. HOST_NEEDS names plug-ins that it needs. HOST_WRITES writes a setting,
+// HOST_DROPS_ROOT runs it as nobody, HOST_DISK_FULL lets no file grow.
 #include <extensionsystem/pluginmanager.h>
 
 #include <QCoreApplication>
@@ -58,6 +58,9 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName("Host");
     QCoreApplication::setApplicationVersion("1.0");
     PluginManager manager;
+    QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, [] { print("catalogues"); });
+    QObject::connect(&manager, &PluginManager::endRequested, [] { QCoreApplication::quit(); });
+    manager.setNeededPlugins(qEnvironmentVariable("HOST_NEEDS").split(' ', Qt::SkipEmptyParts));
     QObject::connect(&manager, &PluginManager::initializationDone, onInitializationDone);
     QObject::connect(
         &manager, &PluginManager::settingsFailed, [](const QString &strFile, const QString &strReason) {

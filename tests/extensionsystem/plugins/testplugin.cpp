@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <extensionsystem/iplugin.h>
 
+#include <QEventLoop>
+
 #include <cstdio>
 #include <stdexcept>
 
-/// A plug-in that prints what happens to it. BEHAVIOUR, "throw HOOK" or "fail HOOK", makes one hook go wrong.
+/// A plug-in that prints what happens to it. BEHAVIOUR, "throw HOOK" or "fail HOOK", makes one hook go wrong,
+/// "ask HOOK" makes it wait for ever as one with a box does; "throw event" is for a slot after the start.
 class TestPlugin : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
@@ -19,7 +22,13 @@ public:
         *errorString = "no licence for the sea";
         return note("initialize", arguments);
     }
-    void extensionsInitialized() override { note("extensionsInitialized"); }
+    void extensionsInitialized() override
+    {
+        note("extensionsInitialized");
+        for (const char *pEvent : {"event", "after"})
+            QMetaObject::invokeMethod(
+                this, [pEvent] { note(pEvent); }, Qt::QueuedConnection);
+    }
     bool delayedInitialize() override { return note("delayedInitialize"); }
     ShutdownFlag aboutToShutdown() override
     {
@@ -40,6 +49,8 @@ private:
         const QString strLine = PLUGIN_NAME " " + strHook + ' ' + details.join(' ');
         std::printf("%s\n", qUtf8Printable(strLine.trimmed()));
         std::fflush(stdout);
+        if (BEHAVIOUR == "ask " + strHook)
+            QEventLoop().exec();
         if (BEHAVIOUR == "throw " + strHook)
             throw std::runtime_error("broken on purpose");
         return BEHAVIOUR != "fail " + strHook;
