@@ -141,13 +141,13 @@ QString ContextAction::stringWithAppendedShortcut(const QString &strText) const
 void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable)
 {
     const QPointer<ProxyAction> pProxy = m_pProxy;
-    if (m_overrides.isEmpty() && pProxy)
-        pProxy->initialize(pAction);
-    if (!pProxy)
-        return;
+    const bool bFirst = m_overrides.isEmpty();
     if (!overrideOf(pContext))
         m_overrides.append({pContext, pAction, bScriptable});
-    setCurrentContext(pContext);
+    if (bFirst && pProxy)
+        pProxy->initialize(pAction);
+    if (pProxy)
+        setCurrentContext(pContext);
 }
 
 // Actions that are gone go with it.
