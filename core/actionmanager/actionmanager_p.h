@@ -27,6 +27,8 @@ public:
     ~ActionManagerPrivate() override;
 
     void enterWindow(QWidget *pWindow);
+    /// Logs if it is.
+    [[nodiscard]] bool isOwnProxy(const QAction *pAction, const QString &strId) const;
     /// The command's proxy, its child.
     QPointer<ProxyAction> addAction(
         QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable);
@@ -57,6 +59,7 @@ private:
     ContextAction *createCommand(const QString &strId, Actions::const_iterator before);
     void removeOverride(QAction *pAction, ContextAction *pCommand);
     void dropCommand(ContextAction *pCommand);
+    [[nodiscard]] static bool leadsTo(const QAction *pAction, const ContextAction *pTarget);
     void dropContainers();
     void putContextOutOfLine(QWidget *pContext);
 

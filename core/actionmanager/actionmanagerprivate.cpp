@@ -94,6 +94,25 @@ QPointer<ProxyAction> ActionManagerPrivate::addAction(
     return pProxy;
 }
 
+// A command that led back to itself, also by way of others, would mirror and trigger itself without end.
+bool ActionManagerPrivate::leadsTo(const QAction *pAction, const ContextAction *pTarget)
+{
+    const auto *pCommand = pAction ? qobject_cast<const ContextAction *>(pAction->parent()) : nullptr;
+    if (!pCommand || pCommand->getAction() != pAction)
+        return false;
+    return pCommand == pTarget
+        || std::any_of(pCommand->m_overrides.begin(), pCommand->m_overrides.end(),
+            [=](const auto &entry) { return leadsTo(entry.pAction, pTarget); });
+}
+
+bool ActionManagerPrivate::isOwnProxy(const QAction *pAction, const QString &strId) const
+{
+    if (!qobject_cast<const ProxyAction *>(pAction) || !leadsTo(pAction, m_actions.value(strId)))
+        return false;
+    qCWarning(lcActions, "%s: a command cannot be its own action", qUtf8Printable(strId));
+    return true;
+}
+
 ContextAction *ActionManagerPrivate::createCommand(const QString &strId, Actions::const_iterator before)
 {
     auto *pCommand = new ContextAction(strId, this);
@@ -129,18 +148,13 @@ void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pComm
     }
 }
 
+// Out of the registry first: who hears of the end finds no such command, and may register a new one.
 void ActionManagerPrivate::dropCommand(ContextAction *pCommand)
 {
-    const QString strId = pCommand->getId();
-    const QPointer<ContextAction> pWatched(pCommand);
-    QAction *pProxy = pCommand->getAction();
+    m_actions.remove(pCommand->getId());
+    m_outOfLine.erase(pCommand->getId());
     if (QWidget *pWindow = ICore::getMainWindow())
-        pWindow->removeAction(pProxy);
-    delete pProxy;
-    if (!pWatched)
-        return;
-    m_actions.remove(strId);
-    m_outOfLine.erase(strId);
+        pWindow->removeAction(pCommand->getAction());
     delete pCommand;
 }
 

@@ -40,7 +40,7 @@ ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManage
     connect(m_pProxy, &QAction::changed, this, &ContextAction::updateActiveState);
 }
 
-// The manager may have deleted the proxy already.
+// While this still is a command: the end of the proxy is heard of.
 ContextAction::~ContextAction()
 {
     delete m_pProxy;
