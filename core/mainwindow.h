@@ -26,7 +26,6 @@ class IMainMdiArea;
 class IMainMenuWidget;
 class IOptionsDlg;
 class QMdiSubWindow;
-class QShortcutEvent;
 class QToolBar;
 class QWebChannel;
 class QWebSocketServer;
@@ -174,7 +173,7 @@ private:
     void createRecentCommands();
     void createLanguageMenu(ActionContainer *pViewMenu);
     void createToolBars();
-    bool preferSaveAs(const QShortcutEvent *pEvent);
+    void listToolBars();
     void reloadIcons();
     void enableCommand(const char *pId, bool bEnabled);
 

@@ -19,7 +19,6 @@
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QMenuBar>
-#include <QShortcutEvent>
 #include <QToolBar>
 #include <QToolButton>
 #include <QUndoGroup>
@@ -51,8 +50,7 @@ const QString s_menuBar = QStringLiteral("Kelpa.MenuBar");
 const QString s_languageMenu = QStringLiteral("View.Language");
 const QString s_recentMenu = QStringLiteral("File.Recent_Projects");
 const QString s_saveAsMenu = QStringLiteral("File.SaveAs");
-const QString s_saveAs = QStringLiteral("File.SaveAs.Project");
-const QString s_exit = QStringLiteral("File.Exit");
+const QString s_toolBarsMenu = QStringLiteral("View.Tool_Bars");
 const QString s_coreImages = QStringLiteral(":/core/images/");
 const QString s_designerImages = QStringLiteral(":/designer/images/");
 constexpr int s_menuIcon = 2;
@@ -163,20 +161,6 @@ void MainWindow::initActions()
     connect(DocumentManager::getUndoGroup(), &QUndoGroup::cleanChanged, this,
         &MainWindow::onEnabledSaveActionChanged);
     connect(this, &MainWindow::dpiChanged, this, &MainWindow::reloadIcons, Qt::DirectConnection);
-    commandAction(s_saveAs)->installEventFilter(this);
-    commandAction(s_exit)->installEventFilter(this);
-}
-
-// Leaving and saving under another name share their default keys. Where both are possible neither would fire.
-bool MainWindow::preferSaveAs(const QShortcutEvent *pEvent)
-{
-    QAction *pSaveAs = commandAction(s_saveAs);
-    const QAction *pExit = commandAction(s_exit);
-    if (!pEvent->isAmbiguous() || !pSaveAs || pSaveAs->shortcut() != pEvent->key() || !pExit
-        || pExit->shortcut() != pEvent->key())
-        return false;
-    pSaveAs->trigger();
-    return true;
 }
 
 void MainWindow::createCommand(const CommandRow &row)

@@ -216,6 +216,27 @@ void ActionManagerPrivate::putContextOutOfLine(QWidget *pContext)
         m_outOfLine.insert(it->begin(), it->end());
 }
 
+// Qt hands a press that several commands share to one after the other, and none of them fires by itself.
+bool ActionManagerPrivate::triggerFirst(const QKeySequence &keys) const
+{
+    QList<ContextAction *> rivals = m_actions.values();
+    rivals.removeIf([&](const ContextAction *pCommand) {
+        return pCommand->getKeySequence() != keys || !pCommand->getAction()->isEnabled();
+    });
+    if (rivals.size() < 2)
+        return false;
+    std::stable_sort(rivals.begin(), rivals.end(),
+        [](const auto *a, const auto *b) { return a->m_nKeysSince < b->m_nKeysSince; });
+    QStringList ids;
+    for (const ContextAction *pCommand : std::as_const(rivals))
+        ids.append(pCommand->getId());
+    qCWarning(lcActions, "%s is the shortcut of %s; the first one is triggered",
+        qUtf8Printable(keys.toString(QKeySequence::PortableText)),
+        qUtf8Printable(ids.join(QStringLiteral(", "))));
+    rivals.first()->getAction()->trigger();
+    return true;
+}
+
 // Written in portable form and parsed in native form: the files that users have are read this way.
 QKeySequence ActionManagerPrivate::storedShortcut(const QString &strId) const
 {

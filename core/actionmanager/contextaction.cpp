@@ -8,6 +8,8 @@
 
 #include <extensionsystem/pluginmanager.h>
 
+#include <QShortcutEvent>
+
 #include <algorithm>
 #include <utility>
 
@@ -23,6 +25,15 @@ public:
 
 protected:
     void liveActionChanged() override { m_pCommand->putOutOfLine(); }
+
+    bool event(QEvent *pEvent) override
+    {
+        const auto *pPress =
+            pEvent->type() == QEvent::Shortcut ? static_cast<QShortcutEvent *>(pEvent) : nullptr;
+        if (pPress && pPress->isAmbiguous() && m_pCommand->m_pManager->triggerFirst(pPress->key()))
+            return true;
+        return ProxyAction::event(pEvent);
+    }
 
 private:
     ContextAction *m_pCommand;
@@ -165,8 +176,14 @@ void ContextAction::setActive(bool bActive)
     emit activeStateChanged();
 }
 
+// The proxy's shortcut is looked at too, as it may be set without the command.
 void ContextAction::updateActiveState()
 {
-    if (m_pProxy)
-        setActive(m_pProxy->isEnabled() && m_pProxy->isVisible() && !m_pProxy->isSeparator());
+    if (!m_pProxy)
+        return;
+    if (const QKeySequence keys = m_pProxy->shortcut(); keys != m_lastKeys) {
+        m_lastKeys = keys;
+        m_nKeysSince = ++m_pManager->m_nKeyChanges;
+    }
+    setActive(m_pProxy->isEnabled() && m_pProxy->isVisible() && !m_pProxy->isSeparator());
 }
