@@ -69,6 +69,7 @@ constexpr MenuRow s_menus[] = {
     {"MenuBar.Edit", QT_TRANSLATE_NOOP("MainWindow", "&Edit"), true},
     {"MenuBar.View", QT_TRANSLATE_NOOP("MainWindow", "&View"), true},
     {"View.Language", QT_TRANSLATE_NOOP("MainWindow", "Language"), false},
+    {"View.Tool_Bars", QT_TRANSLATE_NOOP("MainWindow", "Tool Bars"), false},
     {"MenuBar.Help", QT_TRANSLATE_NOOP("MainWindow", "&Help"), true},
 };
 
@@ -111,6 +112,7 @@ constexpr CommandRow s_entries[] = {
     {"MenuBar.Edit", Entry::Command, "Edit.Preferences", QT_TRANSLATE_NOOP("MainWindow", "&Preferences"),
         Key::Preferences, nullptr, nullptr, "preferences", true, &MainWindow::onPreferences},
     {"MenuBar.View", Entry::SubMenu, "View.Language"},
+    {"MenuBar.View", Entry::SubMenu, "View.Tool_Bars"},
     {"MenuBar.Help", Entry::Command, "Help.About", QT_TRANSLATE_NOOP("MainWindow", "About")},
     {"MenuBar.Help", Entry::Command, "Help.Help_Contents", QT_TRANSLATE_NOOP("MainWindow", "Help Contents"),
         Key::UnknownKey, "F1", nullptr, nullptr, true, &MainWindow::onHelpContents},
@@ -191,9 +193,22 @@ void MainWindow::insertSubMenu(const QString &strId, ActionContainer *pParent)
         createLanguageMenu(pParent);
         return;
     }
-    pParent->insertMenu(ActionManager::getActionContainer(strId));
+    ActionContainer *pContainer = ActionManager::getActionContainer(strId);
+    pParent->insertMenu(pContainer);
     if (strId == s_recentMenu)
         updateRecentFileActions();
+    else if (strId == s_toolBarsMenu)
+        connect(pContainer->getMenu(), &QMenu::aboutToShow, this, &MainWindow::listToolBars);
+}
+
+// When it is about to be seen: plug-ins add tool bars at any time.
+void MainWindow::listToolBars()
+{
+    QMenu *pMenu = ActionManager::getActionContainer(s_toolBarsMenu)->getMenu();
+    pMenu->clear();
+    const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QToolBar *pToolBar : toolBars)
+        pMenu->addAction(pToolBar->toggleViewAction());
 }
 
 void MainWindow::createLanguageMenu(ActionContainer *pViewMenu)
