@@ -137,7 +137,7 @@ public slots:
 
     /// Enables the Save command; `bDisabled` is whether the active undo stack is clean.
     void onEnabledSaveActionChanged(bool bDisabled);
-    void updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow);
+    void updateActivatedMdiSubFilePath(QMdiSubWindow *mdiSubWindow);
 
     /// Does nothing; plug-ins connect to it by name.
     void activationChangeFiltered();

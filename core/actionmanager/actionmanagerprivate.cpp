@@ -86,7 +86,7 @@ QPointer<ProxyAction> ActionManagerPrivate::addAction(
         return pProxy;
     if (bInLine)
         pCommand->m_bOutOfLine = false;
-    const QKeySequence keys = pCommand->isSeparator() ? QKeySequence() : storedShortcut(strId);
+    const QKeySequence keys = storedShortcut(strId);
     if (!keys.isEmpty())
         pCommand->setKeySequence(keys);
     if (pWindow)
