@@ -259,12 +259,12 @@ void MainWindow::setWindowModified(bool bModified)
     emit updateModified(bModified);
 }
 
-void MainWindow::updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow)
+void MainWindow::updateActivatedMdiSubFilePath(QMdiSubWindow *mdiSubWindow)
 {
-    if (!pSubWindow)
+    if (!mdiSubWindow)
         return;
-    emit updateModified(pSubWindow->isWindowModified());
-    emit updateWindowFilePath(pSubWindow->windowFilePath());
+    emit updateModified(mdiSubWindow->isWindowModified());
+    emit updateWindowFilePath(mdiSubWindow->windowFilePath());
 }
 
 void MainWindow::setWelcomeWidget(QWidget *pWidget)

@@ -26,7 +26,6 @@ class IMainMdiArea;
 class IMainMenuWidget;
 class IOptionsDlg;
 class QMdiSubWindow;
-class QShortcutEvent;
 class QToolBar;
 class QWebChannel;
 class QWebSocketServer;
@@ -138,7 +137,7 @@ public slots:
 
     /// Enables the Save command; `bDisabled` is whether the active undo stack is clean.
     void onEnabledSaveActionChanged(bool bDisabled);
-    void updateActivatedMdiSubFilePath(QMdiSubWindow *pSubWindow);
+    void updateActivatedMdiSubFilePath(QMdiSubWindow *mdiSubWindow);
 
     /// Does nothing; plug-ins connect to it by name.
     void activationChangeFiltered();
@@ -174,7 +173,7 @@ private:
     void createRecentCommands();
     void createLanguageMenu(ActionContainer *pViewMenu);
     void createToolBars();
-    bool preferSaveAs(const QShortcutEvent *pEvent);
+    void listToolBars();
     void reloadIcons();
     void enableCommand(const char *pId, bool bEnabled);
 

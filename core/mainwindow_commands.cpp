@@ -19,7 +19,6 @@
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QMenuBar>
-#include <QShortcutEvent>
 #include <QToolBar>
 #include <QToolButton>
 #include <QUndoGroup>
@@ -51,8 +50,7 @@ const QString s_menuBar = QStringLiteral("Kelpa.MenuBar");
 const QString s_languageMenu = QStringLiteral("View.Language");
 const QString s_recentMenu = QStringLiteral("File.Recent_Projects");
 const QString s_saveAsMenu = QStringLiteral("File.SaveAs");
-const QString s_saveAs = QStringLiteral("File.SaveAs.Project");
-const QString s_exit = QStringLiteral("File.Exit");
+const QString s_toolBarsMenu = QStringLiteral("View.Tool_Bars");
 const QString s_coreImages = QStringLiteral(":/core/images/");
 const QString s_designerImages = QStringLiteral(":/designer/images/");
 constexpr int s_menuIcon = 2;
@@ -71,6 +69,7 @@ constexpr MenuRow s_menus[] = {
     {"MenuBar.Edit", QT_TRANSLATE_NOOP("MainWindow", "&Edit"), true},
     {"MenuBar.View", QT_TRANSLATE_NOOP("MainWindow", "&View"), true},
     {"View.Language", QT_TRANSLATE_NOOP("MainWindow", "Language"), false},
+    {"View.Tool_Bars", QT_TRANSLATE_NOOP("MainWindow", "Tool Bars"), false},
     {"MenuBar.Help", QT_TRANSLATE_NOOP("MainWindow", "&Help"), true},
 };
 
@@ -113,6 +112,7 @@ constexpr CommandRow s_entries[] = {
     {"MenuBar.Edit", Entry::Command, "Edit.Preferences", QT_TRANSLATE_NOOP("MainWindow", "&Preferences"),
         Key::Preferences, nullptr, nullptr, "preferences", true, &MainWindow::onPreferences},
     {"MenuBar.View", Entry::SubMenu, "View.Language"},
+    {"MenuBar.View", Entry::SubMenu, "View.Tool_Bars"},
     {"MenuBar.Help", Entry::Command, "Help.About", QT_TRANSLATE_NOOP("MainWindow", "About")},
     {"MenuBar.Help", Entry::Command, "Help.Help_Contents", QT_TRANSLATE_NOOP("MainWindow", "Help Contents"),
         Key::UnknownKey, "F1", nullptr, nullptr, true, &MainWindow::onHelpContents},
@@ -163,20 +163,6 @@ void MainWindow::initActions()
     connect(DocumentManager::getUndoGroup(), &QUndoGroup::cleanChanged, this,
         &MainWindow::onEnabledSaveActionChanged);
     connect(this, &MainWindow::dpiChanged, this, &MainWindow::reloadIcons, Qt::DirectConnection);
-    commandAction(s_saveAs)->installEventFilter(this);
-    commandAction(s_exit)->installEventFilter(this);
-}
-
-// Leaving and saving under another name share their default keys. Where both are possible neither would fire.
-bool MainWindow::preferSaveAs(const QShortcutEvent *pEvent)
-{
-    QAction *pSaveAs = commandAction(s_saveAs);
-    const QAction *pExit = commandAction(s_exit);
-    if (!pEvent->isAmbiguous() || !pSaveAs || pSaveAs->shortcut() != pEvent->key() || !pExit
-        || pExit->shortcut() != pEvent->key())
-        return false;
-    pSaveAs->trigger();
-    return true;
 }
 
 void MainWindow::createCommand(const CommandRow &row)
@@ -207,9 +193,22 @@ void MainWindow::insertSubMenu(const QString &strId, ActionContainer *pParent)
         createLanguageMenu(pParent);
         return;
     }
-    pParent->insertMenu(ActionManager::getActionContainer(strId));
+    ActionContainer *pContainer = ActionManager::getActionContainer(strId);
+    pParent->insertMenu(pContainer);
     if (strId == s_recentMenu)
         updateRecentFileActions();
+    else if (strId == s_toolBarsMenu)
+        connect(pContainer->getMenu(), &QMenu::aboutToShow, this, &MainWindow::listToolBars);
+}
+
+// When it is about to be seen: plug-ins add tool bars at any time.
+void MainWindow::listToolBars()
+{
+    QMenu *pMenu = ActionManager::getActionContainer(s_toolBarsMenu)->getMenu();
+    pMenu->clear();
+    const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QToolBar *pToolBar : toolBars)
+        pMenu->addAction(pToolBar->toggleViewAction());
 }
 
 void MainWindow::createLanguageMenu(ActionContainer *pViewMenu)

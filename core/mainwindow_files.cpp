@@ -19,7 +19,6 @@
 #include <QLoggingCategory>
 #include <QMimeData>
 #include <QPointer>
-#include <QShortcutEvent>
 #include <QUndoGroup>
 #include <QUndoStack>
 #include <QUrl>
@@ -306,8 +305,7 @@ void MainWindow::updateWelcomeWidget()
     setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
 }
 
-// Watches the area of documents and the welcome widget for projects dropped on them, and two commands that
-// share their keys.
+// Watches the area of documents and the welcome widget for projects dropped on them.
 bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
     switch (pEvent->type()) {
@@ -320,8 +318,6 @@ bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
         return false;
     case QEvent::Drop:
         return handleDrop(static_cast<QDropEvent *>(pEvent));
-    case QEvent::Shortcut:
-        return preferSaveAs(static_cast<QShortcutEvent *>(pEvent));
     default:
         return KPStyledFrame<QMainWindow>::eventFilter(pWatched, pEvent);
     }

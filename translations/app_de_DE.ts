@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>Das Projekt [%1] gibt es nicht mehr.
 Soll der Eintrag aus dem Verlauf entfernt werden?</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Symbolleisten</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

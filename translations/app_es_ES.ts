@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>El proyecto [%1] ya no existe.
 ¿Quiere quitar esta entrada del historial?</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Barras de herramientas</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>Le projet [%1] n&apos;existe plus.
 Voulez-vous retirer cette entrée de l&apos;historique ?</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Barres d’outils</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>プロジェクト [%1] は存在しません。
 この項目を履歴から削除しますか？</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>ツールバー</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>O projeto [%1] não existe mais.
 Deseja remover esta entrada do histórico?</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Barras de ferramentas</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

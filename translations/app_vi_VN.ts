@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>Dự án [%1] không còn tồn tại.
 Bạn có muốn xóa mục này khỏi lịch sử không?</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Thanh công cụ</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

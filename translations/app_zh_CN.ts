@@ -716,6 +716,10 @@ Do you want to remove this entry from history?</source>
         <translation>项目 [%1] 已不存在。
 要从历史记录中移除此条目吗？</translation>
     </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>工具栏</translation>
+    </message>
 </context>
 <context>
     <name>RecentList</name>

@@ -58,11 +58,11 @@ protected:
     virtual void removeMenu(QMenu *pMenu);
     virtual void removeAction(QAction *pAction);
 
-public:
     /// Shows the entry of this menu exactly if the menu has something enabled and visible to offer, and says
     /// whether it has. Nothing calls it by itself. A menu bar always has.
     virtual bool updateInternal() = 0;
 
+public:
     /// Takes commands and sub-menus out of the widget and empties the sub-containers; separators stay.
     void clear();
 
@@ -99,9 +99,9 @@ public:
 
     void setMenu(QMenu *pMenu) override;
     [[nodiscard]] QMenu *getMenu() const override;
-    bool updateInternal() override;
 
 protected:
+    bool updateInternal() override;
     void insertAction(QAction *pBefore, QAction *pAction) override;
     void insertMenu(QAction *pBefore, QMenu *pMenu) override;
     void removeMenu(QMenu *pMenu) override;
@@ -124,9 +124,9 @@ public:
 
     void setMenuBar(QMenuBar *pMenuBar) override;
     [[nodiscard]] QMenuBar *getMenuBar() const override;
-    bool updateInternal() override;
 
 protected:
+    bool updateInternal() override;
     void insertAction(QAction *pBefore, QAction *pAction) override;
     void insertMenu(QAction *pBefore, QMenu *pMenu) override;
     void removeMenu(QMenu *pMenu) override;

@@ -67,7 +67,8 @@ QSettings *ActionManager::getSettings()
 ContextAction *ActionManager::registerAction(
     QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable)
 {
-    if (!s_pInstance || !pAction || !pContext || strId.isEmpty())
+    if (!s_pInstance || !pAction || !pContext || strId.isEmpty()
+        || s_pInstance->d->isOwnProxy(pAction, strId))
         return nullptr;
     const auto pProxy = s_pInstance->d->addAction(pAction, strId, pContext, bScriptable);
     emit s_pInstance->commandListChanged();

@@ -17,8 +17,7 @@ class QWidget;
 
 /// The commands and the menus of the program, by id, and the user's shortcuts. Commands and containers belong
 /// to it; the actions registered for commands do not. The first main window makes it, and it lives until the
-/// process ends; without it there are no commands and changes are ignored. A null action or widget and an
-/// empty id are ignored. GUI thread only.
+/// process ends; without it there are no commands and changes are ignored. GUI thread only.
 class CORE_EXPORT ActionManager : public QObject
 {
     Q_OBJECT
@@ -41,12 +40,14 @@ public:
     /// Makes the action the one that the command `strId` triggers in `pContext`, and switches the command
     /// there until the next setContext(). The first action for an id and a context stays. A command that is
     /// new reads its shortcut and gives its proxy to the main window. Then follow commandListChanged() and
-    /// commandAdded(). Null for what is ignored.
+    /// commandAdded(). Null, and nothing happens, for a null action or context, an empty id, and a proxy that
+    /// would lead back to its own command. Null as well if a listener took the command away.
     static ContextAction *registerAction(
         QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable = false);
 
     /// Takes the action away from all contexts of the command, and with the last action the command goes. For
-    /// a command that exists commandListChanged() follows. The third argument is not used.
+    /// a command that exists commandListChanged() follows; a null action is ignored. The third argument is
+    /// not used.
     static void unregisterAction(QAction *pAction, const QString &strId, const QString &strContext = {});
 
     /// Null for an unknown id.
@@ -66,7 +67,8 @@ public:
     /// The way through the menus as lists of shortcuts show it, such as "File > New".
     [[nodiscard]] static QString getActionFullText(const ContextAction *pCommand);
 
-    /// Switches every command to its action of this widget, which is that of the active context.
+    /// Switches every command to its action of this widget, which is that of the active context. One without
+    /// such an action, and for null every command, goes to that of the main window.
     static void setContext(QWidget *pContext);
 
     /// Gives every command the stored shortcut; one without a stored shortcut loses its own.

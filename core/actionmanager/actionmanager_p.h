@@ -27,12 +27,16 @@ public:
     ~ActionManagerPrivate() override;
 
     void enterWindow(QWidget *pWindow);
+    /// Logs if it is.
+    [[nodiscard]] bool isOwnProxy(const QAction *pAction, const QString &strId) const;
     /// The command's proxy, its child.
     QPointer<ProxyAction> addAction(
         QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable);
     void removeAction(QAction *pAction, ContextAction *pCommand);
     ActionContainer *addContainer(const QString &strId, ActionContainer *pContainer, QWidget *pShownIn);
     void setContext(QWidget *pContext);
+    /// False if fewer than two enabled commands have these keys.
+    bool triggerFirst(const QKeySequence &keys) const;
     void putOutOfLine(const QString &strId) { m_outOfLine.insert(m_outOfLine.end(), strId); }
 
     /// In ascending order of the ids, each watched: whoever listens to a command may unregister others.
@@ -49,11 +53,13 @@ public:
     QMap<QString, ActionContainer *> m_containers;
     QWidget *m_pCurrentContext = nullptr;
     QSettings *m_pSettings = nullptr;
+    quint64 m_nKeyChanges = 0;
 
 private slots:
     void containerDestroyed();
 
 private:
+    [[nodiscard]] static bool leadsTo(const QAction *pAction, const ContextAction *pTarget);
     ContextAction *createCommand(const QString &strId, Actions::const_iterator before);
     void removeOverride(QAction *pAction, ContextAction *pCommand);
     void dropCommand(ContextAction *pCommand);

@@ -86,12 +86,31 @@ QPointer<ProxyAction> ActionManagerPrivate::addAction(
         return pProxy;
     if (bInLine)
         pCommand->m_bOutOfLine = false;
-    const QKeySequence keys = pCommand->isSeparator() ? QKeySequence() : storedShortcut(strId);
+    const QKeySequence keys = storedShortcut(strId);
     if (!keys.isEmpty())
         pCommand->setKeySequence(keys);
     if (pWindow)
         pWindow->addAction(pProxy);
     return pProxy;
+}
+
+// A command that led back to itself, also by way of others, would mirror and trigger itself without end.
+bool ActionManagerPrivate::leadsTo(const QAction *pAction, const ContextAction *pTarget)
+{
+    const auto *pCommand = pAction ? qobject_cast<const ContextAction *>(pAction->parent()) : nullptr;
+    if (!pCommand || pCommand->getAction() != pAction)
+        return false;
+    return pCommand == pTarget
+        || std::any_of(pCommand->m_overrides.begin(), pCommand->m_overrides.end(),
+            [=](const auto &entry) { return leadsTo(entry.pAction, pTarget); });
+}
+
+bool ActionManagerPrivate::isOwnProxy(const QAction *pAction, const QString &strId) const
+{
+    if (!qobject_cast<const ProxyAction *>(pAction) || !leadsTo(pAction, m_actions.value(strId)))
+        return false;
+    qCWarning(lcActions, "%s: a command cannot be its own action", qUtf8Printable(strId));
+    return true;
 }
 
 ContextAction *ActionManagerPrivate::createCommand(const QString &strId, Actions::const_iterator before)
@@ -129,18 +148,13 @@ void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pComm
     }
 }
 
+// Out of the registry first: who hears of the end finds no such command, and may register a new one.
 void ActionManagerPrivate::dropCommand(ContextAction *pCommand)
 {
-    const QString strId = pCommand->getId();
-    const QPointer<ContextAction> pWatched(pCommand);
-    QAction *pProxy = pCommand->getAction();
+    m_actions.remove(pCommand->getId());
+    m_outOfLine.erase(pCommand->getId());
     if (QWidget *pWindow = ICore::getMainWindow())
-        pWindow->removeAction(pProxy);
-    delete pProxy;
-    if (!pWatched)
-        return;
-    m_actions.remove(strId);
-    m_outOfLine.erase(strId);
+        pWindow->removeAction(pCommand->getAction());
     delete pCommand;
 }
 
@@ -200,6 +214,27 @@ void ActionManagerPrivate::putContextOutOfLine(QWidget *pContext)
     const auto it = m_idsOf.constFind(pContext);
     if (it != m_idsOf.constEnd())
         m_outOfLine.insert(it->begin(), it->end());
+}
+
+// Qt hands a press that several commands share to one after the other, and none of them fires by itself.
+bool ActionManagerPrivate::triggerFirst(const QKeySequence &keys) const
+{
+    QList<ContextAction *> rivals = m_actions.values();
+    rivals.removeIf([&](const ContextAction *pCommand) {
+        return pCommand->getKeySequence() != keys || !pCommand->getAction()->isEnabled();
+    });
+    if (rivals.size() < 2)
+        return false;
+    std::stable_sort(rivals.begin(), rivals.end(),
+        [](const auto *a, const auto *b) { return a->m_nKeysSince < b->m_nKeysSince; });
+    QStringList ids;
+    for (const ContextAction *pCommand : std::as_const(rivals))
+        ids.append(pCommand->getId());
+    qCWarning(lcActions, "%s is the shortcut of %s; the first one is triggered",
+        qUtf8Printable(keys.toString(QKeySequence::PortableText)),
+        qUtf8Printable(ids.join(QStringLiteral(", "))));
+    rivals.first()->getAction()->trigger();
+    return true;
 }
 
 // Written in portable form and parsed in native form: the files that users have are read this way.

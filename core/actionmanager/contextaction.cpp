@@ -8,6 +8,8 @@
 
 #include <extensionsystem/pluginmanager.h>
 
+#include <QShortcutEvent>
+
 #include <algorithm>
 #include <utility>
 
@@ -23,6 +25,15 @@ public:
 
 protected:
     void liveActionChanged() override { m_pCommand->putOutOfLine(); }
+
+    bool event(QEvent *pEvent) override
+    {
+        const auto *pPress =
+            pEvent->type() == QEvent::Shortcut ? static_cast<QShortcutEvent *>(pEvent) : nullptr;
+        if (pPress && pPress->isAmbiguous() && m_pCommand->m_pManager->triggerFirst(pPress->key()))
+            return true;
+        return ProxyAction::event(pEvent);
+    }
 
 private:
     ContextAction *m_pCommand;
@@ -40,7 +51,7 @@ ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManage
     connect(m_pProxy, &QAction::changed, this, &ContextAction::updateActiveState);
 }
 
-// The manager may have deleted the proxy already.
+// While this still is a command: the end of the proxy is heard of.
 ContextAction::~ContextAction()
 {
     delete m_pProxy;
@@ -141,13 +152,13 @@ QString ContextAction::stringWithAppendedShortcut(const QString &strText) const
 void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable)
 {
     const QPointer<ProxyAction> pProxy = m_pProxy;
-    if (m_overrides.isEmpty() && pProxy)
-        pProxy->initialize(pAction);
-    if (!pProxy)
-        return;
+    const bool bFirst = m_overrides.isEmpty();
     if (!overrideOf(pContext))
         m_overrides.append({pContext, pAction, bScriptable});
-    setCurrentContext(pContext);
+    if (bFirst && pProxy)
+        pProxy->initialize(pAction);
+    if (pProxy)
+        setCurrentContext(pContext);
 }
 
 // Actions that are gone go with it.
@@ -165,8 +176,14 @@ void ContextAction::setActive(bool bActive)
     emit activeStateChanged();
 }
 
+// The proxy's shortcut is looked at too, as it may be set without the command.
 void ContextAction::updateActiveState()
 {
-    if (m_pProxy)
-        setActive(m_pProxy->isEnabled() && m_pProxy->isVisible() && !m_pProxy->isSeparator());
+    if (!m_pProxy)
+        return;
+    if (const QKeySequence keys = m_pProxy->shortcut(); keys != m_lastKeys) {
+        m_lastKeys = keys;
+        m_nKeysSince = ++m_pManager->m_nKeyChanges;
+    }
+    setActive(m_pProxy->isEnabled() && m_pProxy->isVisible() && !m_pProxy->isSeparator());
 }

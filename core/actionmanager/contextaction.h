@@ -104,6 +104,9 @@ private:
     /// One for each context widget. There are few, and most commands have one.
     QList<Override> m_overrides;
     bool m_bActive = false;
+    /// The order in which commands got the shortcuts that they have.
+    QKeySequence m_lastKeys;
+    quint64 m_nKeysSince = 0;
 
     /// The manager knows that the live action need not be the one that the current context asks for.
     bool m_bOutOfLine = false;

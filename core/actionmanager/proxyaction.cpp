@@ -3,11 +3,19 @@
 
 #include <utility>
 
+namespace {
+
+// How often a state is copied while listeners keep changing it.
+constexpr int s_nMostRounds = 10;
+
+} // namespace
+
 ProxyAction::ProxyAction(QObject *pParent)
     : QAction(pParent)
 {
     updateState();
     connect(this, &QAction::changed, this, [this] {
+        ++m_nChanges;
         if (!m_bMirroring)
             updateToolTipWithKeySequence();
     });
@@ -31,7 +39,11 @@ void ProxyAction::setAction(QAction *pAction)
 
 void ProxyAction::initialize(QAction *pAction)
 {
+    const QPointer<ProxyAction> pGuard(this);
+    const QPointer<QAction> pBefore(m_pAction);
     update(pAction, true);
+    if (pGuard && m_pAction != pBefore)
+        updateState();
 }
 
 void ProxyAction::setAttribute(Attribute attribute)
@@ -59,24 +71,38 @@ QString ProxyAction::stringWithAppendedShortcut(const QString &strText, const QK
 
 void ProxyAction::actionChanged()
 {
-    update(m_pAction, false);
+    if (m_pAction)
+        updateState();
 }
 
+// Whoever hears of a change may point this proxy elsewhere. One that never lets it rest is left alone after a
+// while.
 void ProxyAction::updateState()
 {
-    if (m_pAction) {
-        update(m_pAction, false);
-        return;
-    }
+    const QPointer<ProxyAction> pGuard(this);
+    const QAction *pCopied = nullptr;
+    int nRounds = s_nMostRounds;
+    do {
+        pCopied = m_pAction;
+        if (pCopied)
+            update(m_pAction, false);
+        else
+            showNoAction();
+    } while (pGuard && m_pAction && m_pAction != pCopied && --nRounds > 0);
+}
+
+void ProxyAction::showNoAction()
+{
     const QPointer<ProxyAction> pGuard(this);
     if (m_attributes.testFlag(HideWhenNoAction))
         setVisible(false);
-    if (pGuard)
+    if (pGuard && !m_pAction)
         setEnabled(false);
 }
 
-// Each step tells the world, and whoever listens may delete the source or this proxy. The setters of icons
-// would tell it also without a change.
+// Each step tells the world, and whoever listens may delete the source or this proxy, or point it elsewhere,
+// which copies and connects on its own, or change the source, so that it is copied again until nothing
+// changes. The setters of icons would tell of a change also without one.
 void ProxyAction::update(QAction *pSource, bool bInitialize)
 {
     using To = ProxyAction &;
@@ -119,12 +145,21 @@ void ProxyAction::update(QAction *pSource, bool bInitialize)
         | (m_attributes.testFlag(MirrorIcon) ? Icon : 0) | (m_attributes.testFlag(MirrorText) ? Text : 0);
     const QPointer<ProxyAction> pThis(this);
     const QPointer<QAction> pFrom(pSource);
-    disconnectAction();
+    const auto isDone = [&] { return !pThis || !pFrom || (!bInitialize && m_pAction != pFrom); };
     const bool bOuter = std::exchange(m_bMirroring, true);
-    for (const auto &step : s_steps) {
-        if (pThis && pFrom && (step.nWhen & nWhen))
-            step.copy(*pThis, *pFrom);
-    }
+    quint32 nBefore = 0;
+    int nRounds = s_nMostRounds;
+    do {
+        nBefore = m_nChanges;
+        for (const auto &step : s_steps) {
+            if (isDone())
+                break;
+            if (step.nWhen & nWhen) {
+                disconnectAction();
+                step.copy(*pThis, *pFrom);
+            }
+        }
+    } while (!bInitialize && !isDone() && m_nChanges != nBefore && --nRounds > 0);
     if (!pThis)
         return;
     m_bMirroring = bOuter;
@@ -143,21 +178,26 @@ void ProxyAction::updateToolTipWithKeySequence()
         m_bUpdatingToolTip = false;
 }
 
-// Off first: an update within an update must not leave two sets behind. Only checkable actions toggle, and
-// one that becomes checkable says so and is connected anew.
+// Off first: an update within an update must not leave two sets behind. An outer update may still have to
+// tell that this was toggled when an inner one has copied another action: what holds now is handed on, not
+// that.
 void ProxyAction::connectAction()
 {
     disconnectAction();
     if (!m_pAction)
         return;
     m_connections = {connect(m_pAction, &QAction::changed, this, &ProxyAction::actionChanged),
-        connect(this, &QAction::triggered, m_pAction, &QAction::triggered), {}};
-    if (m_pAction->isCheckable())
-        m_connections[2] = connect(this, &QAction::toggled, m_pAction, &QAction::setChecked);
+        connect(this, &QAction::triggered, m_pAction, &QAction::triggered),
+        connect(this, &QAction::toggled, m_pAction, [this] {
+            if (isCheckable())
+                m_pAction->setChecked(isChecked());
+        })};
 }
 
 void ProxyAction::disconnectAction()
 {
-    for (const QMetaObject::Connection &connection : m_connections)
-        disconnect(connection);
+    if (!m_connections[0])
+        return;
+    for (QMetaObject::Connection &connection : m_connections)
+        disconnect(std::exchange(connection, {}));
 }

@@ -60,6 +60,7 @@ private slots:
     void updateToolTipWithKeySequence();
 
 private:
+    void showNoAction();
     void update(QAction *pSource, bool bInitialize);
     void connectAction();
     void disconnectAction();
@@ -73,6 +74,7 @@ private:
     /// Whether it was pointed at an action last, living or not.
     bool m_bPointed = false;
     bool m_bMirroring = false;
+    quint32 m_nChanges = 0;
     std::array<QMetaObject::Connection, 3> m_connections;
     QMetaObject::Connection m_destroyedConnection;
 };

@@ -29,6 +29,7 @@ const QString s_stageImages = QStringLiteral(":/stage/images/");
 
 struct ElementAction
 {
+    const char *pId;
     const char *pText;
     const char *pIcon;
     StageElement::Type type;
@@ -37,26 +38,24 @@ struct ElementAction
     const char *pFill;
 };
 constexpr std::array<ElementAction, 4> elementActions = {{
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Rectangle"), "rectangle", StageElement::Type::Rectangle, 200,
-        120, "#5b8def"},
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Ellipse"), "ellipse", StageElement::Type::Ellipse, 160, 160,
-        "#f2a65a"},
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Text"), "text", StageElement::Type::Text, 240, 40, "#202020"},
-    {QT_TRANSLATE_NOOP("StageToolBar", "Add &Image..."), "image", StageElement::Type::Image, 0, 0, ""},
+    {"Edit.Add_Rectangle", QT_TRANSLATE_NOOP("StageToolBar", "Add &Rectangle"), "rectangle",
+        StageElement::Type::Rectangle, 200, 120, "#5b8def"},
+    {"Edit.Add_Ellipse", QT_TRANSLATE_NOOP("StageToolBar", "Add &Ellipse"), "ellipse",
+        StageElement::Type::Ellipse, 160, 160, "#f2a65a"},
+    {"Edit.Add_Text", QT_TRANSLATE_NOOP("StageToolBar", "Add &Text"), "text", StageElement::Type::Text, 240,
+        40, "#202020"},
+    {"Edit.Add_Image", QT_TRANSLATE_NOOP("StageToolBar", "Add &Image..."), "image", StageElement::Type::Image,
+        0, 0, ""},
 }};
 
 const QString s_undo = QStringLiteral("Edit.Undo");
 const QString s_redo = QStringLiteral("Edit.Redo");
+const QString s_delete = QStringLiteral("Edit.Delete");
+const QString s_preferences = QStringLiteral("Edit.Preferences");
 
-QAction *registerUndo(QAction *pAction, const QString &strId, QKeySequence::StandardKey key,
-    const QString &strDescription, MainWindow *pMainWindow)
+ActionContainer *editMenu()
 {
-    ContextAction *pCommand = ActionManager::registerAction(pAction, strId, pMainWindow, false);
-    pCommand->setDefaultKeySequence(QKeySequence(key));
-    pCommand->setDescription(strDescription);
-    if (ActionContainer *pMenu = ActionManager::getActionContainer(QStringLiteral("MenuBar.Edit")))
-        pMenu->insertAction(pCommand, ActionManager::getAction(QStringLiteral("Edit.Preferences")));
-    return pCommand->getAction();
+    return ActionManager::getActionContainer(QStringLiteral("MenuBar.Edit"));
 }
 
 // Asks for a file and takes the image's own size, or one that fits when that is unknown or large.
@@ -84,7 +83,7 @@ StageToolBar::StageToolBar(MainWindow *pMainWindow)
     setObjectName(QStringLiteral("StageToolBar"));
     setAccessibleName(windowTitle());
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    addUndoCommands(pMainWindow);
+    addUndoCommands();
     addElementActions();
     loadIcons();
     connect(pMainWindow, &MainWindow::dpiChanged, this, &StageToolBar::loadIcons);
@@ -97,35 +96,51 @@ StageToolBar::StageToolBar(MainWindow *pMainWindow)
 
 StageToolBar::~StageToolBar()
 {
-    ActionManager::unregisterAction(m_pUndo, s_undo);
-    ActionManager::unregisterAction(m_pRedo, s_redo);
+    for (auto it = m_commands.cbegin(); it != m_commands.cend(); ++it)
+        ActionManager::unregisterAction(it.value(), it.key());
 }
 
-void StageToolBar::addUndoCommands(MainWindow *pMainWindow)
+// The bar shows the command, and the menu has it before the preferences.
+void StageToolBar::addCommand(
+    const QString &strId, QAction *pAction, const QString &strDescription, QKeySequence::StandardKey key)
+{
+    ContextAction *pCommand = ActionManager::registerAction(pAction, strId, parentWidget(), false);
+    pCommand->setDefaultKeySequence(QKeySequence(key));
+    pCommand->setDescription(strDescription);
+    if (ActionContainer *pMenu = editMenu())
+        pMenu->insertAction(pCommand, ActionManager::getAction(s_preferences));
+    addAction(pCommand->getAction());
+    m_commands.insert(strId, pAction);
+}
+
+void StageToolBar::addUndoCommands()
 {
     QUndoGroup *pGroup = DocumentManager::getUndoGroup();
     if (!pGroup)
         return;
-    m_pUndo = pGroup->createUndoAction(this, tr("&Undo"));
-    m_pRedo = pGroup->createRedoAction(this, tr("&Redo"));
-    addAction(registerUndo(m_pUndo, s_undo, QKeySequence::Undo, tr("Undo the last change"), pMainWindow));
-    addAction(
-        registerUndo(m_pRedo, s_redo, QKeySequence::Redo, tr("Redo the last change undone"), pMainWindow));
+    addCommand(
+        s_undo, pGroup->createUndoAction(this, tr("&Undo")), tr("Undo the last change"), QKeySequence::Undo);
+    addCommand(s_redo, pGroup->createRedoAction(this, tr("&Redo")), tr("Redo the last change undone"),
+        QKeySequence::Redo);
     addSeparator();
-    if (ActionContainer *pMenu = ActionManager::getActionContainer(QStringLiteral("MenuBar.Edit")))
-        pMenu->insertSeparator(ActionManager::getAction(QStringLiteral("Edit.Preferences")));
+    if (ActionContainer *pMenu = editMenu())
+        pMenu->insertSeparator(ActionManager::getAction(s_preferences));
 }
 
 // The view itself takes the Delete key, so that it still deletes letters elsewhere.
 void StageToolBar::addElementActions()
 {
     for (const ElementAction &row : elementActions) {
-        QAction *pAction = addAction(tr(row.pText));
+        auto *pAction = new QAction(tr(row.pText), this);
         connect(pAction, &QAction::triggered, this, [this, type = row.type] { addElement(type); });
         m_addActions.append(pAction);
+        addCommand(QLatin1String(row.pId), pAction);
     }
-    m_pDelete = addAction(tr("&Delete"));
+    m_pDelete = new QAction(tr("&Delete"), this);
     m_pDelete->setToolTip(tr("Delete (Del)"));
+    addCommand(s_delete, m_pDelete);
+    if (ActionContainer *pMenu = editMenu())
+        pMenu->insertSeparator(ActionManager::getAction(s_preferences));
     connect(m_pDelete, &QAction::triggered, this, [this] {
         auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
         if (pEditor && pEditor->getView())
@@ -135,16 +150,15 @@ void StageToolBar::addElementActions()
 
 void StageToolBar::loadIcons()
 {
-    const auto load = [](QAction *pAction, const char *pIcon) {
-        pAction->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, s_stageImages));
-    };
-    for (const auto &[strId, pIcon] : {std::pair {s_undo, "undo"}, std::pair {s_redo, "redo"}}) {
+    const auto load = [](const QString &strId, const char *pIcon) {
         if (const ContextAction *pCommand = ActionManager::getAction(strId))
-            load(pCommand->getAction(), pIcon);
-    }
-    for (int i = 0; i < static_cast<int>(elementActions.size()); ++i)
-        load(m_addActions.at(i), elementActions.at(static_cast<std::size_t>(i)).pIcon);
-    load(m_pDelete, "delete");
+            pCommand->getAction()->setIcon(IUi::getIcon(QLatin1String(pIcon), 2, s_stageImages));
+    };
+    load(s_undo, "undo");
+    load(s_redo, "redo");
+    for (const ElementAction &row : elementActions)
+        load(QLatin1String(row.pId), row.pIcon);
+    load(s_delete, "delete");
 }
 
 void StageToolBar::setEditor(IEditor *pEditor)

@@ -3,6 +3,7 @@
 
 #include "stageproject.h"
 
+#include <QMap>
 #include <QPointer>
 #include <QToolBar>
 
@@ -10,8 +11,8 @@ class IEditor;
 class MainWindow;
 class StageEditor;
 
-/// What can be done on the stage of the active editor, and the commands "Edit.Undo" and "Edit.Redo", which
-/// live as long as the bar. The main window owns it. GUI thread only.
+/// What can be done on the stage of the active editor, as commands that live as long as the bar and are in
+/// the menu "Edit" too: the bar can be hidden. The main window owns it. GUI thread only.
 class StageToolBar : public QToolBar
 {
     Q_OBJECT
@@ -22,16 +23,17 @@ public:
     ~StageToolBar() override;
 
 private:
-    void addUndoCommands(MainWindow *pMainWindow);
+    void addUndoCommands();
     void addElementActions();
+    void addCommand(const QString &strId, QAction *pAction, const QString &strDescription = {},
+        QKeySequence::StandardKey key = QKeySequence::UnknownKey);
     void loadIcons();
     void setEditor(IEditor *pEditor);
     void refresh();
     void addElement(StageElement::Type type);
 
     QPointer<IEditor> m_pEditor;
-    QAction *m_pUndo = nullptr;
-    QAction *m_pRedo = nullptr;
+    QMap<QString, QAction *> m_commands; // by id
     QAction *m_pDelete = nullptr;
     QList<QAction *> m_addActions;
 };

@@ -2,6 +2,7 @@
 #include "commandtest.h"
 
 #include <actionmanager/actioncontainer.h>
+#include <actionmanager/shortcuts.h>
 
 class tst_ActionContainer : public QObject
 {
@@ -43,8 +44,10 @@ private slots:
         QCOMPARE(pMenu->getMenu()->objectName(), "MenuBar.Test");
     }
 
-    void separatorsAreNumberedAcrossContainers()
+    void separatorsAreNumberedAcrossContainersAndMayHaveAKey()
     {
+        for (int i = 0; i < 100; ++i)
+            m_program.settings().setValue(QString("Shortcuts/Separator.%1").arg(i), "Ctrl+9");
         ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
         ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
         pMenu->insertMenu(pSub);
@@ -55,6 +58,8 @@ private slots:
         int nNumber = pFirst->getId().section('.', 1).toInt();
         for (const ContextAction *pSeparator : {pFirst, pSecond, pThird})
             QCOMPARE(pSeparator->getId(), QString("Separator.%1").arg(nNumber++));
+        QCOMPARE(pThird->getKeySequence(), keys("Ctrl+9"));
+        QVERIFY(Shortcuts::list().isEmpty());
         QVERIFY(pThird->isSeparator() && pThird->getAction()->isSeparator());
         QVERIFY(pAction && pAction != pThird->getAction() && pAction->parent() == pMenu);
         QCOMPARE(pMenu->getMenu()->actions().first(), pThird->getAction());
@@ -87,18 +92,21 @@ private slots:
 
     void aMenuWithNothingToOfferHides()
     {
-        ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
+        struct Menu : MenuActionContainer
+        {
+            using MenuActionContainer::MenuActionContainer;
+            using MenuActionContainer::updateInternal;
+        } container("Test.Menu");
+        QMenu menu;
+        container.setMenu(&menu);
         Registered a("Test.A", m_program.window());
-        pMenu->insertAction(a.pCommand);
-        pMenu->insertSeparator();
-        QVERIFY(pMenu->updateInternal());
-        a.action.setEnabled(false);
-        QVERIFY(pMenu->getMenu()->menuAction()->isVisible());
-        QVERIFY(!pMenu->updateInternal());
-        QVERIFY(!pMenu->getMenu()->menuAction()->isVisible());
-        a.action.setEnabled(true);
-        QVERIFY(pMenu->updateInternal());
-        QVERIFY(pMenu->getMenu()->menuAction()->isVisible());
+        container.insertAction(a.pCommand);
+        container.insertSeparator();
+        for (const bool bEnabled : {true, false, true}) {
+            a.action.setEnabled(bEnabled);
+            QCOMPARE(container.updateInternal(), bEnabled);
+            QCOMPARE(menu.menuAction()->isVisible(), bEnabled);
+        }
     }
 
 private:

@@ -38,27 +38,25 @@ private slots:
         QCOMPARE(proxy.iconText(), "All");
         proxy.removeAttribute(ProxyAction::MirrorText);
         action.setText("Nothing");
+        proxy.setAction(nullptr);
         QCOMPARE(proxy.text(), "Copy All");
     }
 
-    // The same-pointer rule speaks of actions that live.
-    void aDeadActionEndsDisabled()
+    void togglesWhatItPointsAtAndNothingElse()
     {
-        for (const bool bHides : {false, true}) {
-            ProxyAction proxy(nullptr);
-            if (bHides)
-                proxy.setAttribute(ProxyAction::HideWhenNoAction);
-            auto pAction = std::make_unique<QAction>("Copy");
-            proxy.initialize(pAction.get());
-            proxy.setAction(pAction.get());
-            pAction.reset();
-            QVERIFY(proxy.isEnabled());
-            proxy.trigger();
-            proxy.setAction(nullptr);
-            QVERIFY(!proxy.isEnabled());
-            QCOMPARE(proxy.isVisible(), !bHides);
-            QCOMPARE(proxy.text(), "Copy");
-        }
+        ProxyAction proxy(nullptr);
+        QAction action, next;
+        next.setCheckable(true);
+        proxy.setAction(&action);
+        proxy.setCheckable(true);
+        proxy.toggle();
+        action.setCheckable(true);
+        QVERIFY(action.isChecked() && proxy.isChecked());
+        action.setChecked(false);
+        // the focus goes elsewhere while the proxy tells that it is checked: that is not for the next action
+        connect(&proxy, &QAction::changed, &next, [&] { proxy.setAction(&next); });
+        action.setChecked(true);
+        QVERIFY(action.isChecked() && !next.isChecked() && !proxy.isChecked());
     }
 
     void theToolTipShowsTheShortcut()

@@ -15,8 +15,23 @@ struct ModelCommand
     std::map<QWidget *, Action> actions;
     QWidget *pCurrent = nullptr;
     QKeySequence keys, builtIn;
+    bool bHides = false, bEnabled = false, bVisible = true;
 
-    void point(QWidget *pContext, QWidget *pMain) { pCurrent = actions.count(pContext) ? pContext : pMain; }
+    void point(QWidget *pContext, QWidget *pMain)
+    {
+        pCurrent = actions.count(pContext) ? pContext : pMain;
+        bEnabled = false;
+        bVisible = bVisible && !bHides;
+        look();
+    }
+    // What an action looked like last remains when it dies.
+    void look()
+    {
+        if (const QAction *pLive = live()) {
+            bEnabled = pLive->isEnabled();
+            bVisible = pLive->isVisible();
+        }
+    }
     QAction *live() const { return actions.count(pCurrent) ? actions.at(pCurrent).data() : nullptr; }
 };
 
@@ -85,6 +100,7 @@ private slots:
         m_program.window()->show();
         QVERIFY(QTest::qWaitForWindowActive(m_program.window()));
         m_model.pMain = m_program.window();
+        m_program.window()->installEventFilter(this);
     }
 
     void theInnermostContextCountsAndTheFirstOfAWidget()
@@ -119,57 +135,43 @@ private slots:
         QVERIFY(ContextManager::getContexts().isEmpty());
     }
 
-    void aCommandOfAPanelIsOffElsewhere()
+    void aCommandOfAPanelIsOffElsewhereAndComesBack()
     {
-        QWidget panel, child(&panel);
-        Registered local("Cells.Merge", &panel);
-        QSignalSpy spy(local.pCommand, &ContextAction::activeStateChanged);
-        QVERIFY(local.proxy()->isEnabled());
-        ActionManager::setContext(&child);
-        QVERIFY(!local.proxy()->isEnabled());
-        QVERIFY(local.pCommand->isActive());
-        ActionManager::setContext(m_program.window());
-        QCOMPARE(spy.size(), 1);
-        ActionManager::setContext(&panel);
-        QVERIFY(local.proxy()->isEnabled());
-        QCOMPARE(spy.size(), 2);
-    }
-
-    void aProxyPointedElsewhereByHandComesBack()
-    {
+        QWidget panel;
         QAction stranger;
-        Registered global("Edit.Undo", m_program.window());
-        ActionManager::setContext(m_program.window());
+        Registered local("Cells.Merge", &panel);
+        const QSignalSpy spy(local.pCommand, &ContextAction::activeStateChanged);
+        ActionManager::setContext(nullptr);
+        QCOMPARE(spy.size(), 1);
+        QVERIFY(!local.proxy()->isEnabled() && local.pCommand->isActive());
+        Registered global("Cells.Merge", m_program.window());
         global.proxy()->setAction(&stranger);
-        ActionManager::setContext(m_program.window());
-        QCOMPARE(global.proxy()->action(), &global.action);
-    }
-
-    void visibilityGoesToEveryActionThatLives()
-    {
-        QWidget panel, gone;
-        Registered global("Edit.Redo", m_program.window()), local("Edit.Redo", &panel);
-        auto dead = std::make_unique<QAction>();
-        ActionManager::registerAction(dead.get(), "Edit.Redo", &gone, false);
-        dead.reset();
         ActionManager::setContext(&panel);
-        global.pCommand->setVisible(false);
+        QCOMPARE(local.proxy()->action(), &local.action);
+        local.pCommand->setVisible(false);
         QVERIFY(!global.action.isVisible() && !local.action.isVisible() && !local.proxy()->isVisible());
     }
 
     void behavesLikeTheModel_data()
     {
-        const auto row = columns<quint32>("seed");
-        for (const char *pName : {"walk 1", "walk 2", "walk 3", "walk 4"})
-            row(pName, quint32(pName[5] - '0'));
+        const auto row = columns<quint32, bool>("seed", "listens");
+        for (const char *pName : {"walk 1", "walk 2", "walk 3", "walk 4",
+                 "walk 5 with listeners that change the registry", "walk 6 with such"})
+            row(pName, quint32(pName[5] - '0'), pName[6]);
     }
     void behavesLikeTheModel()
     {
         QFETCH(quint32, seed);
+        QFETCH(bool, listens);
         m_random.seed(seed);
+        m_bListens = listens;
         for (int i = 0; i < 4000; ++i) {
-            const int nStep = below(15);
+            const int nStep = below(listens ? 10 : 15);
+            m_nReactions = listens ? 3 : 0;
             step(nStep);
+            m_nReactions = 0;
+            if (listens)
+                settle();
             compare();
             if (QTest::currentTestFailed()) {
                 qInfo("after step %d of kind %d", i, nStep);
@@ -212,7 +214,7 @@ private:
             &tst_Registry::registerAny, &tst_Registry::registerAny, &tst_Registry::registerAny,
             &tst_Registry::unregisterAny, &tst_Registry::destroyAny, &tst_Registry::toggleAny,
             &tst_Registry::changeKeys, &tst_Registry::save, &tst_Registry::read, &tst_Registry::reset,
-            &tst_Registry::trigger};
+            &tst_Registry::trigger, &tst_Registry::changeContext};
         const auto pStep = s_steps[nKind];
         (this->*pStep)();
     }
@@ -238,13 +240,13 @@ private:
         for (QWidget *pPanel : std::vector<QWidget *>(m_panels)) {
             if (pPanel != pDoomed && !pDoomed->isAncestorOf(pPanel))
                 continue;
+            std::erase(m_panels, pPanel);
             for (const auto &[strId, command] : std::map(m_model.commands)) {
                 if (command.actions.count(pPanel))
                     unregister(command.actions.at(pPanel), strId);
             }
             ContextManager::unregisterContext(pPanel, "Panel");
             std::erase_if(m_model.contexts, [=](const Context &context) { return context.widget == pPanel; });
-            std::erase(m_panels, pPanel);
         }
         delete pDoomed;
     }
@@ -264,7 +266,7 @@ private:
         if (!pAction) {
             pAction = new QAction;
             pAction->setEnabled(below(4));
-            pAction->setCheckable(!below(4));
+            pAction->setCheckable(below(2));
             connect(pAction, &QAction::triggered, this, [this, pAction] { fired(pAction); });
             m_actions.push_back(pAction);
         }
@@ -272,12 +274,56 @@ private:
         QWidget *pContext = anyContext();
         m_model.add(pAction, strId, pContext);
         ContextAction *pCommand = ActionManager::registerAction(pAction, strId, pContext, false);
+        if (m_bListens) {
+            QAction *pProxy = pCommand ? pCommand->getAction() : new QAction(this);
+            connect(pProxy, &QAction::changed, this, &tst_Registry::react, Qt::UniqueConnection);
+            connect(pProxy, &QObject::destroyed, this, &tst_Registry::react, Qt::UniqueConnection);
+            return;
+        }
         const QKeySequence builtIn(Qt::ALT | Qt::Key(Qt::Key_A + strId.back().digitValue()));
         pCommand->setDefaultKeySequence(builtIn);
         ModelCommand &command = m_model.commands[strId];
         command.builtIn = builtIn;
         if (command.keys.isEmpty())
             command.keys = builtIn;
+        command.bHides = builtIn[0].key() % 2;
+        if (command.bHides)
+            static_cast<ProxyAction *>(pCommand->getAction())->setAttribute(ProxyAction::HideWhenNoAction);
+        command.point(pContext, m_model.pMain);
+    }
+
+    bool eventFilter(QObject *, QEvent *pEvent) override
+    {
+        if (pEvent->type() == QEvent::ActionRemoved)
+            react();
+        return false;
+    }
+
+    // A listener that changes the registry while a proxy tells that it changed, or goes.
+    void react()
+    {
+        if (m_nReactions > 0 && m_nReactions-- > 0)
+            step(QList<int> {4, 7, 9, 15}.at(below(4)));
+    }
+
+    // Whatever the listeners did, a command looks like its action, and the next change of context is by the
+    // book.
+    void settle()
+    {
+        for (const ContextAction *pCommand : ActionManager::getActions())
+            looksLikeItsAction(static_cast<const ProxyAction *>(pCommand->getAction()));
+        m_model.setContext(anyContext());
+        ActionManager::setContext(m_model.pContext);
+    }
+
+    static void looksLikeItsAction(const ProxyAction *pProxy)
+    {
+        const QAction *pAction = pProxy->action();
+        const auto state = [](const QAction *p) {
+            return QList<bool> {p->isEnabled(), p->isVisible(), p->isCheckable(), p->isChecked()};
+        };
+        if (pAction)
+            QCOMPARE(state(pProxy), state(pAction));
     }
 
     // Null stands for any: the registry itself ignores it, so a stranger purges what is dead.
@@ -296,9 +342,16 @@ private:
 
     void toggleAny()
     {
-        if (QAction *pAction = anyAction())
+        QAction *pAction = anyAction();
+        const int nKind = below(3);
+        if (pAction && nKind == 0)
             pAction->setEnabled(!pAction->isEnabled());
+        else if (pAction && nKind == 1)
+            pAction->setVisible(!pAction->isVisible());
+        else if (pAction && pAction->isCheckable())
+            pAction->toggle();
     }
+    void changeContext() { ActionManager::setContext(anyContext()); }
     void destroyAny() { destroyAction(below(3) ? nullptr : anyAction()); }
     void unregisterAny() { unregister(anyAction(), anyId()); }
     void focusRest() { focus(m_pRest); }
@@ -369,16 +422,17 @@ private:
         for (const ContextAction *pCommand : ActionManager::getActions())
             ids.append(pCommand->getId());
         QStringList expected;
-        for (const auto &[strId, command] : m_model.commands) {
+        for (auto &[strId, command] : m_model.commands) {
             expected.append(strId);
+            command.look();
             const ContextAction *pCommand = ActionManager::getAction(strId);
             QVERIFY(pCommand);
             const auto *pProxy = static_cast<const ProxyAction *>(pCommand->getAction());
             QCOMPARE(pProxy->action(), command.live());
-            if (command.live()) {
-                QCOMPARE(pProxy->isEnabled(), command.live()->isEnabled());
-                QCOMPARE(pProxy->isChecked(), command.live()->isChecked());
-            }
+            looksLikeItsAction(pProxy);
+            QCOMPARE(pProxy->isEnabled(), command.bEnabled);
+            if (!m_bListens)
+                QCOMPARE(pProxy->isVisible(), command.bVisible);
             QCOMPARE(pCommand->getKeySequence(), command.keys);
         }
         QCOMPARE(ids, expected);
@@ -394,6 +448,8 @@ private:
     std::vector<QAction *> m_fired;
     QString m_strTriggered;
     bool m_bUnregisterOnFire = false;
+    bool m_bListens = false;
+    int m_nReactions = 0;
 };
 
 QTEST_MAIN(tst_Registry)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commandtest.h"
 
-#include <actionmanager/actioncontainer.h>
 #include <actionmanager/shortcuts.h>
 
 class tst_Shortcuts : public QObject
@@ -19,9 +18,8 @@ private slots:
     }
     void cleanup()
     {
-        m_copy.reset();
-        m_find.reset();
-        m_none.reset();
+        for (auto *pCommand : {&m_copy, &m_find, &m_none})
+            pCommand->reset();
     }
 
     void defaultsAndTheUsersAreToldApart()
@@ -37,18 +35,6 @@ private slots:
         m_copy = add("Edit.Copy", "&Copy", "Ctrl+C");
         QCOMPARE(infoOf("Edit.Copy").current, keys("Ctrl+C"));
         QVERIFY(!infoOf("View.Zoom").returnsAtNextStart());
-    }
-
-    void separatorsAreNotListed()
-    {
-        ActionContainer *pMenu = ActionManager::createMenuContainer("Test.Menu", "Menu");
-        QAction *pSeparator = nullptr;
-        const QString strId =
-            pMenu->insertSeparator(static_cast<ContextAction *>(nullptr), &pSeparator)->getId();
-        QCOMPARE(ids(Shortcuts::list()), (QStringList {"Edit.Copy", "Edit.Find", "View.Zoom"}));
-        ActionManager::unregisterAction(pSeparator, strId);
-        delete pMenu->getMenu();
-        delete pMenu;
     }
 
     void searchingFindsAllWords_data()

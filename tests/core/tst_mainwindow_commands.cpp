@@ -41,24 +41,17 @@ QStringList lines(const QList<QAction *> &actions, const QString &strIndent = {}
     return result;
 }
 
-// A catalogue that translates one text of the main window.
-class OneTextTranslator : public QTranslator
+// A catalogue that translates the id of "New".
+class NewIdTranslator : public QTranslator
 {
 public:
-    explicit OneTextTranslator(QString strSource)
-        : m_strSource(std::move(strSource))
-    {
-        QCoreApplication::installTranslator(this);
-    }
+    NewIdTranslator() { QCoreApplication::installTranslator(this); }
     [[nodiscard]] bool isEmpty() const override { return false; }
     [[nodiscard]] QString translate(const char *pContext, const char *pText, const char *, int) const override
     {
-        const bool bIt = m_strSource == QLatin1String(pText) && QLatin1String(pContext) == "MainWindow";
-        return bIt ? QStringLiteral("translated") : QString();
+        return QByteArray(pContext) + pText == "MainWindowFile.New" ? QStringLiteral("translated")
+                                                                    : QString();
     }
-
-private:
-    const QString m_strSource;
 };
 
 // Counts whoever turns to a file below /silent, a drive that does not answer.
@@ -124,14 +117,15 @@ private slots:
             "\tExport to HTML5 [Ctrl+Alt+E]", "\tExport to Video", "\t--",
             "\tE&xit" + standardKeys(QKeySequence::SaveAs), "&Edit",
             "\t&Preferences" + standardKeys(QKeySequence::Preferences), "&View", "\tLanguage",
-            "\t\tAmerican English (United States)", "\t\tDeutsch (Germany)", "&Help", "\tAbout",
-            "\tHelp Contents [F1]", "\tReport a Problem", "\tProvide a Suggestion", "\tCheck Updates..."};
+            "\t\tAmerican English (United States)", "\t\tDeutsch (Germany)", "\tTool Bars", "&Help",
+            "\tAbout", "\tHelp Contents [F1]", "\tReport a Problem", "\tProvide a Suggestion",
+            "\tCheck Updates..."};
         QCOMPARE(lines(pMenuBar->actions()), expected);
         QCOMPARE(ActionManager::getAction("File.Save")->getDescription(), "Save the current project");
         QCOMPARE(ActionManager::getAction("Help.About")->getDescription(), QString());
     }
 
-    void toolBarHoldsTheCommandsOfProjects()
+    void toolBarHoldsTheCommandsOfProjectsAndComesBack()
     {
         QToolBar *pBar = m_pWindow->getFileToolbar();
         QCOMPARE(pBar->objectName(), "m_pFileToolbar");
@@ -140,12 +134,19 @@ private slots:
                 "Preview Project in Browser", "\tPreview Project in Browser [F5]",
                 "\tPreview Current Scene in Browser [Ctrl+F5]", "Export to HTML5 [Ctrl+Alt+E]",
                 "Export to Video"}));
+        m_pWindow->addToolBar("Late");
+        pBar->hide();
+        QMenu *pMenu = ActionManager::getActionContainer("View.Tool_Bars")->getMenu();
+        emit pMenu->aboutToShow();
+        QCOMPARE(lines(pMenu->actions()), (QStringList {"File", "Late"}));
+        pMenu->actions().first()->trigger();
+        QVERIFY(!pBar->isHidden());
     }
 
     void aTranslatedIdOfNewLeavesAWindowThatWorks()
     {
         m_pWindow.reset();
-        const OneTextTranslator catalogue("File.New");
+        const NewIdTranslator catalogue;
         m_pWindow = std::make_unique<MainWindow>(nullptr);
         QVERIFY(ActionManager::getAction("translated"));
         QVERIFY(!m_pWindow->getFileToolbar()->actions().first()->text().contains("New"));
@@ -158,8 +159,11 @@ private slots:
     void savingIsOfferedExactlyWhenItMakesSense()
     {
         FakeDocument *pDoc = load("a.kelpa");
+        pDoc->bSaveAsSucceeds = false;
+        m_pWindow->fileSaveAs();
         QVERIFY(!enabled("File.Save"));
         pDoc->modify();
+        m_pWindow->fileSaveAs();
         QVERIFY(enabled("File.Save"));
         pDoc->bSaveSucceeds = false;
         m_pWindow->fileSave();
@@ -172,7 +176,6 @@ private slots:
         pDoc->modify();
         pDoc->stack.setClean();
         QVERIFY2(enabled("File.Save"), "a temporary project can always be saved");
-        pDoc->bSaveAsSucceeds = false;
         m_pWindow->fileSaveAs();
         QVERIFY(enabled("File.Save"));
         pDoc->bSaveAsSucceeds = true;
@@ -183,17 +186,6 @@ private slots:
         QVERIFY(enabled("File.Save"));
         emit pDoc->requestClosing(false);
         QVERIFY2(!enabled("File.Save"), "there is nothing to save");
-    }
-
-    void aCancelledSaveAsLeavesSaveAsItWas()
-    {
-        FakeDocument *pDoc = load("a.kelpa");
-        pDoc->bSaveAsSucceeds = false;
-        m_pWindow->fileSaveAs();
-        QVERIFY(!enabled("File.Save"));
-        pDoc->modify();
-        m_pWindow->fileSaveAs();
-        QVERIFY(enabled("File.Save"));
     }
 
     void closeAndSaveAsFollowTheActiveEditor()

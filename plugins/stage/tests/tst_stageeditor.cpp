@@ -4,6 +4,7 @@
 #include "stagemodel.h"
 #include "stageprogram.h"
 
+#include <actionmanager/actioncontainer.h>
 #include <irecentfilesmanager.h>
 
 class tst_StageEditor : public QObject
@@ -161,6 +162,9 @@ private slots:
         QVERIFY(!action("Delete")->isEnabled());
         for (const char *pText : {"Add Rectangle", "Add Ellipse", "Add Text"})
             action(pText)->trigger();
+        const QMenu *pMenu = ActionManager::getActionContainer("MenuBar.Edit")->getMenu();
+        for (QAction *pAction : m_pProgram->toolBar->actions())
+            QVERIFY(pAction->isSeparator() || pMenu->actions().contains(pAction));
         const auto &shapes = elements(0);
         QCOMPARE(shapes.size(), 6);
         QCOMPARE(shapes.at(4).id, "ellipse-1");
