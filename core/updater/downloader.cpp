@@ -57,7 +57,7 @@ Downloader::Downloader(QWidget *pParent)
 {
     m_pUi->setupUi(this);
     setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
-    // The program ends with its main window, also while something is downloaded.
+    // The program ends with its main window, also while something is downloaded: see closeEvent().
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowIcon(IUi::getIcon());
     m_pManager->setTransferTimeout(s_nTimeoutMs);
@@ -478,9 +478,13 @@ void Downloader::refuse(const QString &strReason)
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
-// The close button asks as Stop does.
+// The close button asks as Stop does. When the main window is closed the program ends, and would live on
+// without a window if this one refused.
 void Downloader::closeEvent(QCloseEvent *pEvent)
 {
+    const MainWindow *pMainWindow = ICore::getMainWindow();
+    if (pMainWindow && !pMainWindow->isVisible())
+        releaseReply();
     const bool bUnderWay = m_pReply && !m_pReply->isFinished();
     if (bUnderWay)
         cancelDownload();
