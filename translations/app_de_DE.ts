@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>eine Weiterleitung von einer sicheren Adresse zu &quot;%1&quot;, die es nicht ist</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>dort liegt ein Ordner</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>die Datei lässt sich nicht in den Papierkorb verschieben</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>Es gibt kein Programm, mit dem sich %1 öffnen lässt.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>es ist größer als %1 Byte</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Soll der Eintrag aus dem Verlauf entfernt werden?</translation>
     <message>
         <source>Recent Projects</source>
         <translation>Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>Die Startseite kann hier nicht gezeigt werden: Teile des Browsers fehlen oder versagen. Stattdessen sind Ihre Projekte aufgelistet.</translation>
     </message>
 </context>
 <context>

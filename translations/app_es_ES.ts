@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>una redirección de una dirección segura a &quot;%1&quot;, que no lo es</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>no se puede mover a la papelera</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>No hay ningún programa con el que abrir %1.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>ocupa más de %1 bytes</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Do you want to remove this entry from history?</source>
     <message>
         <source>Recent Projects</source>
         <translation>Proyectos recientes</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>La página de inicio no se puede mostrar aquí: faltan partes del motor del navegador o fallan. En su lugar se muestra la lista de sus proyectos.</translation>
     </message>
 </context>
 <context>

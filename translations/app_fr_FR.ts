@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>une redirection d&apos;une adresse sécurisée vers &quot;%1&quot;, qui ne l&apos;est pas</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c&apos;est un dossier</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>impossible de le mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>Aucun programme ne permet d&apos;ouvrir %1.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>elle dépasse %1 octets</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Voulez-vous retirer cette entrée de l&apos;historique ?</translation>
     <message>
         <source>Recent Projects</source>
         <translation>Projets récents</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>La page d&apos;accueil ne peut pas être affichée ici : des parties du moteur de navigation manquent ou échouent. Vos projets sont listés à la place.</translation>
     </message>
 </context>
 <context>

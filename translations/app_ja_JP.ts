@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>安全なアドレスから、安全でない &quot;%1&quot; にリダイレクトされました</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>ごみ箱に移動できません</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>%1 を開くプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Do you want to remove this entry from history?</source>
     <message>
         <source>Recent Projects</source>
         <translation>最近使ったプロジェクト</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>ここではホーム画面を表示できません: ブラウザーエンジンの一部が見つからないか、動作しません。代わりにプロジェクトの一覧を表示しています。</translation>
     </message>
 </context>
 <context>

@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>um redirecionamento de um endereço seguro para &quot;%1&quot;, que não é seguro</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>é uma pasta</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>não é possível movê-lo para a lixeira</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>Não há nenhum programa para abrir %1.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>ela é maior que %1 bytes</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Deseja remover esta entrada do histórico?</translation>
     <message>
         <source>Recent Projects</source>
         <translation>Projetos recentes</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>A página inicial não pode ser exibida aqui: partes do mecanismo do navegador estão ausentes ou falham. Em vez dela, seus projetos são listados.</translation>
     </message>
 </context>
 <context>

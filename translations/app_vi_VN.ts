@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>bị chuyển hướng từ một địa chỉ an toàn tới &quot;%1&quot;, vốn không an toàn</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>đó là một thư mục</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>không thể chuyển vào thùng rác</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>Không có chương trình nào để mở %1.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>lớn hơn %1 byte</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Bạn có muốn xóa mục này khỏi lịch sử không?</translation>
     <message>
         <source>Recent Projects</source>
         <translation>Dự án gần đây</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>Không thể hiển thị trang đầu ở đây: một số phần của bộ máy trình duyệt bị thiếu hoặc bị lỗi. Thay vào đó, các dự án của bạn được liệt kê.</translation>
     </message>
 </context>
 <context>

@@ -305,6 +305,22 @@
         <source>a redirect from a secure address to &quot;%1&quot;, which is not</source>
         <translation>从安全地址被重定向到不安全的 &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>它是一个文件夹</translation>
+    </message>
+    <message>
+        <source>it cannot be moved to the trash</source>
+        <translation>无法移到回收站</translation>
+    </message>
+    <message>
+        <source>There is no program to open %1 with.</source>
+        <translation>没有可以打开 %1 的程序。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>大于 %1 字节</translation>
+    </message>
 </context>
 <context>
     <name>EditingOptionPage</name>
@@ -730,6 +746,10 @@ Do you want to remove this entry from history?</source>
     <message>
         <source>Recent Projects</source>
         <translation>最近的项目</translation>
+    </message>
+    <message>
+        <source>The home page cannot be shown here: parts of the browser engine are missing or fail. Your projects are listed instead.</source>
+        <translation>此处无法显示主页：浏览器引擎的某些部分缺失或出错。改为列出您的项目。</translation>
     </message>
 </context>
 <context>

@@ -47,7 +47,7 @@ IMainMdiArea::IMainMdiArea(QWidget *pParent)
         channel()->registerObject(QStringLiteral("kpwelcome"), pBridge);
 }
 
-// The bridge leaves the channel by itself, as it dies with this area. What listens for the area's own
+// The bridge leaves the channel by itself when it dies with this area. What listens for the area's own
 // leaving relies on it being announced, although the area never was on the channel.
 IMainMdiArea::~IMainMdiArea()
 {

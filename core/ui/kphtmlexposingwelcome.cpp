@@ -1,15 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kphtmlexposingwelcome.h"
 
+#include "icore.h"
+#include "mainwindow.h"
 #include "ui/imainmdiarea.h"
+
+#include <QWebChannel>
 
 KPHTMLExposingWelcome::KPHTMLExposingWelcome(IMainMdiArea *pMdiArea)
     : QObject(pMdiArea)
     , m_pMdiArea(pMdiArea)
+    , m_pChannel(ICore::getMainWindow() ? ICore::getMainWindow()->getChannel() : nullptr)
 {
 }
 
-KPHTMLExposingWelcome::~KPHTMLExposingWelcome() = default;
+// Until its first client has asked for the objects, the channel does not notice that one dies.
+KPHTMLExposingWelcome::~KPHTMLExposingWelcome()
+{
+    if (m_pChannel && !m_pChannel->registeredObjects().key(this).isEmpty())
+        m_pChannel->deregisterObject(this);
+}
 
 void KPHTMLExposingWelcome::showInExplorer(const QString &strFileName)
 {

@@ -9,10 +9,11 @@
 #include <QVariantMap>
 
 class IMainMdiArea;
+class QWebChannel;
 
 /// What the welcome page can reach of the program, "kpwelcome" on the web channel: the slots here and nothing
 /// else. docs/security.md tells who may call them; add none that they must not. Child of the area it is made
-/// for, to which it hands on what is not answered here. GUI thread only.
+/// for, to which it hands on what is not answered here; leaves the channel when it dies. GUI thread only.
 class CORE_EXPORT KPHTMLExposingWelcome : public QObject
 {
     Q_OBJECT
@@ -41,4 +42,5 @@ public slots:
 
 private:
     QPointer<IMainMdiArea> m_pMdiArea;
+    QPointer<QWebChannel> m_pChannel;
 };

@@ -8,10 +8,13 @@
 #include <QDir>
 #include <QFile>
 #include <QLibrary>
+#include <QLibraryInfo>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
 #include <QPluginLoader>
 #include <private/qopenglcontext_p.h>
+
+#include <algorithm>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -76,8 +79,46 @@ QString modulePath()
     return strFile;
 }
 
+#ifdef Q_OS_WIN
+const QString s_helper = QStringLiteral("/QtWebEngineProcess.exe");
+#else
+const QString s_helper = QStringLiteral("/QtWebEngineProcess");
+#endif
+const QString s_data = QStringLiteral("/qtwebengine_resources.pak");
+
+// The engine looks only where the environment tells it to, if that does.
+QStringList placesOf(const char *pVariable, const QString &strInNamed, const QStringList &places)
+{
+    const QString strNamed = qEnvironmentVariable(pVariable);
+    return strNamed.isEmpty() ? places : QStringList(strNamed + strInNamed);
+}
+
+// What the engine would end the whole program for, with the places where it is not. In the bundles of macOS
+// it lies elsewhere.
+QString missingPart()
+{
+#ifndef Q_OS_MACOS
+    const QString strProgram = QCoreApplication::applicationDirPath();
+    for (const QStringList &places :
+        {placesOf("QTWEBENGINEPROCESS_PATH", {},
+             {QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + s_helper, strProgram + s_helper}),
+            placesOf("QTWEBENGINE_RESOURCES_PATH", s_data,
+                {QLibraryInfo::path(QLibraryInfo::DataPath) + QLatin1String("/resources") + s_data,
+                    strProgram + s_data})}) {
+        const auto isThere = [](const QString &strFile) { return QFile::exists(strFile); };
+        if (std::none_of(places.begin(), places.end(), isThere))
+            return places.join(QLatin1String(", "));
+    }
+#endif
+    return {};
+}
+
 WebViewFactory *loadModule()
 {
+    if (const QString strMissing = missingPart(); !strMissing.isEmpty()) {
+        qCWarning(lcWeb, "Web pages cannot be shown: there is no %s", qUtf8Printable(strMissing));
+        return nullptr;
+    }
     allowRoot();
     shareContexts();
     QPluginLoader loader(modulePath());

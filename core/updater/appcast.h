@@ -21,6 +21,7 @@ struct CORE_EXPORT Appcast
     QString strFault;
 
     static constexpr qsizetype LargestSize = 1024 * 1024;
+    static constexpr qsizetype LargestCustomSize = 16 * LargestSize; ///< of a feed that somebody else reads
 
     /// Reads a feed of any content. Never fails: what is wrong goes to `strFault`.
     [[nodiscard]] static Appcast parse(const QByteArray &data, const QString &strPlatformKey);

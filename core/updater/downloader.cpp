@@ -17,22 +17,43 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLoggingCategory>
+#include <QMimeDatabase>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QThread>
+#include <QWindow>
 
 namespace {
 
 Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
 
 constexpr int s_nTimeoutMs = 30000;
-constexpr int s_nLongestLog = 500; ///< characters of a reason
+constexpr int s_nLongestReason = 500; ///< in characters
+constexpr int s_nHandlerTimeoutMs = 3000;
 constexpr qint64 s_nReadBuffer = 1024 * 1024;
 constexpr qint64 s_nLargestPage = 1024 * 1024; ///< of an error
 
 QString inQuotes(const QString &strPath)
 {
     return QLatin1Char('"') + QDir::toNativeSeparators(strPath) + QLatin1Char('"');
+}
+
+// What starts programs on a Unix desktop says yes before it has found one, so what knows them is asked. A
+// system without it, such as Windows, tells when it starts one.
+bool hasHandler(const QString &strFileName)
+{
+    const QString strTool = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (strTool.isEmpty())
+        return true;
+    const QString strType = QMimeDatabase().mimeTypeForFile(strFileName).name();
+    QProcess tool;
+    tool.start(strTool, {QStringLiteral("query"), QStringLiteral("default"), strType});
+    constexpr int nNothingFound = 4;
+    const bool bAnswered = tool.waitForFinished(s_nHandlerTimeoutMs)
+        && (tool.exitCode() == 0 || tool.exitCode() == nNothingFound);
+    return !bAnswered || !tool.readAllStandardOutput().trimmed().isEmpty();
 }
 
 // A full disk may take a beginning first; only the next attempt names the reason.
@@ -57,7 +78,7 @@ Downloader::Downloader(QWidget *pParent)
 {
     m_pUi->setupUi(this);
     setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
-    // The program ends with its main window, also while something is downloaded.
+    // The program ends with its main window, also while something is downloaded: see closeEvent().
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowIcon(IUi::getIcon());
     m_pManager->setTransferTimeout(s_nTimeoutMs);
@@ -125,14 +146,28 @@ void Downloader::begin(const QUrl &url)
     if (m_strFileName.isEmpty())
         setFileName(QString());
     if (!UpdateTexts::isWebUrl(url))
-        return refuse(
-            tr("Cannot download update: %1.").arg(tr("\"%1\" is no address of the web").arg(url.toString())));
+        return refuse(tr("Cannot download update: %1.")
+                          .arg(tr("\"%1\" is no address of the web").arg(url.toDisplayString())));
     if (const QString strObjection = m_check.objection(); !strObjection.isEmpty())
         return refuse(tr("The update is not installed: %1.").arg(strObjection));
     if (const QString strReason = prepareFolder(); !strReason.isEmpty())
         return refuse(strReason);
     request(url);
+    // In front of the main window, yet not its child, which would go with it.
+    winId();
+    const MainWindow *pMainWindow = ICore::getMainWindow();
+    windowHandle()->setTransientParent(pMainWindow ? pMainWindow->windowHandle() : nullptr);
     showNormal();
+}
+
+bool Downloader::bringToFront()
+{
+    if (!isVisible())
+        return false;
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    return true;
 }
 
 void Downloader::resetTexts()
@@ -150,20 +185,33 @@ void Downloader::resetTexts()
     m_pUi->timeLabel->setText(tr("Time Remaining") + QStringLiteral(": ") + tr("Unknown"));
 }
 
-// Makes room for the two files and finds out whether one can be written. The result says why not.
+// Makes room for the partial file and finds out whether it can be written. The result says why not. A file
+// with the name of the installer stays until makeWay().
 QString Downloader::prepareFolder() const
 {
     if (!QDir().mkpath(downloadFolder()))
         return tr("Cannot download update: the folder %1 cannot be made.").arg(inQuotes(downloadFolder()));
-    for (const QString &strPath : {filePath(), partPath()}) {
-        QFile file(strPath);
-        if ((file.exists() || QFileInfo(strPath).isSymLink()) && !file.remove())
-            return tr("Cannot replace %1: %2.").arg(inQuotes(strPath), file.errorString());
-    }
+    if (QFileInfo(filePath()).isDir())
+        return tr("Cannot replace %1: %2.").arg(inQuotes(filePath()), tr("it is a folder"));
     QFile part(partPath());
+    if ((part.exists() || QFileInfo(partPath()).isSymLink()) && !part.remove())
+        return tr("Cannot replace %1: %2.").arg(inQuotes(partPath()), part.errorString());
     if (!part.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return tr("Cannot write %1: %2.").arg(inQuotes(partPath()), part.errorString());
     return {};
+}
+
+// Of a link only the link goes. Where the folder that holds the trash is missing, Qt 6.4 would take the current
+// folder for the trash.
+bool Downloader::makeWay() const
+{
+    const QFileInfo old(filePath());
+    if (old.isSymLink())
+        return QFile::remove(filePath());
+    if (!old.exists())
+        return true;
+    const QString strData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return !old.isDir() && QDir().mkpath(strData) && QFile::moveToTrash(filePath());
 }
 
 // Compressed transfers are declined: their sizes are not those of the file.
@@ -247,7 +295,7 @@ void Downloader::saveFile(qint64 received, qint64 total)
     if (target.isValid())
         return onRedirected(target);
     if (takeData() && received >= total && total >= 1 && m_nWritten >= total)
-        complete();
+        completeLater();
 }
 
 void Downloader::onReadyRead()
@@ -308,12 +356,23 @@ void Downloader::onFinished()
     }
     if (length.isValid() && length.toLongLong() != m_nWritten)
         return fail(tr("Cannot download update: %1.").arg(tr("%1 is incomplete").arg(inQuotes(filePath()))));
-    complete();
+    completeLater();
+}
+
+// Whoever hears of the end may delete this, and with it the reply, which must not be in a signal then.
+void Downloader::completeLater()
+{
+    releaseReply();
+    forgetCheck();
+    const auto goOn = [this, nCheck = m_nCheck] {
+        if (nCheck == m_nCheck)
+            complete();
+    };
+    QMetaObject::invokeMethod(this, goOn, Qt::QueuedConnection);
 }
 
 void Downloader::complete()
 {
-    releaseReply();
     if (m_nWritten == 0)
         return fail(tr("Cannot download update: %1.").arg(tr("%1 is empty").arg(inQuotes(filePath()))));
     checkThen(partPath(), &Downloader::finish);
@@ -324,6 +383,9 @@ void Downloader::finish()
     QFile part(partPath());
     if (part.size() != m_nWritten)
         return fail(tr("Cannot write %1: another program has changed it.").arg(inQuotes(partPath())));
+    if (!makeWay())
+        return fail(
+            tr("Cannot replace %1: %2.").arg(inQuotes(filePath()), tr("it cannot be moved to the trash")));
     if (!part.rename(filePath()))
         return fail(tr("Cannot rename %1 to %2: %3.")
                         .arg(inQuotes(partPath()), inQuotes(filePath()), part.errorString()));
@@ -390,8 +452,10 @@ void Downloader::installUpdate()
     box.setTextFormat(Qt::RichText);
     box.setText(QStringLiteral("<h3>")
         + tr("In order to install the update, you need to quit the application.") + QStringLiteral("</h3>"));
-    box.setInformativeText(tr("Click OK to begin installing the update."));
+    box.setInformativeText(tr("Click OK to begin installing the update.") + QStringLiteral("<br>")
+        + QDir::toNativeSeparators(filePath()).toHtmlEscaped());
     box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Cancel); // a Return that was meant for something else installs nothing
     const QPointer<Downloader> pThis = this;
     const int nDownload = m_nDownload;
     const auto answer = IUi::run(&box, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"));
@@ -416,12 +480,14 @@ void Downloader::openDownload()
 
 void Downloader::runInstaller()
 {
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(filePath())))
+    const bool bHandler = hasHandler(filePath());
+    if (bHandler && QDesktopServices::openUrl(QUrl::fromLocalFile(filePath())))
         return QCoreApplication::quit();
     m_pUi->openButton->setEnabled(true);
     m_pUi->timeLabel->setText(tr("Click Open to apply the update."));
     IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
-        tr("%1 could not be opened.").arg(inQuotes(filePath())));
+        (bHandler ? tr("%1 could not be opened.") : tr("There is no program to open %1 with."))
+            .arg(inQuotes(filePath())));
 }
 
 void Downloader::cancelDownload()
@@ -452,8 +518,8 @@ void Downloader::onError()
         return;
     if (code == QNetworkReply::OperationCanceledError && !m_bCanceled)
         code = QNetworkReply::TimeoutError;
-    qCInfo(lcUpdater).noquote().nospace()
-        << "Error downloading update: " << m_url.toString() << ". Error code: " << static_cast<int>(code);
+    qCInfo(lcUpdater).noquote().nospace() << "Error downloading update: " << m_url.toDisplayString()
+                                          << ". Error code: " << static_cast<int>(code);
     if (code != QNetworkReply::OperationCanceledError)
         return fail(tr("Cannot download update: %1.").arg(static_cast<int>(code)));
     releaseReply();
@@ -470,17 +536,22 @@ void Downloader::fail(const QString &strReason)
 // The box shall not run inside a signal of the network.
 void Downloader::refuse(const QString &strReason)
 {
-    qCWarning(lcUpdater) << "No update:" << strReason.left(s_nLongestLog);
+    const QString strShown = UpdateTexts::shortened(strReason, s_nLongestReason);
+    qCWarning(lcUpdater) << "No update:" << strShown;
     close();
-    const auto tell = [strReason] {
-        IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strReason);
+    const auto tell = [strShown] {
+        IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strShown);
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
-// The close button asks as Stop does.
+// The close button asks as Stop does. When the main window is closed the program ends, and would live on
+// without a window if this one refused.
 void Downloader::closeEvent(QCloseEvent *pEvent)
 {
+    const MainWindow *pMainWindow = ICore::getMainWindow();
+    if (pMainWindow && !pMainWindow->isVisible())
+        releaseReply();
     const bool bUnderWay = m_pReply && !m_pReply->isFinished();
     if (bUnderWay)
         cancelDownload();

@@ -19,7 +19,9 @@ class Downloader;
 
 /// The small window that downloads an installer into the user's folder of downloads, shows how far it is, and
 /// then offers to run it. Each Updater owns one. Until the installer is complete, and checked if there is a
-/// key, its file has the suffix ".part". GUI thread only; it must not outlive the application object.
+/// key, its file has the suffix ".part"; what had its name before then goes to the trash. The window stays in
+/// front of the main window, and goes without a question when that is closed. GUI thread only; it must not
+/// outlive the application object.
 class CORE_EXPORT Downloader : public QWidget
 {
     Q_OBJECT
@@ -33,6 +35,9 @@ public:
 
     /// What the next download has to pass. Without a key the configured one counts.
     void setInstallerCheck(const InstallerCheck &check) { m_check = check; }
+
+    /// False, and nothing else, when the window is not shown.
+    bool bringToFront();
 
     /// "~/Downloads/", with the slash.
     [[nodiscard]] static QString downloadFolder();
@@ -51,7 +56,7 @@ public slots:
     void setUseCustomInstallProcedures(bool custom);
 
 signals:
-    /// `url` is the id that was set, `filepath` the finished installer.
+    /// `url` is the id that was set, `filepath` the finished installer. Whoever hears it may delete this.
     void downloadFinished(const QString &url, const QString &filepath);
 
 protected:
@@ -75,10 +80,12 @@ private:
     void begin(const QUrl &url);
     void resetTexts();
     [[nodiscard]] QString prepareFolder() const;
+    [[nodiscard]] bool makeWay() const;
     void request(const QUrl &url);
     [[nodiscard]] bool takeData();
     void skipPage(int nStatus);
     void failWithStatus(int nStatus);
+    void completeLater();
     void complete();
     void finish();
     using Continuation = void (Downloader::*)();

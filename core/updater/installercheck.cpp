@@ -33,33 +33,48 @@ constexpr bool s_bCanCheck = true;
 constexpr qsizetype s_nKeySize = crypto_sign_PUBLICKEYBYTES;
 constexpr qsizetype s_nSignatureSize = crypto_sign_BYTES;
 
-bool isSignedBy(const QByteArray &signature, const uchar *pData, qint64 nSize, const QByteArray &key)
+const uchar *bytesOf(const QByteArray &bytes)
 {
-    const auto *pSignature = reinterpret_cast<const uchar *>(signature.constData());
-    const auto *pKey = reinterpret_cast<const uchar *>(key.constData());
+    return reinterpret_cast<const uchar *>(bytes.constData());
+}
+
+bool isSignedBy(const QByteArray &signature, const QByteArray &content, const QByteArray &key)
+{
+    const auto nSize = static_cast<unsigned long long>(content.size());
     return sodium_init() >= 0
-        && crypto_sign_verify_detached(pSignature, pData, static_cast<unsigned long long>(nSize), pKey) == 0;
+        && crypto_sign_verify_detached(bytesOf(signature), bytesOf(content), nSize, bytesOf(key)) == 0;
 }
 #else
 constexpr bool s_bCanCheck = false;
 constexpr qsizetype s_nKeySize = 32;
 constexpr qsizetype s_nSignatureSize = 64;
 
-bool isSignedBy(const QByteArray &, const uchar *, qint64, const QByteArray &)
+bool isSignedBy(const QByteArray &, const QByteArray &, const QByteArray &)
 {
     return false;
 }
 #endif
 
-bool hasSum(const QString &strSha256, const uchar *pData, qint64 nSize)
+bool hasSum(const QString &strSha256, const QByteArray &content)
 {
-    constexpr qint64 nPiece = 1024 * 1024;
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (qint64 nAt = 0; nAt < nSize; nAt += nPiece) {
-        const auto *pPiece = reinterpret_cast<const char *>(pData + nAt);
-        hash.addData(QByteArray::fromRawData(pPiece, qMin(nPiece, nSize - nAt)));
+    const QByteArray sum = QCryptographicHash::hash(content, QCryptographicHash::Sha256);
+    return QString::fromLatin1(sum.toHex()) == strSha256.toLower();
+}
+
+// False, and why, unless all of it could be read. A file that changes meanwhile gives one or the other
+// content, where a mapped one would end the program.
+bool readWhole(const QString &strFileName, QByteArray *pContent, QString *pReason)
+{
+    QFile file(strFileName);
+    const bool bOpen = file.open(QIODevice::ReadOnly);
+    const qint64 nSize = file.size();
+    if (nSize > InstallerCheck::LargestSize) {
+        *pReason = Texts::tr("it is larger than %1 bytes").arg(InstallerCheck::LargestSize);
+        return false;
     }
-    return QString::fromLatin1(hash.result().toHex()) == strSha256.toLower();
+    *pContent = file.read(nSize);
+    *pReason = file.errorString();
+    return bOpen && file.error() == QFileDevice::NoError;
 }
 
 // A store that is not there is fine; one that hides what it says is not.
@@ -99,23 +114,20 @@ QString InstallerCheck::objection() const
     return {};
 }
 
-// The file is mapped, not read: however large it is, the system can take the memory back.
+// A signature covers the whole file at once, so the file is read into memory, in blocks.
 QString InstallerCheck::check(const QString &strFileName) const
 {
     if (!isNeeded())
         return {};
     if (const QString strObjection = objection(); !strObjection.isEmpty())
         return strObjection;
-    QFile file(strFileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
-    const qint64 nSize = file.size();
-    const uchar *pData = file.map(0, nSize);
-    if (!pData)
-        return file.errorString();
-    if (!strSha256.isEmpty() && !hasSum(strSha256, pData, nSize))
+    QByteArray content;
+    QString strReason;
+    if (!readWhole(strFileName, &content, &strReason))
+        return strReason;
+    if (!strSha256.isEmpty() && !hasSum(strSha256, content))
         return Texts::tr("its check sum is not the announced one");
-    if (!isSignedBy(fromBase64(strSignature, s_nSignatureSize), pData, nSize, fromBase64(strKey, s_nKeySize)))
+    if (!isSignedBy(fromBase64(strSignature, s_nSignatureSize), content, fromBase64(strKey, s_nKeySize)))
         return Texts::tr("its signature is not valid");
     return {};
 }

@@ -8,6 +8,8 @@
 /// What decides whether a downloaded installer may be opened. Plain values; check() may run on any thread.
 struct CORE_EXPORT InstallerCheck
 {
+    static constexpr qint64 LargestSize = qint64(1) << 30; ///< bytes; what is larger never passes a check
+
     QString strKey; ///< Ed25519 public key in Base64; empty: installers are not checked
     QString strSha256; ///< hexadecimal digits; when empty only the signature counts
     QString strSignature; ///< Base64
@@ -22,6 +24,7 @@ struct CORE_EXPORT InstallerCheck
     /// Why no file at all could pass, for people; empty when one may.
     [[nodiscard]] QString objection() const;
 
-    /// Why this file must not be opened, for people; empty when it may. Reads the whole file.
+    /// Why this file must not be opened, for people; empty when it may. Needs as much memory as the file
+    /// is large.
     [[nodiscard]] QString check(const QString &strFileName) const;
 };

@@ -6,6 +6,7 @@
 #include "ui/webviewloader.h"
 #include "ui_kpreleasenotedlg.h"
 
+#include <QScreen>
 #include <QTimer>
 
 namespace {
@@ -29,8 +30,13 @@ KPReleaseNoteDlg::KPReleaseNoteDlg(QWidget *pParent)
     setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
     setWindowIcon(IUi::getIcon());
     const int nDPI = DisplayScale::logicalDpi(this);
-    setMinimumSize(DisplayScale::proportional(nDPI, 480), DisplayScale::proportional(nDPI, 360));
-    resize(DisplayScale::proportional(nDPI, 640), DisplayScale::proportional(nDPI, 520));
+    const auto scaled = [nDPI, most = screen()->availableSize() * 9 / 10](int nWidth, int nHeight) {
+        return QSize(DisplayScale::proportional(nDPI, nWidth), DisplayScale::proportional(nDPI, nHeight))
+            .boundedTo(most);
+    };
+    setMinimumSize(scaled(480, 360));
+    resize(scaled(640, 520));
+    m_pUi->m_pBtnClose->setFocus(); // a key that was meant for something else does no harm
     connect(m_pUi->m_pBtnUpdate, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_pUi->m_pBtnClose, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_pUi->m_pBtnSkip, &QPushButton::clicked, this, [this] { done(SkipVersion); });

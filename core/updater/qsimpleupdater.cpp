@@ -132,6 +132,11 @@ QString QSimpleUpdater::getLastError(const QString &url)
     return getUpdater(url)->lastError();
 }
 
+bool QSimpleUpdater::showDownload(const QString &url)
+{
+    return getUpdater(url)->showDownload();
+}
+
 void QSimpleUpdater::abort(const QString &url)
 {
     getUpdater(url)->abort();

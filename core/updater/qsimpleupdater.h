@@ -42,6 +42,10 @@ public:
     /// Ends the checks under way, which then could not reach their server.
     void abort(const QString &url);
 
+    /// Brings the window of a download that has not been installed or cancelled to the front; false when
+    /// there is none.
+    bool showDownload(const QString &url);
+
 public slots:
     void checkForUpdates(const QString &url, bool bSilentIfNoUpdate);
     void setModuleName(const QString &url, const QString &name);

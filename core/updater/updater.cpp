@@ -23,8 +23,15 @@ Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
 
 constexpr int s_nTimeoutMs = 30000;
 constexpr int s_nLongestLog = 200; ///< characters of what came from outside
+constexpr int s_nLongestError = 500;
 constexpr auto s_hops = QNetworkRequest::User; ///< redirects that led to a request
 constexpr char s_pReason[] = "reason"; ///< why a reply was aborted
+
+QString shown(const QString &strUrl)
+{
+    const QString strShown = QUrl(strUrl).toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery);
+    return UpdateTexts::shortened(strShown, s_nLongestLog);
+}
 
 // Only what the configuration or a person names may be fetched by other means than the web's.
 bool openInBrowser(const QString &strUrl)
@@ -32,13 +39,15 @@ bool openInBrowser(const QString &strUrl)
     const QUrl url(strUrl);
     if (UpdateTexts::isWebUrl(url))
         return QDesktopServices::openUrl(url);
-    qCWarning(lcUpdater) << "Not opened, since it is no address of the web:" << strUrl.left(s_nLongestLog);
+    qCWarning(lcUpdater) << "Not opened, since it is no address of the web:" << shown(strUrl);
     return false;
 }
 
-QString shown(const QString &strUrl)
+// Qt names the address, and with it what may be secret in that.
+QString errorOf(const QNetworkReply &reply)
 {
-    return QUrl(strUrl).toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery);
+    const QString strUrl = reply.url().toString();
+    return reply.errorString().replace(strUrl, shown(strUrl));
 }
 
 } // namespace
@@ -125,6 +134,11 @@ void Updater::checkForUpdates(bool bSilentIfNoUpdate)
     get(QUrl(m_strUrl), 0);
 }
 
+bool Updater::showDownload()
+{
+    return m_pDownloader->bringToFront();
+}
+
 // Whoever hears that a check has ended may delete this, or begin and end others.
 void Updater::abort()
 {
@@ -142,7 +156,7 @@ void Updater::abort()
     }
 }
 
-// A feed that is too large is not even received, unless somebody else reads it.
+// A feed that is too large is not even received.
 void Updater::get(const QUrl &url, int nRedirects)
 {
     QNetworkRequest request(url);
@@ -152,9 +166,10 @@ void Updater::get(const QUrl &url, int nRedirects)
         request.setRawHeader("User-Agent", m_strUserAgentString.toUtf8());
     QNetworkReply *pReply = m_pManager->get(request);
     connect(pReply, &QNetworkReply::readyRead, this, [this, pReply] {
-        if (m_bCustomAppcast || pReply->bytesAvailable() <= Appcast::LargestSize)
+        const qsizetype nMost = m_bCustomAppcast ? Appcast::LargestCustomSize : Appcast::LargestSize;
+        if (pReply->bytesAvailable() <= nMost)
             return;
-        pReply->setProperty(s_pReason, tr("the answer is larger than %1 bytes").arg(Appcast::LargestSize));
+        pReply->setProperty(s_pReason, tr("the answer is larger than %1 bytes").arg(nMost));
         pReply->abort();
     });
 }
@@ -203,14 +218,14 @@ void Updater::failToReach(const QNetworkReply *pReply)
     if (strReason.isEmpty())
         strReason = pReply->error() == QNetworkReply::OperationCanceledError
             ? tr("no answer within %1 seconds").arg(m_pManager->transferTimeout() / 1000.0)
-            : pReply->errorString();
+            : errorOf(*pReply);
     endWithout(tr("Cannot reach %1: %2.").arg(shown(m_strUrl), strReason));
 }
 
 // The error is there for whoever asks; the check itself counts as one that found nothing.
 void Updater::endWithout(const QString &strError)
 {
-    m_strLastError = strError;
+    m_strLastError = UpdateTexts::shortened(strError, s_nLongestError);
     qCInfo(lcUpdater) << strError.left(s_nLongestLog);
     end(false);
 }
@@ -232,8 +247,7 @@ void Updater::readAppcast(const QByteArray &data)
     if (!m_appcast.strFault.isEmpty())
         return endWithout(tr("%1 is not a valid feed: %2.").arg(shown(m_strUrl), m_appcast.strFault));
     m_strLastError.clear();
-    const QString &strVersion = m_appcast.strLatestVersion;
-    end(UpdateTexts::isVersion(strVersion) && UpdateTexts::isNewer(strVersion, m_strModuleVersion));
+    end(UpdateTexts::isNewer(m_appcast.strLatestVersion, m_strModuleVersion));
 }
 
 void Updater::setUpdateAvailable(bool available)
@@ -241,7 +255,7 @@ void Updater::setUpdateAvailable(bool available)
     m_bUpdateAvailable = available;
     if (available)
         qCInfo(lcUpdater, "New version: %s", qUtf8Printable(m_appcast.strLatestVersion.left(s_nLongestLog)));
-    else if (m_strLastError.isEmpty())
+    else
         qCInfo(lcUpdater, "No updates available.");
     if (available && (m_bNotifyOnUpdate || m_bNotifyOnFinish))
         offer();
@@ -252,13 +266,14 @@ void Updater::setUpdateAvailable(bool available)
 // While the dialog is open another check may end, and the program may. What the user sees is what counts.
 void Updater::offer()
 {
-    if (m_bOffering)
+    if (m_bOffering || showDownload())
         return;
     const Appcast offered = m_appcast;
     const QPointer<Updater> pThis = this;
     const QPointer<KPReleaseNoteDlg> pDialog = new KPReleaseNoteDlg(ICore::getMainWindow());
+    const QString strVersion = UpdateTexts::shortened(offered.strLatestVersion, UpdateTexts::LongestVersion);
     pDialog->setHeading(tr("<b>%1 %2 has been released!</b>")
-                            .arg(m_strModuleName.toHtmlEscaped(), offered.strLatestVersion.toHtmlEscaped()));
+                            .arg(m_strModuleName.toHtmlEscaped(), strVersion.toHtmlEscaped()));
     pDialog->setReleaseNotes(offered.strChangelog);
     m_bOffering = true;
     const int nResult = pDialog->exec();
@@ -282,9 +297,9 @@ void Updater::accept(const Appcast &appcast)
     const QUrl url(appcast.strDownloadUrl);
     if (!UpdateTexts::isWebUrl(url))
         qCWarning(lcUpdater) << "Not fetched, since it is no address of the web:"
-                             << appcast.strDownloadUrl.left(s_nLongestLog);
+                             << shown(appcast.strDownloadUrl);
     m_pDownloader->setUrlId(m_strUrl);
-    m_pDownloader->setFileName(appcast.strDownloadUrl.section(QLatin1Char('/'), -1));
+    m_pDownloader->setFileName(UpdateTexts::fileNameOf(appcast.strDownloadUrl));
     m_pDownloader->setInstallerCheck(
         {InstallerCheck::configuredKey(), appcast.strSha256, appcast.strSignature});
     m_pDownloader->startDownload(url);

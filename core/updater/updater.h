@@ -45,6 +45,10 @@ public:
     /// Ends the checks under way; each ends as one that could not reach its server.
     void abort();
 
+    /// Brings the window of a download under way, or done and not yet installed, to the front; false when
+    /// there is none. Meanwhile nothing is offered: an offer does the same.
+    bool showDownload();
+
 signals:
     /// A check ended; any dialog that it led to has been closed.
     void checkingFinished(const QString &url);

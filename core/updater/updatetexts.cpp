@@ -56,12 +56,6 @@ bool UpdateTexts::isNewer(const QString &strX, const QString &strY)
     return x.size() > y.size();
 }
 
-bool UpdateTexts::isVersion(const QString &strVersion)
-{
-    static const QRegularExpression s_parts(QStringLiteral("\\A[0-9]+(\\.[0-9]+)*\\z"));
-    return s_parts.match(strVersion).hasMatch();
-}
-
 // Whole numbers need no rounding to two decimals.
 QString UpdateTexts::size(qint64 nBytes)
 {
@@ -108,6 +102,17 @@ QString UpdateTexts::safeFileName(const QString &strName)
     return bBad ? QStringLiteral("%1_Update.bin").arg(QStringLiteral("Kelpa")) : strName;
 }
 
+QString UpdateTexts::fileNameOf(const QString &strUrl)
+{
+    const QString strAddress = strUrl.section(QLatin1Char('#'), 0, 0).section(QLatin1Char('?'), 0, 0);
+    return strAddress.section(QLatin1Char('/'), -1);
+}
+
+QString UpdateTexts::shortened(const QString &strText, int nLongest)
+{
+    return strText.size() <= nLongest ? strText : strText.left(nLongest) + QStringLiteral("...");
+}
+
 bool UpdateTexts::isWebUrl(const QUrl &url)
 {
     return url.isValid() && !url.host().isEmpty()
@@ -119,8 +124,10 @@ QString UpdateTexts::redirectObjection(const QUrl &from, const QUrl &to, int nFo
     if (nFollowed >= MostRedirects)
         return Downloader::tr("more than %1 redirects").arg(MostRedirects);
     if (!isWebUrl(to))
-        return Downloader::tr("a redirect to \"%1\", which is no address of the web").arg(to.toString());
+        return Downloader::tr("a redirect to \"%1\", which is no address of the web")
+            .arg(to.toDisplayString());
     if (from.scheme() == QLatin1String("https") && to.scheme() != QLatin1String("https"))
-        return Downloader::tr("a redirect from a secure address to \"%1\", which is not").arg(to.toString());
+        return Downloader::tr("a redirect from a secure address to \"%1\", which is not")
+            .arg(to.toDisplayString());
     return {};
 }

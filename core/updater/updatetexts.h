@@ -13,9 +13,6 @@ namespace UpdateTexts {
 /// when all shared parts are equal, the version with more parts is the newer one.
 [[nodiscard]] CORE_EXPORT bool isNewer(const QString &strX, const QString &strY);
 
-/// Whether there is nothing but digits between the dots. What is not may compare in surprising ways.
-[[nodiscard]] CORE_EXPORT bool isVersion(const QString &strVersion);
-
 /// Whole bytes, KB or MB of 1024, truncated.
 [[nodiscard]] CORE_EXPORT QString size(qint64 nBytes);
 
@@ -30,6 +27,14 @@ namespace UpdateTexts {
 /// The name under which a download is saved: `strName`, or the default when that could leave the folder, is
 /// no name on one of the platforms, or is not what it looks like.
 [[nodiscard]] CORE_EXPORT QString safeFileName(const QString &strName);
+
+/// The name that the address of an installer ends with, as it is spelled there; without query and fragment.
+[[nodiscard]] CORE_EXPORT QString fileNameOf(const QString &strUrl);
+
+constexpr int LongestVersion = 60; ///< in characters, where one is shown
+
+/// What of a text from outside is shown: all, or its first `nLongest` characters and three dots.
+[[nodiscard]] CORE_EXPORT QString shortened(const QString &strText, int nLongest);
 
 /// Whether what a feed names may be fetched or opened: http and https.
 [[nodiscard]] CORE_EXPORT bool isWebUrl(const QUrl &url);

@@ -47,6 +47,14 @@ constexpr Request s_requests[] = {
     {9, false, "property"},
 };
 
+// The channel listens for the death of its objects by the same means as its clients do: one that stopped
+// listening would stop it too, and leave it with an object that is gone.
+bool isDeath(const QJsonValue &signal)
+{
+    const int nSignal = signal.toInt(-1);
+    return nSignal == 0 || nSignal == 1 || signal.toString().startsWith(QLatin1String("destroyed"));
+}
+
 // Members are named or numbered.
 bool isShort(const QJsonObject &message, const char *pName)
 {
@@ -96,6 +104,8 @@ bool isForChannel(const QJsonObject &message, qsizetype nCharacters)
         return true;
     const auto object = message.constFind(QLatin1String("object"));
     if (object == message.constEnd() || !object->isString())
+        return false;
+    if (!pRequest->bAnswered && isDeath(message.value(QLatin1String("signal"))))
         return false;
     return nCharacters <= NameCharacters
         || (isShort(message, "object") && isShort(message, pRequest->pMember));

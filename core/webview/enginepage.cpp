@@ -120,7 +120,7 @@ bool EnginePage::acceptRedirect(const QUrl &url)
 {
     const QString strObjection = UpdateTexts::redirectObjection(m_current, url, m_nRedirects++);
     if (!strObjection.isEmpty())
-        qCWarning(lcWeb, "%s: %s", qUtf8Printable(m_current.toString()), qUtf8Printable(strObjection));
+        qCWarning(lcWeb, "%s: %s", qUtf8Printable(m_current.toDisplayString()), qUtf8Printable(strObjection));
     return strObjection.isEmpty();
 }
 

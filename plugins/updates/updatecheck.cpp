@@ -10,6 +10,7 @@
 #include <iui.h>
 #include <mainwindow.h>
 #include <updater/qsimpleupdater.h>
+#include <updater/updatetexts.h>
 
 #include <chrono>
 
@@ -109,6 +110,8 @@ void UpdateCheck::checkNow()
             tr("No address to look for updates is set. You can set it in the preferences, under Updates."));
         return;
     }
+    if (QSimpleUpdater::getInstance()->showDownload(UpdateSettings::feedUrl()))
+        return;
     notify(tr("Looking for a new version..."), QString(), nullptr);
     begin(State::Manual);
 }
@@ -176,8 +179,10 @@ void UpdateCheck::announce()
     const QString strVersion = pUpdater->getLatestVersion(m_strUrl);
     if (pUpdater->getUpdateAvailable(m_strUrl)
         && UpdateSettings::isWanted(strVersion, QDateTime::currentDateTimeUtc()))
-        notify(tr("%1 %2 has been released.").arg(pUpdater->getModuleName(m_strUrl), strVersion), tr("Show"),
-            &UpdateCheck::checkNow);
+        notify(tr("%1 %2 has been released.")
+                   .arg(pUpdater->getModuleName(m_strUrl),
+                       UpdateTexts::shortened(strVersion, UpdateTexts::LongestVersion)),
+            tr("Show"), &UpdateCheck::checkNow);
 }
 
 void UpdateCheck::onPutOff(const QString &strUrl, const QString &strVersion, bool bPermanently)

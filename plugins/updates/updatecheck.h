@@ -20,7 +20,8 @@ public:
     /// Begins with the automatic checks, or asks once whether they are wanted.
     void start();
 
-    /// Looks now, and answers within 35 seconds. A check under way becomes this one.
+    /// Looks now, and answers within 35 seconds. A check under way becomes this one. While an update is
+    /// downloaded, or waits to be installed, it shows the window of that instead.
     void checkNow();
 
 private:

@@ -37,20 +37,26 @@ void setValue(const QString &strKey, const QVariant &newValue)
 }
 
 // An address with a comma is read as a list unless it is in quotes.
+QString read(const Address &address, QSettings::Scope scope)
+{
+    return value(address.strKey, scope).toStringList().join(QLatin1Char(',')).trimmed();
+}
+
+QString withoutUser(const Address &address)
+{
+    const QString strMachine = read(address, QSettings::SystemScope);
+    return strMachine.isEmpty() ? address.strDefault : strMachine;
+}
+
 QString read(const Address &address)
 {
-    for (const auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
-        const QString strUrl = value(address.strKey, scope).toStringList().join(QLatin1Char(',')).trimmed();
-        if (!strUrl.isEmpty())
-            return strUrl;
-    }
-    return address.strDefault;
+    const QString strUser = read(address, QSettings::UserScope);
+    return strUser.isEmpty() ? withoutUser(address) : strUser;
 }
 
 void write(const Address &address, const QString &strUrl)
 {
-    const bool bDefault = strUrl.trimmed().isEmpty() || strUrl.trimmed() == address.strDefault;
-    if (!bDefault)
+    if (!strUrl.trimmed().isEmpty() && strUrl.trimmed() != withoutUser(address))
         return setValue(address.strKey, strUrl.trimmed());
     if (QSettings *pSettings = ICore::settings(QSettings::UserScope))
         pSettings->remove(address.strKey);

@@ -14,7 +14,8 @@ public:
     [[nodiscard]] static QString reportUrl();
     [[nodiscard]] static QString suggestionUrl();
 
-    /// Setting the default, or nothing, takes the user's choice away.
+    /// Setting nothing, or what counts without the user (the machine's address, else the default), takes the
+    /// user's choice away.
     static void setFeedUrl(const QString &strUrl);
     static void setReportUrl(const QString &strUrl);
     static void setSuggestionUrl(const QString &strUrl);

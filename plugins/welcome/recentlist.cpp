@@ -12,10 +12,16 @@ RecentList::RecentList(IMainMdiArea *pArea, QWidget *pParent)
     : QWidget(pParent)
     , m_pList(new QListWidget(this))
 {
+    auto *pNote = new QLabel(tr("The home page cannot be shown here: parts of the browser engine are missing "
+                                "or fail. Your projects are listed instead."),
+        this);
+    pNote->setObjectName(QStringLiteral("note"));
+    pNote->setWordWrap(true);
     auto *pLabel = new QLabel(tr("&Recent Projects"), this);
     pLabel->setBuddy(m_pList);
     m_pList->setAccessibleName(tr("Recent Projects"));
     auto *pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pNote);
     pLayout->addWidget(pLabel);
     pLayout->addWidget(m_pList);
     setFocusProxy(m_pList);

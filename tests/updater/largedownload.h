@@ -49,7 +49,7 @@ inline void serveLargeFile(qint64 nSize, bool bLength, std::promise<quint16> *pP
 
 inline qint64 statusValue(const char *pKey)
 {
-    QFile file(QStringLiteral("/proc/self/status"));
+    QFile file("/proc/self/status");
     if (!file.open(QIODevice::ReadOnly))
         return -1;
     const QByteArray status = file.readAll();
@@ -59,7 +59,7 @@ inline qint64 statusValue(const char *pKey)
 
 inline void forgetPeak()
 {
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    QFile file("/proc/self/clear_refs");
     if (file.open(QIODevice::WriteOnly))
         file.write("5");
 }
@@ -73,7 +73,7 @@ inline LargeDownload downloadLargeFile(qint64 nSize, bool bLength)
     const quint16 nPort = listening.get();
 
     Downloader downloader;
-    downloader.setFileName(QStringLiteral("large"));
+    downloader.setFileName("large");
     downloader.setUseCustomInstallProcedures(true);
     QEventLoop loop;
     QObject::connect(&downloader, &Downloader::downloadFinished, &loop, &QEventLoop::quit);

@@ -24,16 +24,16 @@ public:
     TestCertificate()
     {
         QProcess openssl;
-        openssl.start(QStringLiteral("openssl"),
+        openssl.start("openssl",
             QStringLiteral("req -x509 -newkey rsa:2048 -nodes -batch -subj /CN=localhost "
                            "-addext subjectAltName=DNS:localhost -keyout %1/key -out %1/cert")
                 .arg(m_folder.path())
                 .split(QLatin1Char(' ')));
         openssl.waitForFinished();
-        QFile keyFile(m_folder.filePath(QStringLiteral("key")));
+        QFile keyFile(m_folder.filePath("key"));
         if (keyFile.open(QIODevice::ReadOnly))
             key = QSslKey(&keyFile, QSsl::Rsa);
-        certificate = QSslCertificate::fromPath(m_folder.filePath(QStringLiteral("cert"))).value(0);
+        certificate = QSslCertificate::fromPath(m_folder.filePath("cert")).value(0);
     }
 
     /// From now on this program believes it.

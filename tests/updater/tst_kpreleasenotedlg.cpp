@@ -18,7 +18,7 @@ QPushButton *button(const KPReleaseNoteDlg &dialog, const char *pName)
 
 bool hasEngine()
 {
-    QFile maps(QStringLiteral("/proc/self/maps"));
+    QFile maps("/proc/self/maps");
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQt6WebEngineCore");
 }
 
@@ -39,53 +39,36 @@ private slots:
     void initTestCase()
     {
         QGuiApplication::setQuitOnLastWindowClosed(false);
-        m_server.answer(QStringLiteral("/notes"), page("done('notes')"));
+        m_server.answer("/notes", page("done('notes')"));
     }
 
     void engineComesWithTheFirstNotes()
     {
         KPReleaseNoteDlg dialog(nullptr);
-        dialog.setHeading(QStringLiteral("<b>News</b>"));
+        dialog.setHeading("<b>News</b>");
         QVERIFY(!hasEngine());
         dialog.setReleaseNotes(QString());
         QVERIFY(button(dialog, "m_pBtnUpdate")->isEnabled());
-        dialog.setReleaseNotes(
-            m_server.url(QStringLiteral("/notes")).replace(QStringLiteral("http"), QStringLiteral("HTTP")));
+        dialog.setReleaseNotes(m_server.url("/notes").replace("http", "HTTP"));
         QVERIFY(!button(dialog, "m_pBtnUpdate")->isEnabled());
         QTRY_VERIFY_WITH_TIMEOUT(button(dialog, "m_pBtnUpdate")->isEnabled(), 60000);
         QVERIFY(hasEngine());
-        QTRY_VERIFY(m_server.paths.contains(QStringLiteral("/done?notes")));
-        dialog.setReleaseNotes(QStringLiteral("<p>Text leaves the button as it is</p>"));
+        QTRY_VERIFY(m_server.paths.contains("/done?notes"));
+        dialog.setReleaseNotes("<p>Text leaves the button as it is</p>");
         QVERIFY(button(dialog, "m_pBtnUpdate")->isEnabled());
-    }
-
-    void onlyUpdateAcceptsAndOnlyCloseRejects()
-    {
-        const QList<std::pair<const char *, int>> results {{"m_pBtnUpdate", QDialog::Accepted},
-            {"m_pBtnClose", QDialog::Rejected}, {"m_pBtnSkip", KPReleaseNoteDlg::SkipVersion},
-            {"m_pBtnLater", KPReleaseNoteDlg::RemindLater}};
-        for (const auto &[pName, nResult] : results) {
-            KPReleaseNoteDlg dialog(nullptr);
-            const QSignalSpy accepted(&dialog, &QDialog::accepted);
-            const QSignalSpy rejected(&dialog, &QDialog::rejected);
-            QTimer::singleShot(0, button(dialog, pName), &QPushButton::click);
-            QCOMPARE(dialog.exec(), nResult);
-            QCOMPARE(accepted.size(), nResult == QDialog::Accepted ? 1 : 0);
-            QCOMPARE(rejected.size(), nResult == QDialog::Rejected ? 1 : 0);
-        }
     }
 
     void notesThatDoNotComeKeepUpdateDisabled_data()
     {
-        QTest::addColumn<QString>("url");
-        QTest::newRow("a closed port") << QStringLiteral("http://127.0.0.1:1/");
-        QTest::newRow("no host") << QStringLiteral("https://");
-        QTest::newRow("a server that is silent") << m_server.url(QStringLiteral("/silent"));
-        QTest::newRow("a redirect to a file") << m_server.url(QStringLiteral("/tofile"));
-        QTest::newRow("a redirect to itself") << m_server.url(QStringLiteral("/loop"));
-        m_server.on(QStringLiteral("/silent"), [](QTcpSocket *) {});
-        m_server.redirect(QStringLiteral("/tofile"), QStringLiteral("file:///etc/passwd"));
-        m_server.redirect(QStringLiteral("/loop"), QStringLiteral("/loop"));
+        const auto row = columns<QString>("url");
+        row("a closed port", "http://127.0.0.1:1/");
+        row("no host", "https://");
+        row("a server that is silent", m_server.url("/silent"));
+        row("a redirect to a file", m_server.url("/tofile"));
+        row("a redirect to itself", m_server.url("/loop"));
+        m_server.on("/silent", [](QTcpSocket *) {});
+        m_server.redirect("/tofile", "file:///etc/passwd");
+        m_server.redirect("/loop", "/loop");
     }
 
     void notesThatDoNotComeKeepUpdateDisabled()
@@ -101,13 +84,13 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty() && finished.last().first().toBool(), 20000);
         QVERIFY(!button(dialog, "m_pBtnUpdate")->isEnabled());
         QVERIFY(button(dialog, "m_pBtnClose")->isEnabled());
-        QVERIFY(m_server.paths.count(QStringLiteral("/loop")) <= 12);
+        QVERIFY(m_server.paths.count("/loop") <= 12);
     }
 
     void pagesReadNoFilesAndOpenNothingByThemselves()
     {
         TestHome home;
-        m_server.answer(QStringLiteral("/evil"),
+        m_server.answer("/evil",
             page("try { window.open('http://k.example/popup') } catch (e) {}"
                  "var f = document.createElement('iframe'); f.src = 'qrc:/core/images/icon.png';"
                  "alert('stop'); confirm('stop');"
@@ -119,22 +102,21 @@ private slots:
         const BoxAnswers boxes({});
         KPReleaseNoteDlg dialog(nullptr);
         dialog.show();
-        dialog.setReleaseNotes(m_server.url(QStringLiteral("/evil")));
-        QTRY_VERIFY_WITH_TIMEOUT(m_server.paths.contains(QStringLiteral("/done?nofile")), 20000);
-        QTRY_VERIFY(m_server.paths.contains(QStringLiteral("/done?noscript")));
-        QVERIFY(!m_server.paths.contains(QStringLiteral("/done?file")));
+        dialog.setReleaseNotes(m_server.url("/evil"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_server.paths.contains("/done?nofile"), 20000);
+        QTRY_VERIFY(m_server.paths.contains("/done?noscript"));
+        QVERIFY(!m_server.paths.contains("/done?file"));
         QVERIFY(boxes.boxes.isEmpty());
         QVERIFY(home.opened.isEmpty());
     }
 
     void linksLeaveForTheBrowserOnlyIfOfTheWeb_data()
     {
-        QTest::addColumn<QString>("link");
-        QTest::addColumn<bool>("isOpened");
-        QTest::newRow("the web") << "https://k.example/more" << true;
-        QTest::newRow("the web in a new window") << "http://k.example/new' target='_blank" << true;
-        QTest::newRow("a file") << "file:///etc/passwd" << false;
-        QTest::newRow("mail") << "mailto:a@k.example" << false;
+        const auto row = columns<QString, bool>("link", "isOpened");
+        row("the web", "https://k.example/more", true);
+        row("the web in a new window", "http://k.example/new' target='_blank", true);
+        row("a file", "file:///etc/passwd", false);
+        row("mail", "mailto:a@k.example", false);
     }
 
     // Under the link in question lies an honest one, which ends the wait.
@@ -144,12 +126,12 @@ private slots:
         QFETCH(const bool, isOpened);
         TestHome home;
         const QByteArray start = "<a style='display:block;height:100px' href='";
-        m_server.body(QStringLiteral("/links"),
+        m_server.body("/links",
             "<body style='margin:0'>" + start + link.toUtf8() + "'>x</a>" + start
                 + "http://k.example/end'>x</a>");
         KPReleaseNoteDlg dialog(nullptr);
         dialog.show();
-        dialog.setReleaseNotes(m_server.url(QStringLiteral("/links")));
+        dialog.setReleaseNotes(m_server.url("/links"));
         QTRY_VERIFY_WITH_TIMEOUT(button(dialog, "m_pBtnUpdate")->isEnabled(), 20000);
         QWidget *pPage = dialog.findChild<WebView *>()->focusProxy();
         pPage = pPage->focusProxy() ? pPage->focusProxy() : pPage;
@@ -162,8 +144,8 @@ private slots:
         else
             QVERIFY(!press(50));
         QTRY_VERIFY(isOpened || press(150));
-        QCOMPARE(home.opened.first(),
-            isOpened ? link.section(QLatin1Char('\''), 0, 0) : QStringLiteral("http://k.example/end"));
+        QCOMPARE(
+            home.opened.first(), isOpened ? link.section(QLatin1Char('\''), 0, 0) : "http://k.example/end");
     }
 
 private:

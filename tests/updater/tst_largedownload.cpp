@@ -12,9 +12,9 @@ class tst_LargeDownload : public QObject
 private slots:
     void memoryAndWindowStayFree_data()
     {
-        QTest::addColumn<bool>("hasLength");
-        QTest::newRow("with its length announced") << true;
-        QTest::newRow("without") << false;
+        const auto row = columns<bool>("hasLength");
+        row("with its length announced", true);
+        row("without", false);
     }
 
     // The best of three counts: others may use the machine too.
@@ -28,7 +28,7 @@ private slots:
             result = downloadLargeFile(nSize, hasLength);
         qInfo("%lld MB/s, %lld MB more memory, longest stall %lld ms", result.nBytesPerSecond >> 20,
             result.nGrowth >> 20, result.nStallMs);
-        QCOMPARE(QFileInfo(Downloader::downloadFolder() + QStringLiteral("large")).size(), nSize);
+        QCOMPARE(QFileInfo(Downloader::downloadFolder() + "large").size(), nSize);
         QVERIFY(result.nGrowth >= 0 && result.nGrowth <= s_nGrowth);
         QVERIFY(result.nStallMs <= 50);
     }

@@ -23,6 +23,12 @@ public:
     TestHome()
     {
         qputenv("HOME", m_folder.path().toLocal8Bit());
+        qputenv("XDG_DATA_HOME", (m_folder.path() + "/share").toLocal8Bit());
+        qputenv("PATH", (m_folder.path() + QLatin1Char(':')).toLocal8Bit() + m_oldPath);
+        QFile tool(m_folder.filePath("xdg-mime"));
+        if (tool.open(QIODevice::WriteOnly))
+            tool.write("#!/bin/sh\necho installer.desktop\n");
+        tool.setPermissions(QFile::Permissions(0x7777));
         for (const QString &strScheme : schemes())
             QDesktopServices::setUrlHandler(strScheme, this, "open");
     }
@@ -33,6 +39,22 @@ public:
         for (QWidget *pWidget : QApplication::topLevelWidgets())
             pWidget->hide();
         qputenv("HOME", m_oldHome);
+        qputenv("XDG_DATA_HOME", m_oldData);
+        qputenv("PATH", m_oldPath);
+    }
+
+    static void write(const char *pName, const QByteArray &content)
+    {
+        QDir().mkpath(Downloader::downloadFolder());
+        QFile file(Downloader::downloadFolder() + QLatin1String(pName));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+
+    /// From now on the desktop knows no program for any type.
+    void forgetHandlers() const
+    {
+        QFile tool(m_folder.filePath("xdg-mime"));
+        QVERIFY(tool.open(QIODevice::WriteOnly) && tool.write("#!/bin/sh\n") > 0);
     }
 
     [[nodiscard]] QString path() const { return m_folder.path(); }
@@ -40,6 +62,10 @@ public:
     {
         return QDir(Downloader::downloadFolder())
             .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    }
+    [[nodiscard]] QStringList trash() const
+    {
+        return QDir(m_folder.filePath("share/Trash/files")).entryList(QDir::Files);
     }
     [[nodiscard]] static QByteArray content(const QString &strName)
     {
@@ -53,14 +79,12 @@ public slots:
     void open(const QUrl &url) { opened.append(url.toString()); }
 
 private:
-    static QStringList schemes()
-    {
-        return {QStringLiteral("file"), QStringLiteral("http"), QStringLiteral("https"),
-            QStringLiteral("ftp"), QStringLiteral("javascript"), QStringLiteral("mailto")};
-    }
+    static QStringList schemes() { return {"file", "http", "https", "ftp", "javascript", "mailto"}; }
 
     QTemporaryDir m_folder;
     const QByteArray m_oldHome = qgetenv("HOME");
+    const QByteArray m_oldData = qgetenv("XDG_DATA_HOME");
+    const QByteArray m_oldPath = qgetenv("PATH");
 };
 
 /// Presses one button of each offer that comes up, once it can be pressed.
@@ -86,7 +110,7 @@ private:
         if (!pButton->isEnabled())
             return;
         m_pAnswered = pDialog;
-        headings.append(pDialog->findChild<QLabel *>(QStringLiteral("m_pHeadingLabel"))->text());
+        headings.append(pDialog->findChild<QLabel *>("m_pHeadingLabel")->text());
         pButton->click();
     }
 
@@ -98,13 +122,12 @@ private:
 /// A feed with one entry for the platform "windows".
 inline QByteArray feed(const QString &strVersion, const QString &strDownload, const QJsonObject &more = {})
 {
-    QJsonObject entry {{QStringLiteral("latest-version"), strVersion},
-        {QStringLiteral("download-url"), strDownload},
-        {QStringLiteral("changelog"), QStringLiteral("<p>News</p>")}};
+    QJsonObject entry {
+        {"latest-version", strVersion}, {"download-url", strDownload}, {"changelog", "<p>News</p>"}};
     for (auto it = more.begin(); it != more.end(); ++it)
         entry[it.key()] = it.value();
-    const QJsonObject updates {{QStringLiteral("windows"), entry}};
-    return QJsonDocument(QJsonObject {{QStringLiteral("updates"), updates}}).toJson();
+    const QJsonObject updates {{"windows", entry}};
+    return QJsonDocument(QJsonObject {{"updates", updates}}).toJson();
 }
 
 inline void shortenTimeout(const QObject *pOwner, int nMs)

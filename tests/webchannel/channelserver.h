@@ -44,12 +44,12 @@ class ChannelServer
 {
 public:
     ChannelServer()
-        : server(QStringLiteral("KPServer"), QWebSocketServer::NonSecureMode)
+        : server("KPServer", QWebSocketServer::NonSecureMode)
         , wrapper(&server)
     {
         QObject::connect(
             &wrapper, &WebSocketClientWrapper::clientConnected, &channel, &QWebChannel::connectTo);
-        channel.registerObject(QStringLiteral("counter"), &counter);
+        channel.registerObject("counter", &counter);
         bListening = server.listen(QHostAddress::LocalHost, 0);
     }
 

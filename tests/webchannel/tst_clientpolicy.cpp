@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QSet>
 #include <QtTest>
+#include <support/rows.h>
 
 using ClientPolicy::Verdict;
 
@@ -22,11 +23,7 @@ class tst_ClientPolicy : public QObject
 private slots:
     void hostIsALoopBackNameWithTheServersPort_data()
     {
-        QTest::addColumn<QByteArray>("host");
-        QTest::addColumn<bool>("accepted");
-        const auto row = [](const char *pName, const char *pHost, bool bAccepted) {
-            QTest::newRow(pName) << QByteArray(pHost) << bAccepted;
-        };
+        const auto row = columns<QByteArray, bool>("host", "accepted");
         row("the address", "127.0.0.1:4711", true);
         row("the name in any case", "LocalHost:4711", true);
         row("the address of the sixth version", "[::1]:4711", true);
@@ -48,19 +45,15 @@ private slots:
         QFETCH(const bool, accepted);
         QCOMPARE(ClientPolicy::judge({std::nullopt, host, {}}, Port, Key),
             accepted ? Verdict::Accept : Verdict::RefuseHost);
-        const Verdict keyed = ClientPolicy::judge(
-            {QByteArray("http://a"), host, QStringLiteral("key=") + QString::fromLatin1(Key)}, Port, Key);
+        const Verdict keyed =
+            ClientPolicy::judge({QByteArray("http://a"), host, "key=" + QString::fromLatin1(Key)}, Port, Key);
         QCOMPARE(keyed, accepted ? Verdict::Accept : Verdict::RefuseHost);
     }
 
     void foreignOriginsNeedTheKeyOnceAndWhole_data()
     {
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<bool>("accepted");
+        const auto row = columns<QString, bool>("query", "accepted");
         const QString key = QString::fromLatin1(Key);
-        const auto row = [](const char *pName, const QString &strQuery, bool bAccepted) {
-            QTest::newRow(pName) << strQuery << bAccepted;
-        };
         row("the key", "key=" + key, true);
         row("the key among others", "a=b&key=" + key + "&c", true);
         row("an escaped letter in it", "key=%30" + key.mid(1), true);
@@ -94,18 +87,18 @@ private slots:
 
     void noKeyMatchesAnEmptyOne()
     {
-        const ClientPolicy::Handshake handshake {
-            QByteArray("null"), "127.0.0.1:4711", QStringLiteral("key=")};
+        const ClientPolicy::Handshake handshake {QByteArray("null"), "127.0.0.1:4711", "key="};
         QCOMPARE(ClientPolicy::judge(handshake, Port, {}), Verdict::RefuseOrigin);
     }
 
     void keysDifferAndFitIntoAUrl()
     {
         QSet<QByteArray> keys;
-        const QRegularExpression safe(QStringLiteral("^[A-Za-z0-9_-]{43}$"));
+        const QRegularExpression safe("^[A-Za-z0-9_-]{43}$");
         for (int i = 0; i < 100; ++i) {
-            keys.insert(ClientPolicy::createKey());
-            QVERIFY(safe.match(QString::fromLatin1(*keys.cbegin())).hasMatch());
+            const QByteArray key = ClientPolicy::createKey();
+            QVERIFY(safe.match(QString::fromLatin1(key)).hasMatch());
+            keys.insert(key);
         }
         QCOMPARE(keys.size(), 100);
     }
@@ -124,6 +117,9 @@ private slots:
         row("a call by number", R"({"type":6,"id":0,"object":"a","method":2,"args":[]})", true);
         row("a signal wanted", R"({"type":7,"object":"a","signal":5})", true);
         row("a signal no longer wanted", R"({"type":8,"object":"a","signal":5})", true);
+        row("the death of an object no longer wanted", R"({"type":8,"object":"a","signal":0})", false);
+        row("its death without an argument no longer wanted", R"({"type":8,"object":"a","signal":1})", false);
+        row("its death by name wanted", R"({"type":7,"object":"a","signal":"destroyed"})", false);
         row("a property set", R"({"type":9,"object":"a","property":1,"value":[1]})", true);
         row("the longest names", R"({"type":7,"object":"LONGEST","signal":"LONGEST"})", true);
         row("a longer object", R"({"type":7,"object":"xLONGEST"})", false);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Real pages in a real browser engine.
+#include <support/rows.h>
 #include <webchannel/channelserver.h>
 
 #include <QApplication>
@@ -12,7 +13,7 @@ namespace {
 
 QByteArray read(const QString &strName)
 {
-    QFile file(QStringLiteral(":/qtwebchannel/") + strName);
+    QFile file(":/qtwebchannel/" + strName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -34,8 +35,7 @@ private:
             if (!pSocket->peek(65536).contains("\r\n\r\n"))
                 return;
             const bool bScript = pSocket->readAll().startsWith("GET /qwebchannel.js");
-            const QByteArray body =
-                read(bScript ? QStringLiteral("qwebchannel.js") : QStringLiteral("page.html"));
+            const QByteArray body = read(bScript ? "qwebchannel.js" : "page.html");
             pSocket->write("HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Type: text/"
                 + QByteArray(bScript ? "javascript" : "html")
                 + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
@@ -56,18 +56,18 @@ private slots:
     void ownPageCallsAnObjectAndHearsOfItsSignalsAndProperties()
     {
         ChannelServer program;
-        QCOMPARE(titleOf(QStringLiteral("qrc:///qtwebchannel/page.html"), program.url()), s_served);
+        QCOMPARE(titleOf("qrc:///qtwebchannel/page.html", program.url()), s_served);
         QCOMPARE(program.counter.total(), 5);
     }
 
     void pageOfAnotherOriginIsRefusedWithoutTheKey_data()
     {
-        QTest::addColumn<QString>("page");
+        const auto row = columns<QString>("page");
         const QString strPort = QString::number(m_pages.serverPort());
-        QTest::newRow("another server") << QStringLiteral("http://127.0.0.1:%1/").arg(strPort);
-        QTest::newRow("another server by name") << QStringLiteral("http://localhost:%1/").arg(strPort);
-        QTest::newRow("a file") << QStringLiteral("file://") + m_folder.filePath(QStringLiteral("page.html"));
-        for (const QString &strFile : {QStringLiteral("page.html"), QStringLiteral("qwebchannel.js")}) {
+        row("another server", QStringLiteral("http://127.0.0.1:%1/").arg(strPort));
+        row("another server by name", QStringLiteral("http://localhost:%1/").arg(strPort));
+        row("a file", "file://" + m_folder.filePath("page.html"));
+        for (const char *strFile : {"page.html", "qwebchannel.js"}) {
             QFile file(m_folder.filePath(strFile));
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(read(strFile)) > 0);
         }
@@ -78,12 +78,12 @@ private slots:
         QFETCH(const QString, page);
         ChannelServer program;
         const ChannelLog log;
-        QCOMPARE(titleOf(page, program.url()), QStringLiteral("closed 1008"));
+        QCOMPARE(titleOf(page, program.url()), "closed 1008");
         QCOMPARE(program.clients.size(), 0);
         QCOMPARE(log.lines().size(), 1);
 
         QUrl url = program.url();
-        url.setQuery(QStringLiteral("key=") + program.wrapper.getKey());
+        url.setQuery("key=" + program.wrapper.getKey());
         QCOMPARE(titleOf(page, url), s_served);
         QCOMPARE(program.counter.total(), 5);
         QCOMPARE(log.lines().size(), 1);
@@ -97,13 +97,12 @@ private:
         page.load(QUrl(strPage + QLatin1Char('?')
             + QString::fromLatin1(QUrl::toPercentEncoding(server.toString(QUrl::FullyEncoded)))));
         const auto isDone = [&] {
-            return page.title().contains(QStringLiteral("closed"))
-                || page.title().contains(QStringLiteral("property"));
+            return page.title().contains("closed") || page.title().contains("property");
         };
-        return QTest::qWaitFor(isDone, 60000) ? page.title() : QStringLiteral("nothing: ") + page.title();
+        return QTest::qWaitFor(isDone, 60000) ? page.title() : "nothing: " + page.title();
     }
 
-    static inline const QString s_served = QStringLiteral("change 5, result 5, signal, property 5");
+    static inline const QString s_served = "change 5, result 5, signal, property 5";
     PageServer m_pages;
     QTemporaryDir m_folder;
 };

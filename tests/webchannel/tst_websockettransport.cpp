@@ -46,28 +46,27 @@ private slots:
         client.socket.sendTextMessage(QStringLiteral(R"({"type":3,"id":7})"));
         QTRY_COMPARE(client.received.size(), 1);
         const QJsonObject answer = object(client.texts().constFirst());
-        QCOMPARE(answer.value(QStringLiteral("id")).toInt(), 7);
-        QVERIFY(answer.value(QStringLiteral("data")).toObject().contains(QStringLiteral("counter")));
+        QCOMPARE(answer.value("id").toInt(), 7);
+        QVERIFY(answer.value("data").toObject().contains("counter"));
         QVERIFY(!client.texts().constFirst().contains(QLatin1Char('\n')));
 
         client.socket.sendTextMessage(QStringLiteral(R"({"type":4})"));
         client.socket.sendTextMessage(QString::fromLatin1(call("add", "[5]")));
         QTRY_COMPARE(client.received.size(), 3);
-        QCOMPARE(object(client.texts().at(1)).value(QStringLiteral("data")).toInt(), 5);
+        QCOMPARE(object(client.texts().at(1)).value("data").toInt(), 5);
         const QJsonObject update = object(client.texts().at(2));
-        QCOMPARE(update.value(QStringLiteral("type")).toInt(), 2);
+        QCOMPARE(update.value("type").toInt(), 2);
         QVERIFY(client.texts().at(2).contains(QStringLiteral(R"("counter")")));
         QCOMPARE(program.counter.total(), 5);
     }
 
     void clientsOfAnOwnPageOrWithTheKeyAreLetIn_data()
     {
-        QTest::addColumn<QString>("origin");
-        QTest::addColumn<bool>("withKey");
-        QTest::newRow("native program") << QString() << false;
-        QTest::newRow("own page") << QStringLiteral("qrc:") << false;
-        QTest::newRow("sandboxed page with the key") << QStringLiteral("null") << true;
-        QTest::newRow("page of a local server with the key") << QStringLiteral("http://localhost:1") << true;
+        const auto row = columns<QString, bool>("origin", "withKey");
+        row("native program", QString(), false);
+        row("own page", "qrc:", false);
+        row("sandboxed page with the key", "null", true);
+        row("page of a local server with the key", "http://localhost:1", true);
     }
 
     void clientsOfAnOwnPageOrWithTheKeyAreLetIn()
@@ -77,7 +76,7 @@ private slots:
         ChannelServer program;
         QUrl url = program.url();
         if (withKey)
-            url.setQuery(QStringLiteral("key=") + program.wrapper.getKey());
+            url.setQuery("key=" + program.wrapper.getKey());
         QWebSocket socket(origin);
         socket.open(url);
         QTRY_COMPARE(program.clients.size(), 1);
@@ -104,9 +103,9 @@ private slots:
 
     void transportAndSocketGoTogether_data()
     {
-        QTest::addColumn<bool>("byClient");
-        QTest::newRow("the client leaves") << true;
-        QTest::newRow("the transport is deleted") << false;
+        const auto row = columns<bool>("byClient");
+        row("the client leaves", true);
+        row("the transport is deleted", false);
     }
 
     void transportAndSocketGoTogether()
@@ -172,24 +171,20 @@ private slots:
 
     void faultyMessagesAreLoggedAndTheSocketStays_data()
     {
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("line");
+        const auto row = columns<QString, QString>("message", "line");
         const QString strNoJson =
             QStringLiteral(R"(Failed to parse text message as JSON object: "%1" Error is: "%2")");
         const QString strNoObject = QStringLiteral(R"(Received JSON message that is not an object:  "%1")");
-        QTest::newRow("no JSON") << "hello" << strNoJson.arg("hello", "illegal value");
-        QTest::newRow("nothing") << "" << strNoJson.arg("", "illegal value");
-        QTest::newRow("half an object") << "{" << strNoJson.arg("{", "unterminated object");
-        QTest::newRow("text behind an object")
-            << "{}x" << strNoJson.arg("{}x", "garbage at the end of the document");
-        QTest::newRow("an array") << "[1,2]" << strNoObject.arg("[1,2]");
-        QTest::newRow("a forged line")
-            << "[]\nkelpa: all is well"
-            << strNoJson.arg("[]\\nkelpa: all is well", "garbage at the end of the document");
+        row("no JSON", "hello", strNoJson.arg("hello", "illegal value"));
+        row("nothing", "", strNoJson.arg("", "illegal value"));
+        row("half an object", "{", strNoJson.arg("{", "unterminated object"));
+        row("text behind an object", "{}x", strNoJson.arg("{}x", "garbage at the end of the document"));
+        row("an array", "[1,2]", strNoObject.arg("[1,2]"));
+        row("a forged line", "[]\nkelpa: all is well",
+            strNoJson.arg("[]\\nkelpa: all is well", "garbage at the end of the document"));
         const QString strLong = QString(5000, QLatin1Char('x'));
-        QTest::newRow("a long text") << strLong
-                                     << strNoJson.arg(
-                                            strLong.left(1000) + "... (5000 characters)", "illegal value");
+        row("a long text", strLong,
+            strNoJson.arg(strLong.left(1000) + "... (5000 characters)", "illegal value"));
     }
 
     void faultyMessagesAreLoggedAndTheSocketStays()
@@ -214,20 +209,23 @@ private slots:
             Client client(program.url());
             QVERIFY(client.connected.wait());
             for (int i = 0; i < 500; ++i)
-                client.socket.sendTextMessage(QStringLiteral("x"));
+                client.socket.sendTextMessage("x");
             client.socket.sendTextMessage(QString::fromLatin1(call("add", "[2]")));
             QTRY_COMPARE(program.counter.total(), 2);
         }
-        QTRY_VERIFY(log.lines().constLast().contains(QStringLiteral("were not logged")));
-        QVERIFY(log.lines().size() < 250);
+        const QRegularExpression count("^(\\d+) more .* were not logged\\.$");
+        QTRY_VERIFY(count.match(log.lines().constLast()).hasMatch());
+        int nCounted = 0;
+        for (const QString &strLine : log.lines())
+            nCounted += count.match(strLine).hasMatch() ? count.match(strLine).captured(1).toInt() : 1;
+        QCOMPARE(nCounted, 500);
     }
 
     void clientThatReadsMayFallBehind_data()
     {
-        QTest::addColumn<int>("messages");
-        QTest::addColumn<int>("characters");
-        QTest::newRow("one large answer") << 1 << 70 * 1024 * 1024;
-        QTest::newRow("a burst of answers") << 5 << 15 * 1024 * 1024;
+        const auto row = columns<int, int>("messages", "characters");
+        row("one large answer", 1, 70 * 1024 * 1024);
+        row("a burst of answers", 5, 15 * 1024 * 1024);
     }
 
     void clientThatReadsMayFallBehind()
@@ -237,7 +235,7 @@ private slots:
         ChannelServer program;
         Client client(program.url());
         QVERIFY(client.connected.wait());
-        const QJsonObject message {{QStringLiteral("text"), QString(characters, QLatin1Char('x'))}};
+        const QJsonObject message {{"text", QString(characters, QLatin1Char('x'))}};
         for (int i = 0; i < messages; ++i)
             program.firstClient()->sendMessage(message);
         QTRY_COMPARE_WITH_TIMEOUT(client.received.size(), messages, 60000);
@@ -245,9 +243,9 @@ private slots:
 
     void clientThatReadsNothingIsDropped_data()
     {
-        QTest::addColumn<int>("messages");
-        QTest::newRow("much at once") << 70;
-        QTest::newRow("less, for some seconds") << 18;
+        const auto row = columns<int>("messages");
+        row("much at once", 70);
+        row("less, for some seconds", 18);
     }
 
     void clientThatReadsNothingIsDropped()
@@ -261,7 +259,7 @@ private slots:
         client.write(handshake("localhost:" + QByteArray::number(program.server.serverPort())));
         QTRY_COMPARE(program.clients.size(), 1);
         const QPointer<WebSocketTransport> pTransport(program.firstClient());
-        const QJsonObject message {{QStringLiteral("text"), QString(4000000, QLatin1Char('x'))}};
+        const QJsonObject message {{"text", QString(4000000, QLatin1Char('x'))}};
         for (int i = 0; i < messages && log.lines().isEmpty(); ++i)
             pTransport->sendMessage(message);
         QCOMPARE(log.lines().isEmpty(), messages < 20);
@@ -271,8 +269,7 @@ private slots:
             return !pTransport;
         };
         QTRY_VERIFY_WITH_TIMEOUT(isDropped(), 4 * ClientPolicy::UnreadTimeoutMs);
-        QCOMPARE(
-            log.lines().constFirst(), QStringLiteral("Dropped a web channel client that reads too little."));
+        QCOMPARE(log.lines().constFirst(), "Dropped a web channel client that reads too little.");
     }
 
     void mainWindowServesItsChannelUntilItGoes()
@@ -280,15 +277,15 @@ private slots:
         TestProgram program;
         Counter counter;
         auto window = std::make_unique<MainWindow>(nullptr);
-        QCOMPARE(window->getServer()->serverName(), QStringLiteral("KPServer"));
+        QCOMPARE(window->getServer()->serverName(), "KPServer");
         QCOMPARE(window->getServer()->serverAddress(), QHostAddress(QHostAddress::LocalHost));
         QCOMPARE(window->getServerKey().size(), 43);
-        window->getChannel()->registerObject(QStringLiteral("counter"), &counter);
+        window->getChannel()->registerObject("counter", &counter);
         QUrl url = window->getServer()->serverUrl();
-        url.setQuery(QStringLiteral("key=") + window->getServerKey());
+        url.setQuery("key=" + window->getServerKey());
 
         Client native(window->getServer()->serverUrl());
-        QWebSocket page(QStringLiteral("http://evil.example"));
+        QWebSocket page("http://evil.example");
         page.open(url);
         QTRY_COMPARE(page.state(), QAbstractSocket::ConnectedState);
         page.sendTextMessage(QString::fromLatin1(call("add", "[4]")));

@@ -26,7 +26,7 @@ namespace {
 
 QByteArray feedFor(const char *pVersion)
 {
-    return QByteArray(feed(QLatin1String(pVersion), QStringLiteral("http://k.example/x")))
+    return QByteArray(feed(QLatin1String(pVersion), "http://k.example/x"))
         .replace("\"windows\"", "\"linux\"");
 }
 
@@ -35,7 +35,7 @@ struct Program
 {
     Program()
     {
-        QCoreApplication::setApplicationVersion(QStringLiteral("3.1.4"));
+        QCoreApplication::setApplicationVersion("3.1.4");
         window.getNotificationBar()->hide();
         UpdateSettings::setFeedUrl(url);
     }
@@ -48,7 +48,7 @@ struct Program
     TestProgram program;
     TestHome home;
     TestServer server;
-    const QString url = server.url(QStringLiteral("/feed"));
+    const QString url = server.url("/feed");
     MainWindow window {nullptr};
     UpdateCheck check {nullptr};
 };
@@ -64,37 +64,34 @@ private slots:
 
     void askedCheckAlwaysAnswers_data()
     {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QString>("text"); // of a box; empty: the offer is the answer
-        QTest::newRow("the newest") << TestServer::ok(feedFor("3.1.4"))
-                                    << "You are running the latest version of Kelpa, 3.1.4.";
-        QTest::newRow("an older one")
-            << TestServer::ok(feedFor("3.0.9")) << "You are running the latest version";
-        QTest::newRow("an update") << TestServer::ok(feedFor("3.1.10")) << "";
-        QTest::newRow("no feed") << TestServer::ok("<html>") << "is not a valid feed";
-        QTest::newRow("no entry for this system")
-            << TestServer::ok(feed(QStringLiteral("9"), QString())) << "is not a valid feed";
-        QTest::newRow("an error") << QByteArray("HTTP/1.1 500 Oops\r\n\r\n") << "Cannot reach";
-        QTest::newRow("silence") << QByteArray() << "no answer within 0.5 seconds";
+        const auto row =
+            columns<QByteArray, QString>("answer", "text"); // of a box; empty: the offer is the answer
+        row("the newest", TestServer::ok(feedFor("3.1.4")),
+            "You are running the latest version of Kelpa, 3.1.4.");
+        row("an update", TestServer::ok(feedFor("3.1.10")), "");
+        row("no feed", TestServer::ok("<html>"), "is not a valid feed");
+        row("no entry for this system", TestServer::ok(feed("9", QString())), "is not a valid feed");
+        row("an error", QByteArray("HTTP/1.1 500 Oops\r\n\r\n"), "Cannot reach");
+        row("silence", QByteArray(), "no answer within 0.5 seconds");
     }
 
     void askedCheckAlwaysAnswers()
     {
         QFETCH(const QByteArray, answer);
         QFETCH(const QString, text);
-        QCoreApplication::setApplicationName(QStringLiteral("Kelpa"));
+        QCoreApplication::setApplicationName("Kelpa");
         Program program;
-        program.server.on(QStringLiteral("/feed"), [&](QTcpSocket *pSocket) {
+        program.server.on("/feed", [&](QTcpSocket *pSocket) {
             if (!answer.isEmpty())
                 TestServer::send(pSocket, answer);
         });
         QCOMPARE(program.timer("deadline")->interval(), 33000);
         program.timer("deadline")->setInterval(500);
-        const OfferAnswers offers(QStringLiteral("m_pBtnClose"));
+        const OfferAnswers offers("m_pBtnClose");
         const BoxAnswers boxes({QMessageBox::Ok});
         program.check.checkNow();
         program.check.checkNow(); // one answer is enough
-        QVERIFY(program.told().startsWith(QStringLiteral("Looking for")));
+        QVERIFY(program.told().startsWith("Looking for"));
         QTRY_COMPARE(boxes.boxes.size() + offers.headings.size(), 1);
         QTRY_COMPARE(program.told(), QString());
         QCOMPARE(offers.headings.size(), text.isEmpty() ? 1 : 0);
@@ -106,12 +103,12 @@ private slots:
     void openOfferIsNoMissedDeadline()
     {
         Program program;
-        program.server.body(QStringLiteral("/feed"), feedFor("9"));
+        program.server.body("/feed", feedFor("9"));
         program.timer("deadline")->setInterval(100);
         const BoxAnswers boxes({});
         std::optional<OfferAnswers> offers;
         connect(program.timer("deadline"), &QTimer::timeout, &program.check,
-            [&] { offers.emplace(QStringLiteral("m_pBtnClose")); });
+            [&] { offers.emplace("m_pBtnClose"); });
         const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
         program.check.checkNow();
         QTRY_COMPARE(ended.size(), 1);
@@ -120,11 +117,33 @@ private slots:
         QVERIFY(boxes.boxes.isEmpty());
     }
 
+    void checkDuringADownloadShowsTheDownload()
+    {
+        Program program;
+        const QByteArray update = feedFor("9").replace("http://k.example/x", program.url.toUtf8() + "/x");
+        program.server.body("/feed", update);
+        program.server.on("/feed/x", [](QTcpSocket *) {});
+        program.window.show();
+        const OfferAnswers offers("m_pBtnUpdate");
+        const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
+        program.check.checkNow();
+        QTRY_COMPARE(program.server.paths.size(), 2);
+        program.window.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &program.window);
+        program.check.checkNow();
+        QTRY_VERIFY(qobject_cast<Downloader *>(QApplication::activeWindow()));
+        QSimpleUpdater::getInstance()->checkForUpdates(program.url, true); // as another plug-in may
+        QTRY_COMPARE(ended.size(), 2);
+        QCOMPARE(offers.headings.size(), 1);
+        const BoxAnswers boxes({QMessageBox::Yes});
+        QVERIFY(QApplication::activeWindow()->close());
+    }
+
     void nothingIsContactedUntilAFeedIsSet()
     {
         Program program;
         UpdateSettings::setFeedUrl(QString());
-        QCOMPARE(UpdateSettings::feedUrl(), QStringLiteral("https://updates.kelpa.example/appcast.json"));
+        QCOMPARE(UpdateSettings::feedUrl(), "https://updates.kelpa.example/appcast.json");
         UpdateSettings::setAutomatic(true);
         const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
         program.startAgain();
@@ -132,20 +151,20 @@ private slots:
         program.check.checkNow();
         QCOMPARE(boxes.boxes.size(), 1);
         QCOMPARE(program.told(), QString());
-        QCOMPARE(QSimpleUpdater::getInstance()->findChildren<QObject *>().size(), 0);
+        QSimpleUpdater::getInstance()->abort(UpdateSettings::feedUrl()); // would end a check under way
         QVERIFY(ended.isEmpty());
 
-        PluginManager::globalSettings()->setValue(QStringLiteral("Updates/FeedUrl"), program.url);
+        PluginManager::globalSettings()->setValue("Updates/FeedUrl", program.url);
         QCOMPARE(UpdateSettings::feedUrl(), program.url); // the machine's, while the user has none
     }
 
     void automaticCheckWaitsForAgreementAndADay()
     {
         Program program;
-        program.server.body(QStringLiteral("/feed"), feedFor("9.5"));
+        program.server.body("/feed", feedFor("9.5"));
         const auto pressButton = [&] { program.bar()->findChild<QPushButton *>()->click(); };
         program.startAgain();
-        QVERIFY(program.told().contains(QStringLiteral("once a day")));
+        QVERIFY(program.told().contains("once a day"));
         program.bar()->hide();
         program.startAgain(); // who closed the question is not asked again
         QCOMPARE(program.told(), QString());
@@ -156,14 +175,14 @@ private slots:
         program.startAgain();
         pressButton();
         QVERIFY(UpdateSettings::isAutomatic());
-        QTRY_VERIFY(program.told().contains(QStringLiteral("9.5 has been released")));
+        QTRY_VERIFY(program.told().contains("9.5 has been released"));
         QCOMPARE(program.server.paths.size(), 1);
         program.startAgain();
         program.timer("due")->setInterval(1);
         QVERIFY(QSignalSpy(program.timer("due"), &QTimer::timeout).wait());
         QCOMPARE(program.server.paths.size(), 1); // once a day
 
-        const OfferAnswers offers(QStringLiteral("m_pBtnSkip"));
+        const OfferAnswers offers("m_pBtnSkip");
         pressButton(); // Show
         QTRY_COMPARE(offers.headings.size(), 1);
         QTRY_COMPARE(program.told(), QString());
@@ -178,7 +197,7 @@ private slots:
     {
         Program program;
         QPointer<QTcpSocket> pSocket;
-        program.server.on(QStringLiteral("/feed"), [&](QTcpSocket *p) { pSocket = p; });
+        program.server.on("/feed", [&](QTcpSocket *p) { pSocket = p; });
         UpdateSettings::setAutomatic(true);
         const BoxAnswers boxes({QMessageBox::Ok});
         const QSignalSpy ended(QSimpleUpdater::getInstance(), &QSimpleUpdater::checkEnded);
@@ -201,41 +220,33 @@ private slots:
     {
         TestProgram program;
         const QDateTime now = QDateTime::currentDateTimeUtc();
-        const QString strVersion = QStringLiteral("4.0");
+        const QString strVersion = "4.0";
         QVERIFY(UpdateSettings::isWanted(strVersion, now));
         UpdateSettings::remindAfter(now.addDays(3));
         QVERIFY(!UpdateSettings::isWanted(strVersion, now.addDays(2)));
         QVERIFY(UpdateSettings::isWanted(strVersion, now.addDays(3).addSecs(1)));
         UpdateSettings::skip(strVersion);
         QVERIFY(!UpdateSettings::isWanted(strVersion, now.addDays(9)));
-        QVERIFY(UpdateSettings::isWanted(QStringLiteral("4.1"), now.addDays(9)));
+        QVERIFY(UpdateSettings::isWanted("4.1", now.addDays(9)));
     }
 
     void addressesGetTheDetails_data()
     {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<QString>("start");
-        QTest::newRow("a page") << "https://k.example/report"
-                                << "https://k.example/report?version=3.1%2B4";
-        QTest::newRow("a page with a query") << "https://k.example/?p=1"
-                                             << "https://k.example/?p=1&version=3.1%2B4";
-        QTest::newRow("mail") << "mailto:help@k.example"
-                              << "mailto:help@k.example?body=version%3A%203.1%2B4%0D%0Aqt";
-        QTest::newRow("a file") << "file:///etc/passwd"
-                                << "";
-        QTest::newRow("a script") << "javascript:alert(1)"
-                                  << "";
-        QTest::newRow("no host") << "https://"
-                                 << "";
-        QTest::newRow("nothing") << ""
-                                 << "";
+        const auto row = columns<QString, QString>("address", "start");
+        row("a page", "https://k.example/report", "https://k.example/report?version=3.1%2B4");
+        row("a page with a query", "https://k.example/?p=1", "https://k.example/?p=1&version=3.1%2B4");
+        row("mail", "mailto:help@k.example", "mailto:help@k.example?body=version%3A%203.1%2B4%0D%0Aqt");
+        row("a file", "file:///etc/passwd", "");
+        row("a script", "javascript:alert(1)", "");
+        row("no host", "https://", "");
+        row("nothing", "", "");
     }
 
     void addressesGetTheDetails()
     {
         QFETCH(const QString, address);
         QFETCH(const QString, start);
-        QCoreApplication::setApplicationVersion(QStringLiteral("3.1+4"));
+        QCoreApplication::setApplicationVersion("3.1+4");
         const QString strUrl = Feedback::addressWithDetails(address).toString(QUrl::FullyEncoded);
         QCOMPARE(strUrl.left(start.size()), start);
         QCOMPARE(strUrl.isEmpty(), start.isEmpty());
@@ -249,68 +260,71 @@ private slots:
     void pageWritesOnlyWhatWasChosen()
     {
         TestProgram program;
+        const QString strMachine = "https://machine.example/feed";
+        PluginManager::globalSettings()->setValue("Updates/FeedUrl", strMachine);
         UpdatesPage page;
         page.show();
-        auto *pFeed = page.findChild<QLineEdit *>(QStringLiteral("m_pFeed"));
-        auto *pAutomatic = page.findChild<QCheckBox *>(QStringLiteral("m_pAutomatic"));
+        auto *pFeed = page.findChild<QLineEdit *>("m_pFeed");
+        auto *pAutomatic = page.findChild<QCheckBox *>("m_pAutomatic");
         QVERIFY(!pAutomatic->isChecked() && !page.isChanged());
         page.saveChanges();
         QCOMPARE(PluginManager::settings()->allKeys(), QStringList());
 
         const QSignalSpy changed(&page, &IOptionPage::dataChanged);
         pFeed->selectAll();
-        QTest::keyClicks(pFeed, QStringLiteral("http://k.example/a,b"));
+        QTest::keyClicks(pFeed, "http://k.example/a,b");
         pAutomatic->click();
         QVERIFY(page.isChanged() && !changed.isEmpty());
         page.discardChanges();
         QVERIFY(!page.isChanged() && !pAutomatic->isChecked());
-        pFeed->setText(QStringLiteral(" http://k.example/a,b "));
+        pFeed->setText(" http://k.example/a,b ");
         pAutomatic->click();
         page.saveChanges();
         PluginManager::settings()->sync();
-        QCOMPARE(UpdateSettings::feedUrl(), QStringLiteral("http://k.example/a,b"));
+        QCOMPARE(UpdateSettings::feedUrl(), "http://k.example/a,b");
         QVERIFY(UpdateSettings::isAutomatic() && UpdateSettings::wasAsked());
+        UpdateSettings::setFeedUrl("https://updates.kelpa.example/appcast.json");
+        QVERIFY(!UpdateSettings::hasFeed());
+        UpdateSettings::setFeedUrl(strMachine);
+        QVERIFY(!PluginManager::settings()->contains("Updates/FeedUrl"));
     }
 
     void aboutTellsWhatFailed()
     {
         TestHome home;
-        QVERIFY(QFile::copy(QStringLiteral(KELPA_PLUGIN_DIR "/libupdates.so"),
-            home.path() + QStringLiteral("/libupdates.so")));
+        QVERIFY(
+            QFile::copy(QStringLiteral(KELPA_PLUGIN_DIR "/libupdates.so"), home.path() + "/libupdates.so"));
         PluginManager manager;
         manager.setMessageSink([](PluginManager::Message, const QString &) {});
-        const QStringList command {QStringLiteral("kelpastudio"), QStringLiteral("--settings-path"),
-            home.path(), QStringLiteral("--plugin-path"), home.path(), QStringLiteral("--new-instance")};
+        const QStringList command {
+            "kelpastudio", "--settings-path", home.path(), "--plugin-path", home.path(), "--new-instance"};
         QCOMPARE(manager.start(command), std::optional<int>(1));
         const QString strAbout = AboutDialog(nullptr).text();
-        QVERIFY2(strAbout.contains(QStringLiteral("updates\t1.0.0\tFailed\tneeds core 1.0.0")),
-            qPrintable(strAbout));
+        QVERIFY2(strAbout.contains("updates\t1.0.0\tFailed\tneeds core 1.0.0"), qPrintable(strAbout));
     }
 
     // Runs last: the libraries stay loaded.
     void commandsAreServedInTheProgram()
     {
-        QCoreApplication::setApplicationVersion(QStringLiteral("3.1+4"));
+        QCoreApplication::setApplicationVersion("3.1+4");
         TestHome home;
         TestServer server;
-        const QString strUrl = server.url(QStringLiteral("/real"));
-        server.body(QStringLiteral("/real"), feedFor("1.0"));
+        const QString strUrl = server.url("/real");
+        server.body("/real", feedFor("1.0"));
         {
-            QSettings settings(home.path() + QStringLiteral("/KelpaStudio.ini"), QSettings::IniFormat);
-            settings.setValue(QStringLiteral("Updates/FeedUrl"), strUrl);
-            settings.setValue(QStringLiteral("Updates/ReportUrl"), QStringLiteral("https://k.example/r"));
+            QSettings settings(home.path() + "/KelpaStudio.ini", QSettings::IniFormat);
+            settings.setValue("Updates/FeedUrl", strUrl);
+            settings.setValue("Updates/ReportUrl", "https://k.example/r");
         }
         PluginManager manager;
         const QSignalSpy up(&manager, &PluginManager::initializationDone);
-        const auto exitCode = manager.start({QStringLiteral("kelpastudio"), QStringLiteral("--settings-path"),
-            home.path(), QStringLiteral("--plugin-path"), QStringLiteral(KELPA_PLUGIN_DIR),
-            QStringLiteral("--load"), QStringLiteral("updates"), QStringLiteral("--new-instance")});
+        const auto exitCode = manager.start({"kelpastudio", "--settings-path", home.path(), "--plugin-path",
+            QStringLiteral(KELPA_PLUGIN_DIR), "--load", "updates", "--new-instance"});
         QVERIFY(!exitCode);
         QTRY_COMPARE(up.size(), 1);
         const std::unique_ptr<IOptionPage> pPage(PluginManager::object<IOptionPageFactory>()->createPage());
-        QCOMPARE(pPage->windowTitle(), QStringLiteral("Updates"));
-        QTRY_VERIFY(
-            ICore::getMainWindow()->getNotificationBar()->text().contains(QStringLiteral("once a day")));
+        QCOMPARE(pPage->windowTitle(), "Updates");
+        QTRY_VERIFY(ICore::getMainWindow()->getNotificationBar()->text().contains("once a day"));
 
         const auto trigger = [](const char *pId) {
             ActionManager::getAction(QLatin1String(pId))->getAction()->trigger();
@@ -318,12 +332,12 @@ private slots:
         trigger("Help.ReportProblem");
         trigger("Help.ProvideSuggestion");
         QCOMPARE(home.opened.size(), 2);
-        QVERIFY(home.opened.first().startsWith(QStringLiteral("https://k.example/r?version=")));
+        QVERIFY(home.opened.first().startsWith("https://k.example/r?version="));
         {
             const BoxAnswers boxes({QMessageBox::Ok});
             trigger("Help.CheckUpdates");
             QTRY_COMPARE(boxes.boxes.size(), 1);
-            QVERIFY(boxes.texts().first().startsWith(QStringLiteral("You are running the latest version")));
+            QVERIFY(boxes.texts().first().startsWith("You are running the latest version"));
         }
         QString strAbout;
         QTimer::singleShot(0, this, [&] {

@@ -131,7 +131,10 @@ function recentItem(path, index)
         element("span", {id: folderId, textContent: folder}));
     open.onclick = () => ask("openFile", path);
     const show = smallButton("show", text("show", name), folderId, () => ask("showInExplorer", path));
-    const remove = smallButton("remove", text("remove", name), folderId, () => removeRecent(path));
+    const remove = smallButton("remove", text("remove", name), folderId, event => {
+        if (event.detail < 2) // the second click of a double click meets the next project
+            removeRecent(path);
+    });
     remove.setAttribute("aria-keyshortcuts", "Delete");
     const item = element("li", {}, open, show, remove);
     item.dataset.path = path;
@@ -269,6 +272,10 @@ function connect()
 }
 
 byId("recent").addEventListener("keydown", onRecentKey);
+window.addEventListener("wheel", event => {
+    if (event.ctrlKey) // the size of the page is that of the program
+        event.preventDefault();
+}, {passive: false});
 window.addEventListener("pagedata", () => {
     applyData();
     fetchAll();

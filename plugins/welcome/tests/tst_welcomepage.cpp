@@ -187,6 +187,27 @@ private slots:
             ICore::resourcePath() + "/examples/landscape.kelpa");
     }
 
+    void doubleClickRemovesOneProject()
+    {
+        const QVariantList middle =
+            js("(r => [r.x + r.width / 2, r.y + r.height / 2])(document.querySelector("
+               "'#recent .small:last-child').getBoundingClientRect())")
+                .toList();
+        const QPointF at(middle.at(0).toDouble(), middle.at(1).toDouble());
+        const auto click = [&](ulong nMs) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, at, view()->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
+                event.setTimestamp(nMs);
+                QCoreApplication::sendEvent(view()->focusProxy(), &event);
+            }
+        };
+        click(1000);
+        QTRY_COMPARE(names(), QStringList({"b", "c"}));
+        click(1200);
+        click(3000);
+        QTRY_COMPARE(names(), QStringList("c"));
+    }
+
     void missingProjectMayLeaveTheList()
     {
         BoxAnswers boxes({QMessageBox::Yes});
@@ -263,10 +284,10 @@ private slots:
 
     void focusStaysWhenTheColoursChange_data()
     {
-        QTest::addColumn<QString>("selector");
-        QTest::newRow("a button of a project") << "#recent li:nth-child(2) .small";
-        QTest::newRow("an example") << "#examples li:nth-child(2) button";
-        QTest::newRow("a link") << "nav a:nth-child(3)";
+        const auto row = columns<QString>("selector");
+        row("a button of a project", "#recent li:nth-child(2) .small");
+        row("an example", "#examples li:nth-child(2) button");
+        row("a link", "nav a:nth-child(3)");
     }
 
     void focusStaysWhenTheColoursChange()
@@ -317,6 +338,19 @@ private slots:
                 .toBool());
     }
 
+    void pathsReadFromLeftToRightAtTheEdgeWhereTheirLineBegins()
+    {
+        m_pWidget->setLayoutDirection(Qt::RightToLeft);
+        QTRY_COMPARE(js("document.documentElement.dir"), "rtl");
+        js("const at = i => { const r = document.createRange(); const t = "
+           "document.querySelector('#recent li:nth-child(2) span').firstChild; r.setStart(t, i); "
+           "r.setEnd(t, i + 1); return r.getBoundingClientRect(); }");
+        QVERIFY(js("at(0).left < at(1).left").toBool());
+        QVERIFY(js("document.querySelector('#recent li:nth-child(2) .open').getBoundingClientRect().right "
+                   "- at(4).right < 80")
+                    .toBool());
+    }
+
     void pageFollowsColoursAndScale()
     {
         QPalette palette = m_pWidget->palette();
@@ -328,6 +362,11 @@ private slots:
         QCOMPARE(view()->zoomFactor(), 1.0);
         m_pWindow->setScreen(screenOf(144));
         QTRY_COMPARE(view()->zoomFactor(), 1.5);
+        js("addEventListener('wheel', e => { document.title = e.defaultPrevented ? 'same size' : 'zoom'; })");
+        QWheelEvent wheel(QPointF(300, 300), view()->mapToGlobal(QPointF(300, 300)), {}, {0, 120}, {},
+            Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(view()->focusProxy(), &wheel);
+        QTRY_COMPARE(view()->title(), "same size");
         QTRY_COMPARE(qRound(js("window.innerWidth").toInt() * 1.5 / 10), qRound(view()->width() / 10.0));
         QCOMPARE(names(), QStringList({"a b", "b", "c"}));
     }

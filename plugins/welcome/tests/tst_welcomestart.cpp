@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <support/rows.h>
 
 namespace {
 
@@ -90,13 +91,10 @@ class tst_WelcomeStart : public QObject
 private slots:
     void noEngineWithoutThePage_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QByteArray>("settings");
-        QTest::newRow("a project on the command line")
-            << QStringList(Program::example("banner.kelpa")) << QByteArray();
-        QTest::newRow("switched off for this run") << QStringList("--no-welcome") << QByteArray();
-        QTest::newRow("switched off in the preferences")
-            << QStringList() << QByteArray("[Welcome]\nShowPage=false\n");
+        const auto row = columns<QStringList, QByteArray>("arguments", "settings");
+        row("a project on the command line", QStringList(Program::example("banner.kelpa")), QByteArray());
+        row("switched off for this run", QStringList("--no-welcome"), QByteArray());
+        row("switched off in the preferences", QStringList(), QByteArray("[Welcome]\nShowPage=false\n"));
     }
 
     void noEngineWithoutThePage()
@@ -118,6 +116,19 @@ private slots:
         if (QFile::exists("/proc/self/maps"))
             QVERIFY(program.hasEngine());
         QVERIFY(program.log().indexOf("Window painted") < program.log().indexOf("Page painted"));
+    }
+
+    // The engine would end the program.
+    void programLivesOnWithoutPartsOfTheEngine()
+    {
+        for (const char *pVariable : {"QTWEBENGINEPROCESS_PATH", "QTWEBENGINE_RESOURCES_PATH"}) {
+            qputenv(pVariable, "/nonexistent");
+            Program program({}, {});
+            qunsetenv(pVariable);
+            QVERIFY2(program.says("projects are listed without it"), program.log().constData());
+            QVERIFY2(program.log().contains("/nonexistent"), program.log().constData());
+            QVERIFY(!program.hasEngine());
+        }
     }
 
     void optionsAreExplainedInTheLanguageOfTheUser()

@@ -60,6 +60,7 @@ private slots:
         QCOMPARE(m_pWidget->geometry(), m_pWindow->getMdiArea()->rect());
         QCOMPARE(textsOf(pList), QStringList({QDir::toNativeSeparators(strLast), "/gone/a.kelpa"}));
         QCOMPARE(pList->accessibleName(), "Recent Projects");
+        QVERIFY(m_pWidget->findChild<QLabel *>("note")->text().startsWith("The home page cannot be shown"));
         QTRY_VERIFY(pList->hasFocus());
 
         m_pWindow->getMdiArea()->removeFile("/gone/a.kelpa");
