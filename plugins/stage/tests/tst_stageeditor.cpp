@@ -102,146 +102,174 @@ private slots:
         QTRY_COMPARE(document()->getFileName(), strNew);
         QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles().first(), strNew);
         QVERIFY(!document()->isModified());
-    }
 
-    void keysWorkOnTheElements()
-    {
-        QTest::keyClick(m_pView, Qt::Key_Tab);
-        QCOMPARE(m_pView->selectedElements(), QList<int>({0}));
-        QVERIFY(m_pView->accessibleDescription().startsWith("e0 selected"));
-        QTest::keyClick(m_pView, Qt::Key_Right);
-        QTest::keyClick(m_pView, Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(firstPlace(), QPointF(21, 30));
-        QCOMPARE(document()->getUndoStack()->count(), 1);
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(m_pView, Qt::Key_Tab);
-        QCOMPARE(m_pView->selectedElements(), QList<int>({0}));
-        QTest::keyClick(m_pView, Qt::Key_Backtab);
-        QCOMPARE(m_pView->selectedElements(), QList<int>({2}));
-        QTest::keyClick(m_pView, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(m_pView->selectedElements(), QList<int>({0, 1, 2}));
-        QTest::keyClick(m_pView, Qt::Key_Delete);
-        QVERIFY(elements(0).isEmpty());
-        m_pProgram->command("Edit.Undo")->trigger();
-        QCOMPARE(elements(0).size(), 3);
-        QTest::keyClick(m_pView, Qt::Key_Tab);
-        QTest::keyClick(m_pView, Qt::Key_Escape);
-        QVERIFY(m_pView->selectedElements().isEmpty() && m_pView->hasFocus());
-        QTest::keyClick(m_pView, Qt::Key_Escape); // the way out of the stage
-        QVERIFY(!m_pView->hasFocus());
-    }
-
-    void elementsStopAtTheEdgeOfWhatAFileMayHold()
-    {
-        m_pView->selectElements({0});
-        m_pView->moveSelected(5e6, -5e6);
-        QCOMPARE(firstPlace(), QPointF(1e6, -1e6));
-        QVERIFY(document()->save());
-        QVERIFY(document()->revert());
-    }
-
-    void aDragIsOneEditInWholePixels()
-    {
-        QWidget *pPort = m_pView->viewport();
-        const QPoint from = m_pView->mapFromScene(50, 50);
-        QTest::mousePress(pPort, Qt::LeftButton, {}, from);
-        for (int i = 1; i <= 10; ++i)
-            QTest::mouseMove(pPort, from + QPoint(5 * i, 3 * i));
-        QTest::mouseRelease(pPort, Qt::LeftButton, {}, from + QPoint(50, 30));
-        const QPointF place = firstPlace();
-        QVERIFY(place.x() > 20 && place.y() > 20);
-        QCOMPARE(place, QPointF(place.toPoint()));
-        QCOMPARE(document()->getUndoStack()->count(), 1);
-        m_pProgram->command("Edit.Undo")->trigger();
-        QCOMPARE(firstPlace(), QPointF(20, 20));
-    }
-
-    void theToolBarAddsAndDeletes()
-    {
-        QVERIFY(!action("Delete")->isEnabled());
-        for (const char *pText : {"Add Rectangle", "Add Ellipse", "Add Text"})
-            action(pText)->trigger();
-        const auto &shapes = elements(0);
-        QCOMPARE(shapes.size(), 6);
-        QCOMPARE(shapes.at(4).id, "ellipse-1");
-        QCOMPARE(m_pView->selectedElements(), QList<int>({5}));
-        action("Delete")->trigger();
-        QCOMPARE(shapes.size(), 5);
-        m_pProgram->command("Edit.Undo")->trigger();
-        m_pProgram->command("Edit.Undo")->trigger();
-        m_pProgram->command("Edit.Redo")->trigger();
-        QCOMPARE(shapes.last().type, StageElement::Type::Text);
-    }
-
-    void undoingAnEditOfAnotherSceneShowsThatScene()
-    {
-        auto *pScenes = m_pEditor->getSubWindow()->findChild<QComboBox *>();
-        QCOMPARE(pScenes->count(), 2);
-        m_pView->setCurrentScene(1);
-        action("Add Rectangle")->trigger();
-        QCOMPARE(elements(1).size(), 1);
-        m_pView->setCurrentScene(0);
-        m_pProgram->command("Edit.Undo")->trigger();
-        QCOMPARE(m_pView->currentScene(), 1);
-        QCOMPARE(pScenes->currentIndex(), 1);
-        m_pProgram->command("Edit.Redo")->trigger();
-        QCOMPARE(elements(1).size(), 1);
-    }
-
-    // What is painted is what the file says: the colours of background and shapes at their places.
-    void theStageIsPaintedAndHasItsNames()
-    {
-        QCOMPARE(m_pView->accessibleName(), "Stage");
-        QCOMPARE(m_pEditor->getSubWindow()->findChild<QComboBox *>()->accessibleName(), "Scene");
-        const QImage image = m_pView->viewport()->grab().toImage();
-        QCOMPARE(image.pixelColor(m_pView->mapFromScene(50, 50)), QColor(Qt::red));
-        QCOMPARE(image.pixelColor(m_pView->mapFromScene(100, 50)), QColor(Qt::white));
-        QVERIFY(image.pixelColor(m_pView->mapFromScene(-10, -10)) != QColor(Qt::white));
-    }
-
-private:
-    // Touches what is left, as a user might.
-    static void poke(StageProgram &program, StageEditor *pEditor, QMdiSubWindow *pTab)
-    {
-        QCoreApplication::processEvents();
-        if (pTab) {
-            QTest::keyClick(pTab->widget(), Qt::Key_Tab);
-            if (auto *pView = pTab->findChild<StageView *>()) {
-                pView->selectAll();
-                QTest::keyClick(pView, Qt::Key_Right);
-                QTest::keyClick(pView, Qt::Key_Delete);
-                QTest::mouseClick(pView->viewport(), Qt::LeftButton);
-                pView->grab();
+        void tabsShowTheNameAsItIs_data()
+        {
+            const auto row = columns<QString>("name");
+            row("a sign for keys", "R&D");
+            row("the sign for the mark of a change", "a[*]b");
+            row("very long", QString(240, 'm'));
+        }
+        void tabsShowTheNameAsItIs()
+        {
+            QFETCH(QString, name);
+            StageEditor *pEditor = m_pProgram->open(qPrintable(name + ".kelpa"));
+            for (const char *pMark : {"", "*"}) {
+                const QString strTab = m_pProgram->tabs()->tabText(1);
+                if (name.size() < 100)
+                    QCOMPARE(QString(strTab).replace("&&", "&").remove(QChar(0x2060)), name + pMark);
+                QVERIFY(strTab.startsWith(name.at(0)) && strTab.endsWith(name.back() + QString(pMark)));
+                pEditor->getView()->addElement({});
             }
-            pTab->close();
+            QVERIFY(m_pProgram->tabs()->tabRect(1).width() < m_pProgram->window->width() / 2);
+            QVERIFY(m_pProgram->tabs()->tabToolTip(1).endsWith(name + ".kelpa"));
+            const QPoint centre = pEditor->getView()->rect().center();
+            QHelpEvent help(QEvent::ToolTip, centre, pEditor->getView()->mapToGlobal(centre));
+            QApplication::sendEvent(pEditor->getView()->viewport(), &help);
+            QVERIFY(!QToolTip::isVisible());
         }
-        if (pEditor && program.window)
-            EditorManager::activateEditor(pEditor);
-        QCoreApplication::processEvents();
-    }
 
-    [[nodiscard]] QAction *action(const char *pText) const
-    {
-        for (QAction *pAction : m_pProgram->toolBar->actions()) {
-            if (pAction->text().remove('&').startsWith(pText))
-                return pAction;
+        void keysWorkOnTheElements()
+        {
+            QTest::keyClick(m_pView, Qt::Key_Tab);
+            QCOMPARE(m_pView->selectedElements(), QList<int>({0}));
+            QVERIFY(m_pView->accessibleDescription().startsWith("e0 selected"));
+            QTest::keyClick(m_pView, Qt::Key_Right);
+            QTest::keyClick(m_pView, Qt::Key_Down, Qt::ShiftModifier);
+            QCOMPARE(firstPlace(), QPointF(21, 30));
+            QCOMPARE(document()->getUndoStack()->count(), 1);
+            for (int i = 0; i < 3; ++i)
+                QTest::keyClick(m_pView, Qt::Key_Tab);
+            QCOMPARE(m_pView->selectedElements(), QList<int>({0}));
+            QTest::keyClick(m_pView, Qt::Key_Backtab);
+            QCOMPARE(m_pView->selectedElements(), QList<int>({2}));
+            QTest::keyClick(m_pView, Qt::Key_A, Qt::ControlModifier);
+            QCOMPARE(m_pView->selectedElements(), QList<int>({0, 1, 2}));
+            QTest::keyClick(m_pView, Qt::Key_Delete);
+            QVERIFY(elements(0).isEmpty());
+            m_pProgram->command("Edit.Undo")->trigger();
+            QCOMPARE(elements(0).size(), 3);
+            QTest::keyClick(m_pView, Qt::Key_Tab);
+            QTest::keyClick(m_pView, Qt::Key_Escape);
+            QVERIFY(m_pView->selectedElements().isEmpty() && m_pView->hasFocus());
+            QTest::keyClick(m_pView, Qt::Key_Escape); // the way out of the stage
+            QVERIFY(!m_pView->hasFocus());
         }
-        return nullptr;
-    }
-    [[nodiscard]] StageDocument *document() const
-    {
-        return static_cast<StageDocument *>(m_pEditor->getDocument());
-    }
-    [[nodiscard]] const QList<StageElement> &elements(int nScene) const
-    {
-        return document()->getModel()->elements(nScene);
-    }
-    [[nodiscard]] QPointF firstPlace() const { return {elements(0).first().x, elements(0).first().y}; }
 
-    std::unique_ptr<StageProgram> m_pProgram;
-    StageEditor *m_pEditor = nullptr;
-    StageView *m_pView = nullptr;
-};
+        void elementsStopAtTheEdgeOfWhatAFileMayHold()
+        {
+            m_pView->selectElements({0});
+            m_pView->moveSelected(5e6, -5e6);
+            QCOMPARE(firstPlace(), QPointF(1e6, -1e6));
+            QVERIFY(document()->save());
+            QVERIFY(document()->revert());
+        }
 
-QTEST_MAIN(tst_StageEditor)
+        void aDragIsOneEditInWholePixels()
+        {
+            QWidget *pPort = m_pView->viewport();
+            const QPoint from = m_pView->mapFromScene(50, 50);
+            QTest::mousePress(pPort, Qt::LeftButton, {}, from);
+            for (int i = 1; i <= 10; ++i)
+                QTest::mouseMove(pPort, from + QPoint(5 * i, 3 * i));
+            QTest::mouseRelease(pPort, Qt::LeftButton, {}, from + QPoint(50, 30));
+            const QPointF place = firstPlace();
+            QVERIFY(place.x() > 20 && place.y() > 20);
+            QCOMPARE(place, QPointF(place.toPoint()));
+            QCOMPARE(document()->getUndoStack()->count(), 1);
+            m_pProgram->command("Edit.Undo")->trigger();
+            QCOMPARE(firstPlace(), QPointF(20, 20));
+        }
+
+        void theToolBarAddsAndDeletes()
+        {
+            QVERIFY(!action("Delete")->isEnabled());
+            for (const char *pText : {"Add Rectangle", "Add Ellipse", "Add Text"})
+                action(pText)->trigger();
+            const auto &shapes = elements(0);
+            QCOMPARE(shapes.size(), 6);
+            QCOMPARE(shapes.at(4).id, "ellipse-1");
+            QCOMPARE(m_pView->selectedElements(), QList<int>({5}));
+            action("Delete")->trigger();
+            QCOMPARE(shapes.size(), 5);
+            m_pProgram->command("Edit.Undo")->trigger();
+            m_pProgram->command("Edit.Undo")->trigger();
+            m_pProgram->command("Edit.Redo")->trigger();
+            QCOMPARE(shapes.last().type, StageElement::Type::Text);
+        }
+
+        void undoingAnEditOfAnotherSceneShowsThatScene()
+        {
+            auto *pScenes = m_pEditor->getSubWindow()->findChild<QComboBox *>();
+            QCOMPARE(pScenes->count(), 2);
+            m_pView->setCurrentScene(1);
+            action("Add Rectangle")->trigger();
+            QCOMPARE(elements(1).size(), 1);
+            m_pView->setCurrentScene(0);
+            m_pProgram->command("Edit.Undo")->trigger();
+            QCOMPARE(m_pView->currentScene(), 1);
+            QCOMPARE(pScenes->currentIndex(), 1);
+            m_pProgram->command("Edit.Redo")->trigger();
+            QCOMPARE(elements(1).size(), 1);
+        }
+
+        // What is painted is what the file says: the colours of background and shapes at their places.
+        void theStageIsPaintedAndHasItsNames()
+        {
+            QCOMPARE(m_pView->accessibleName(), "Stage");
+            QCOMPARE(m_pEditor->getSubWindow()->findChild<QComboBox *>()->accessibleName(), "Scene");
+            const QImage image = m_pView->viewport()->grab().toImage();
+            QCOMPARE(image.pixelColor(m_pView->mapFromScene(50, 50)), QColor(Qt::red));
+            QCOMPARE(image.pixelColor(m_pView->mapFromScene(100, 50)), QColor(Qt::white));
+            QVERIFY(image.pixelColor(m_pView->mapFromScene(-10, -10)) != QColor(Qt::white));
+        }
+
+    private:
+        // Touches what is left, as a user might.
+        static void poke(StageProgram & program, StageEditor * pEditor, QMdiSubWindow * pTab)
+        {
+            QCoreApplication::processEvents();
+            if (pTab) {
+                QTest::keyClick(pTab->widget(), Qt::Key_Tab);
+                if (auto *pView = pTab->findChild<StageView *>()) {
+                    pView->selectAll();
+                    QTest::keyClick(pView, Qt::Key_Right);
+                    QTest::keyClick(pView, Qt::Key_Delete);
+                    QTest::mouseClick(pView->viewport(), Qt::LeftButton);
+                    pView->grab();
+                }
+                pTab->close();
+            }
+            if (pEditor && program.window)
+                EditorManager::activateEditor(pEditor);
+            QCoreApplication::processEvents();
+        }
+
+        [[nodiscard]] QAction *action(const char *pText) const
+        {
+            for (QAction *pAction : m_pProgram->toolBar->actions()) {
+                if (pAction->text().remove('&').startsWith(pText))
+                    return pAction;
+            }
+            return nullptr;
+        }
+        [[nodiscard]] StageDocument *document() const
+        {
+            return static_cast<StageDocument *>(m_pEditor->getDocument());
+        }
+        [[nodiscard]] const QList<StageElement> &elements(int nScene) const
+        {
+            return document()->getModel()->elements(nScene);
+        }
+        [[nodiscard]] QPointF firstPlace() const
+        {
+            return {elements(0).first().x, elements(0).first().y};
+        }
+
+        std::unique_ptr<StageProgram> m_pProgram;
+        StageEditor *m_pEditor = nullptr;
+        StageView *m_pView = nullptr;
+    };
+
+    QTEST_MAIN(tst_StageEditor)
 #include "tst_stageeditor.moc"
