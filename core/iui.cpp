@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QPointer>
 #include <QScreen>
 
 #include <array>
@@ -110,14 +111,16 @@ QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, con
     const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton,
     const QString &strInformative = {})
 {
-    QWidget *pOwner = pParent ? pParent : ICore::getMainWindow();
-    QMessageBox box(pOwner);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(strText);
-    box.setInformativeText(strInformative);
-    box.setStandardButtons(buttons);
-    box.setDefaultButton(defaultButton);
-    return IUi::run(&box, strIcon, strTitle);
+    // Not on the stack: its parent may die while it runs.
+    const QPointer<QMessageBox> pBox = new QMessageBox(pParent ? pParent : ICore::getMainWindow());
+    pBox->setTextFormat(Qt::PlainText);
+    pBox->setText(strText);
+    pBox->setInformativeText(strInformative);
+    pBox->setStandardButtons(buttons);
+    pBox->setDefaultButton(defaultButton);
+    const QMessageBox::StandardButton answer = IUi::run(pBox, strIcon, strTitle);
+    delete pBox;
+    return answer;
 }
 
 } // namespace
@@ -149,7 +152,8 @@ QMessageBox::StandardButton IUi::run(QMessageBox *pBox, const QString &strIcon, 
     pBox->setWindowTitle(strTitle);
     pBox->setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pBox->parentWidget())));
     widenContents(pBox);
-    if (pBox->exec() == -1 || !pBox->clickedButton())
+    const QPointer<QMessageBox> pAlive = pBox;
+    if (pBox->exec() == -1 || !pAlive || !pBox->clickedButton())
         return QMessageBox::Cancel;
     return pBox->standardButton(pBox->clickedButton());
 }

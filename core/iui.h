@@ -33,7 +33,8 @@ public:
     static void clearIconCache();
 
     /// Modal boxes; a null parent means the main window. They return the button that was clicked, or Cancel
-    /// when the box was closed without one. `strInformative` stands in a second, lighter text.
+    /// when the box was closed without one or died with its parent. `strInformative` stands in a second, lighter
+    /// text.
     static QMessageBox::StandardButton information(QWidget *pParent, const QString &strTitle,
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
         QMessageBox::StandardButton defaultButton = QMessageBox::Ok, const QString &strInformative = {});
@@ -45,7 +46,8 @@ public:
         QMessageBox::StandardButton defaultButton = QMessageBox::Ok);
 
     /// Gives a box that its caller has filled the look of the others, and runs it. `strIcon` is the image's
-    /// name with its size, such as "question_32".
+    /// name with its size, such as "question_32". A box with a parent is made with new: it may die with it,
+    /// and the answer is Cancel then.
     static QMessageBox::StandardButton run(
         QMessageBox *pBox, const QString &strIcon, const QString &strTitle);
 

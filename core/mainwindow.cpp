@@ -78,6 +78,7 @@ MainWindow::MainWindow(QWidget *pParent)
     setObjectName(QStringLiteral("MainWindow"));
     m_nDisplayScale = static_cast<int>(devicePixelRatioF() * 100);
     setAcceptDrops(true);
+    installEventFilter(this); // drops beside the area of documents
     QNetworkProxyFactory::setUseSystemConfiguration(true);
 
     startServer();

@@ -70,9 +70,11 @@ public:
     [[nodiscard]] QString getServerKey() const;
     [[nodiscard]] IMainMdiArea *getMdiArea() const { return m_pMdiArea; }
     [[nodiscard]] QToolBar *getFileToolbar() const { return m_pFileToolbar; }
+
+    /// Null when the title bar was replaced by setMenuWidget().
     [[nodiscard]] KPNotificationBar *getNotificationBar();
 
-    /// As KPNotificationBar::show(), and its end.
+    /// As KPNotificationBar::show(), and its end; nothing without the bar.
     void showNotification(
         const QString &strText, KPNotificationBar::Type type, const QString &strButtonText, bool bClosable);
     void hideNotification();
@@ -88,6 +90,11 @@ public:
     void setWelcomeWidget(QWidget *pWidget);
 
     [[nodiscard]] QList<QDockWidget *> getListDockWidgetsByArea(Qt::DockWidgetArea area) const;
+
+    /// As those of QWidget, but a maximised window keeps the place it had before, whatever was done to it to
+    /// leave room for a task bar that hides itself.
+    [[nodiscard]] QRect normalGeometry() const;
+    [[nodiscard]] QByteArray saveGeometry() const;
 
 signals:
     void updateWindowFilePath(const QString &fileName);
@@ -188,12 +195,14 @@ private:
     void startDpiCheck();
     void watchScreen();
     void fixAutoHideTaskbar();
+    void followMaximized(bool bByProgram);
+    void giveNormalGeometryBack();
 
     QWebSocketServer *m_pServer = nullptr;
     QWebChannel *m_pChannel = nullptr;
     WebSocketClientWrapper *m_pClientWrapper = nullptr;
     IMainMdiArea *m_pMdiArea = nullptr;
-    IMainMenuWidget *m_pTitleBar = nullptr;
+    QPointer<IMainMenuWidget> m_pTitleBar;
     QToolBar *m_pFileToolbar = nullptr;
     std::map<QString, QAction *> m_actions; // the core's own, by command id
     QAction *m_pCurrentLanguage = nullptr;
@@ -206,6 +215,7 @@ private:
     QPointer<IOptionsDlg> m_pOptionsDlg;
     int m_nDisplayScale = 0;
     QTimer m_dpiCheckTimer;
+    QRect m_normalGeometry; // of a maximised window that was made a line lower
     QMetaObject::Connection m_screenScale;
     std::map<QString, QString> m_themedIcons; // icon name by command id
 };

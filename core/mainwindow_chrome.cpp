@@ -5,7 +5,7 @@
 #include "iui.h"
 #include "ui/imainmenuwidget.h"
 
-#include <QWindowStateChangeEvent>
+#include <QEvent>
 
 void MainWindow::createTitleBar()
 {
@@ -15,18 +15,20 @@ void MainWindow::createTitleBar()
 
 KPNotificationBar *MainWindow::getNotificationBar()
 {
-    return m_pTitleBar->getNotificationBar();
+    return m_pTitleBar ? m_pTitleBar->getNotificationBar() : nullptr;
 }
 
 void MainWindow::showNotification(
     const QString &strText, KPNotificationBar::Type type, const QString &strButtonText, bool bClosable)
 {
-    getNotificationBar()->show(strText, type, strButtonText, bClosable);
+    if (KPNotificationBar *pBar = getNotificationBar())
+        pBar->show(strText, type, strButtonText, bClosable);
 }
 
 void MainWindow::hideNotification()
 {
-    getNotificationBar()->hide();
+    if (KPNotificationBar *pBar = getNotificationBar())
+        pBar->hide();
 }
 
 bool MainWindow::isStyledFrameTitleBar(int x, int y) const
@@ -39,10 +41,7 @@ bool MainWindow::isStyledFrameTitleBar(int x, int y) const
 
 void MainWindow::changeEvent(QEvent *pEvent)
 {
-    if (pEvent->type() == QEvent::WindowStateChange && m_pTitleBar) {
-        const auto oldState = static_cast<QWindowStateChangeEvent *>(pEvent)->oldState();
-        if ((oldState ^ windowState()) & Qt::WindowMaximized)
-            m_pTitleBar->updateMaximized(isMaximized());
-    }
+    if (pEvent->type() == QEvent::WindowStateChange)
+        followMaximized(!pEvent->spontaneous());
     KPStyledFrame<QMainWindow>::changeEvent(pEvent);
 }

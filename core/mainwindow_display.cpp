@@ -5,9 +5,12 @@
 #include "appearance/ilanguagemanager.h"
 #include "displayscale.h"
 #include "icore.h"
+#include "ui/imainmenuwidget.h"
 #include "ui/ioptionsdlg.h"
 #include "ui/nativescreen.h"
 
+#include <QApplication>
+#include <QDataStream>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -18,11 +21,15 @@
 #include <QUrl>
 #include <QWindow>
 
+#include <utility>
+
 namespace {
 
 Q_LOGGING_CATEGORY(lcWindow, "kelpa.core.window")
 
 constexpr int s_dpiCheckMs = 200;
+constexpr int s_restoreMs = 300; // longer than a window manager takes to change its mind
+constexpr Qt::WindowStates s_notNormal = Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen;
 
 QString helpFile(const QString &strLanguage)
 {
@@ -43,6 +50,24 @@ bool coversUnreservedScreen(const QWidget *pWindow)
     const QScreen *pScreen = pWindow->screen();
     return pScreen && pScreen->geometry() == pScreen->availableGeometry()
         && pWindow->frameGeometry() == pScreen->availableGeometry();
+}
+
+// But for the line that is left free.
+bool fillsScreen(const QWidget *pWindow, const QRect &rect)
+{
+    const QSize available = pWindow->screen() ? pWindow->screen()->availableSize() : QSize();
+    return rect.width() >= available.width() && rect.height() >= available.height() - 1;
+}
+
+// A widget keeps the scale of its font until it comes to another screen, even when the scale of its own does
+// not stay.
+void updateFonts()
+{
+    const auto widgets = QApplication::allWidgets();
+    for (QWidget *pWidget : widgets) {
+        QEvent event(QEvent::ScreenChangeInternal);
+        QCoreApplication::sendEvent(pWidget, &event);
+    }
 }
 
 } // namespace
@@ -77,6 +102,7 @@ void MainWindow::onTimerDPICheck()
     const int nMargin = nDPI / 96;
     setContentsMargins(nMargin, nMargin, nMargin, nMargin);
     m_nDisplayScale = nScale;
+    updateFonts();
     emit dpiChanged(nScale);
 }
 
@@ -136,8 +162,52 @@ void MainWindow::fixAutoHideTaskbar()
     QTimer::singleShot(0, this, [this] {
         if (!coversUnreservedScreen(this))
             return;
+        // With the resize both QWidget and the window manager take the new size for the one to go back to.
+        if (isMaximized() && !fillsScreen(this, QMainWindow::normalGeometry()))
+            m_normalGeometry = QMainWindow::normalGeometry();
         const QSize available = screen()->availableGeometry().size();
         resize(available.width(), available.height() - 1);
         setWindowState(windowState() | Qt::WindowMaximized);
     });
+}
+
+QRect MainWindow::normalGeometry() const
+{
+    return isMaximized() && m_normalGeometry.isValid() ? m_normalGeometry : QMainWindow::normalGeometry();
+}
+
+// The layout of these bytes is the same in all versions of Qt 6: two numbers of the format, the frame, and
+// the place to go back to.
+QByteArray MainWindow::saveGeometry() const
+{
+    QByteArray geometry = QMainWindow::saveGeometry();
+    QDataStream stream(&geometry, QIODevice::ReadWrite);
+    stream.setVersion(QDataStream::Qt_4_0);
+    stream.device()->seek(2 * sizeof(quint32) + 4 * sizeof(qint32));
+    stream << normalGeometry();
+    return geometry;
+}
+
+// The old state in the event is the system's, which may have told it before: what holds now is told each
+// time.
+void MainWindow::followMaximized(bool bByProgram)
+{
+    if (m_pTitleBar)
+        m_pTitleBar->updateMaximized(isMaximized());
+    if (windowState() & s_notNormal)
+        return;
+    // A window manager may take the resize for the end of the maximised state, which then comes again.
+    if (bByProgram)
+        giveNormalGeometryBack();
+    else
+        QTimer::singleShot(s_restoreMs, this, [this] {
+            if (!(windowState() & s_notNormal) && fillsScreen(this, geometry()))
+                giveNormalGeometryBack();
+        });
+}
+
+void MainWindow::giveNormalGeometryBack()
+{
+    if (const QRect normal = std::exchange(m_normalGeometry, QRect()); normal.isValid())
+        setGeometry(normal);
 }

@@ -41,6 +41,7 @@ IMainMdiArea::IMainMdiArea(QWidget *pParent)
     if (ICore::getMainWindow())
         installEventFilter(ICore::getMainWindow());
     setAcceptDrops(true);
+    setBackground(Qt::NoBrush); // the theme's, and not a grey of its own
     auto *pBridge = new KPHTMLExposingWelcome(this);
     connect(this, &IMainMdiArea::resetRecentFiles, pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
     if (channel())

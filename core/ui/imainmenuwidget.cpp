@@ -275,6 +275,8 @@ void IMainMenuWidget::onDPIChanged()
     dressButton("closeButton", tr("Close"), QStringLiteral("close"));
     static_cast<IconLabel *>(m_pIconLabel)
         ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
+    if (!m_pNotificationBar->isHidden())
+        m_pNotificationBar->updateIcons();
     // When it is shown, the menu bar does that by itself.
     if (m_pMenuBar->isVisible())
         m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
@@ -458,6 +460,10 @@ void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
     const QPoint delta = cursor - m_pressPosition;
     if (window()->isMaximized()) {
         if (TitleBarGeometry::restoresMaximized(delta)) {
+            // Until the window system has answered, the window goes on with the size that it has.
+            const auto *pMainWindow = qobject_cast<const MainWindow *>(window());
+            m_nRestoredWidth =
+                (pMainWindow ? pMainWindow->normalGeometry() : window()->normalGeometry()).width();
             showNormal();
             m_bRestoredByDrag = true;
         }
@@ -465,8 +471,8 @@ void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
     }
     if (m_bRestoredByDrag) {
         const QScreen *pScreen = window()->screen();
-        m_windowPosition = TitleBarGeometry::restoredPosition(cursor, window()->normalGeometry().width(),
-            pScreen ? pScreen->virtualGeometry() : window()->geometry());
+        m_windowPosition = TitleBarGeometry::restoredPosition(
+            cursor, m_nRestoredWidth, pScreen ? pScreen->virtualGeometry() : window()->geometry());
         m_bRestoredByDrag = false;
     }
     window()->move(m_windowPosition + delta);

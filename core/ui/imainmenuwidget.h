@@ -84,6 +84,7 @@ private:
     TitleText *m_pTitleText = nullptr;
     QPoint m_pressPosition;
     QPoint m_windowPosition;
+    int m_nRestoredWidth = 0; // valid with m_bRestoredByDrag
     bool m_bRestoredByDrag = false;
     bool m_bDragging = false;
 };

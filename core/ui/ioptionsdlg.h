@@ -9,7 +9,8 @@
 class IOptionPage;
 
 /// Base of the preferences dialog, which the plug-in of the document format supplies. The main window asks
-/// for it once and keeps it.
+/// the factory for it on first use and keeps what it gets; it asks again when that was null, or is gone. It
+/// does not delete it: whoever makes the dialog gives it a parent.
 class CORE_EXPORT IOptionsDlg : public QDialog
 {
     Q_OBJECT
@@ -22,7 +23,7 @@ public:
     /// Shows the dialog with the current settings; the Preferences command calls it.
     virtual void showDialog() = 0;
 
-    /// Adds a page at the end; the dialog becomes its parent.
+    /// Adds a page at the end; it is the dialog's from then on, as a child of it or of a widget in it.
     virtual void addPage(IOptionPage *pPage) = 0;
 
 public slots:
@@ -37,6 +38,6 @@ public:
     [[nodiscard]] virtual bool hasChanges() = 0;
 
 protected:
-    /// Children of the dialog, in the order they are shown.
+    /// Not owned by the list: the pages go with the dialog. In the order they are shown.
     QList<IOptionPage *> m_pages;
 };

@@ -6,6 +6,7 @@
 #include "ui_kpnotificationbar.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
 
@@ -51,6 +52,7 @@ KPNotificationBar::KPNotificationBar(QWidget *pParent)
     setAutoFillBackground(true);
     connect(m_pUi->m_pCloseButton, &QToolButton::clicked, this, &KPNotificationBar::hide);
     connect(m_pUi->m_pButton, &QPushButton::clicked, this, &KPNotificationBar::buttonClicked);
+    connect(qApp, &QApplication::focusChanged, this, &KPNotificationBar::watchFocus);
     // Installing it again changes nothing.
     QAccessible::installFactory(Alert::create);
 }
@@ -64,21 +66,40 @@ QString KPNotificationBar::text() const
 
 void KPNotificationBar::show(const QString &text, Type type, const QString &buttonText, bool closable)
 {
-    const bool bWarning = type == Warning;
-    const int nIcon = DisplayScale::wholeFactor(DisplayScale::logicalDpi(), 16);
-    m_pUi->m_pIconLabel->setPixmap(
-        IUi::getPixmap(bWarning ? QStringLiteral("warning") : QStringLiteral("info"), 2, false));
-    m_pUi->m_pIconLabel->setAccessibleName(bWarning ? tr("Warning") : tr("Information"));
+    m_type = type;
+    updateIcons();
+    m_pUi->m_pIconLabel->setAccessibleName(type == Warning ? tr("Warning") : tr("Information"));
     m_pUi->m_pMessageLabel->setText(text);
     m_pUi->m_pMessageLabel->setVisible(!text.isEmpty());
     m_pUi->m_pButton->setText(buttonText);
     m_pUi->m_pButton->setVisible(!buttonText.isEmpty());
-    m_pUi->m_pCloseButton->setIcon(IUi::getIcon(QStringLiteral("close")));
-    m_pUi->m_pCloseButton->setIconSize({nIcon, nIcon});
     m_pUi->m_pCloseButton->setVisible(closable);
     disconnect(this, &KPNotificationBar::buttonClicked, nullptr, nullptr);
     QFrame::show();
     announce();
+}
+
+void KPNotificationBar::updateIcons()
+{
+    const int nIcon = DisplayScale::wholeFactor(DisplayScale::logicalDpi(), 16);
+    m_pUi->m_pIconLabel->setPixmap(
+        IUi::getPixmap(m_type == Warning ? QStringLiteral("warning") : QStringLiteral("info"), 2, false));
+    m_pUi->m_pCloseButton->setIcon(IUi::getIcon(QStringLiteral("close")));
+    m_pUi->m_pCloseButton->setIconSize({nIcon, nIcon});
+}
+
+void KPNotificationBar::watchFocus(QWidget *pOld, QWidget *pNow)
+{
+    if (isAncestorOf(pNow) && !isAncestorOf(pOld))
+        m_pFocusBefore = pOld;
+}
+
+// Else it would go to whatever comes next in the window.
+void KPNotificationBar::hideEvent(QHideEvent *pEvent)
+{
+    if (isHidden() && m_pFocusBefore && isAncestorOf(QApplication::focusWidget()))
+        m_pFocusBefore->setFocus();
+    QFrame::hideEvent(pEvent);
 }
 
 // Once for each message, also when the bar was visible already; the focus stays where it is.

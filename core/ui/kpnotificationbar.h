@@ -4,6 +4,7 @@
 #include <core_global.h>
 
 #include <QFrame>
+#include <QPointer>
 
 #include <memory>
 
@@ -32,6 +33,9 @@ public:
     /// it. Whoever was connected to buttonClicked() no longer is: connect after this call.
     void show(const QString &text, Type type, const QString &buttonText, bool closable);
 
+    /// Loads the icons again, for the scale that the display has now.
+    void updateIcons();
+
     /// The message that was shown last.
     [[nodiscard]] QString text() const;
 
@@ -40,11 +44,15 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *pEvent) override;
+    void hideEvent(QHideEvent *pEvent) override;
 
 private:
     class Alert;
 
     void announce();
+    void watchFocus(QWidget *pOld, QWidget *pNow);
 
+    Type m_type = Info;
+    QPointer<QWidget> m_pFocusBefore; // where it came from into the bar
     const std::unique_ptr<Ui::KPNotificationBar> m_pUi;
 };

@@ -19,8 +19,23 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QUndoGroup>
 #include <QVBoxLayout>
+
+namespace {
+
+// A tab takes "&" for a key and every "[*]" for the mark of a change, and is as wide as its text.
+QString tabText(const QString &strName, const QWidget *pTab)
+{
+    const int nWidest = DisplayScale::proportional(DisplayScale::logicalDpi(pTab), 240);
+    QString strText = pTab->fontMetrics().elidedText(strName, Qt::ElideMiddle, nWidest);
+    strText.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    strText.replace(QStringLiteral("[*]"), QStringLiteral("[\u2060*]"));
+    return strText + QStringLiteral("[*]");
+}
+
+} // namespace
 
 StageEditor::StageEditor()
 {
@@ -74,10 +89,10 @@ void StageEditor::createSubWindow(StageDocument *pDocument)
     auto *pSubWindow = new StageSubWindow;
     m_pSubWindow = pSubWindow;
     pSubWindow->setWidget(createContent(pDocument));
-    updateTitle();
     connect(pSubWindow, &StageSubWindow::closeRequested, this, &StageEditor::requestClose);
     connect(pDocument, &IDocument::statusChanged, this, &StageEditor::showStatus);
     pArea->addSubWindow(pSubWindow);
+    updateTitle();
     connect(pArea, &QMdiArea::subWindowActivated, this, &StageEditor::onSubWindowActivated);
     pSubWindow->showMaximized();
 }
@@ -131,9 +146,13 @@ void StageEditor::updateTitle()
     if (!pDocument || !m_pSubWindow)
         return;
     const QString strFileName = pDocument->getFileName();
-    m_pSubWindow->setWindowTitle(QFileInfo(strFileName).completeBaseName() + QStringLiteral("[*]"));
+    m_pSubWindow->setWindowTitle(tabText(QFileInfo(strFileName).completeBaseName(), m_pSubWindow));
     m_pSubWindow->setWindowFilePath(strFileName);
-    m_pSubWindow->setToolTip(QDir::toNativeSeparators(strFileName));
+    // The tool tip of the sub-window itself would come up over the stage.
+    QMdiArea *pArea = m_pSubWindow->mdiArea();
+    if (auto *pTabs = pArea ? pArea->findChild<QTabBar *>() : nullptr)
+        pTabs->setTabToolTip(static_cast<int>(pArea->subWindowList().indexOf(m_pSubWindow)),
+            QDir::toNativeSeparators(strFileName));
     m_pSubWindow->setWindowModified(pDocument->isModified());
     if (EditorManager::activeEditor() == this && ICore::getMainWindow())
         ICore::getMainWindow()->updateActivatedMdiSubFilePath(m_pSubWindow);

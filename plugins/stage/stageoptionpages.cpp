@@ -4,6 +4,7 @@
 #include <appearance/ilanguagemanager.h>
 #include <document/documentmanager.h>
 #include <extensionsystem/pluginmanager.h>
+#include <icore.h>
 #include <iui.h>
 
 #include <QCheckBox>
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSettings>
 #include <QSpinBox>
 #include <QStyledItemDelegate>
 
@@ -35,9 +37,19 @@ public:
         QWidget *pParent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         QWidget *pEditor = QStyledItemDelegate::createEditor(pParent, option, index);
-        if (auto *pSpin = qobject_cast<QSpinBox *>(pEditor))
+        if (auto *pSpin = qobject_cast<QSpinBox *>(pEditor)) {
             pSpin->setRange(1, s_maxBreakpoint);
+            pSpin->setButtonSymbols(QAbstractSpinBox::NoButtons); // a row is too low for them
+        }
         return pEditor;
+    }
+
+    void updateEditorGeometry(
+        QWidget *pEditor, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::updateEditorGeometry(pEditor, option, index);
+        pEditor->resize(pEditor->width(), option.rect.height());
+        pEditor->move(pEditor->x(), option.rect.y());
     }
 };
 
@@ -57,6 +69,23 @@ DocumentManager::Breakpoints breakpointsOf(const QListWidget *pList)
         breakpoints.append({pItem->data(Qt::EditRole).toInt(), pItem->checkState() == Qt::Checked});
     }
     return breakpoints;
+}
+
+// An author may have emptied both lists; the built-in ones are only for stores that hold none yet.
+std::pair<DocumentManager::Breakpoints, DocumentManager::Breakpoints> storedBreakpoints()
+{
+    const QSettings *pSettings = ICore::settings(QSettings::UserScope);
+    std::pair lists(DocumentManager::getHBreakpoints(), DocumentManager::getVBreakpoints());
+    if (!pSettings || !pSettings->childGroups().contains(QStringLiteral("Breakpoints")))
+        DocumentManager::initBreakpoints(lists.first, lists.second, false);
+    return lists;
+}
+
+void saveSettings(const std::pair<DocumentManager::Breakpoints, DocumentManager::Breakpoints> &breakpoints)
+{
+    DocumentManager::setHBreakpoints(breakpoints.first);
+    DocumentManager::setVBreakpoints(breakpoints.second);
+    DocumentManager::saveSettings();
 }
 
 } // namespace
@@ -171,7 +200,7 @@ void BackupOptionPage::saveChanges()
     DocumentManager::setAutoBackupEnabled(m_pEnable->isChecked());
     if (m_bIntervalChanged) // one out of the range stays as it is unless the user gave another
         DocumentManager::setAutobackupTimeout(m_pInterval->value());
-    DocumentManager::saveSettings();
+    saveSettings(storedBreakpoints()); // it saves them too, and then they are stored
     const auto apply =
         m_pEnable->isChecked() ? DocumentManager::startWaitingBackup : DocumentManager::stopWaitingBackup;
     for (IDocument *pDocument : DocumentManager::getDocuments())
@@ -242,8 +271,9 @@ void EditingOptionPage::fill()
 
 void EditingOptionPage::fillBreakpoints(bool bReset)
 {
-    DocumentManager::Breakpoints horizontal, vertical;
-    DocumentManager::initBreakpoints(horizontal, vertical, bReset);
+    auto [horizontal, vertical] = storedBreakpoints();
+    if (bReset)
+        DocumentManager::initBreakpoints(horizontal, vertical, true);
     m_pHorizontal->clear();
     for (const auto &[nValue, bEnabled] : std::as_const(horizontal))
         addBreakpoint(m_pHorizontal, nValue, bEnabled);
@@ -255,8 +285,6 @@ void EditingOptionPage::fillBreakpoints(bool bReset)
 void EditingOptionPage::saveChanges()
 {
     DocumentManager::setPasteSvgAsFreeform(m_pPasteSvg->isChecked());
-    DocumentManager::setHBreakpoints(breakpointsOf(m_pHorizontal));
-    DocumentManager::setVBreakpoints(breakpointsOf(m_pVertical));
-    DocumentManager::saveSettings();
+    saveSettings({breakpointsOf(m_pHorizontal), breakpointsOf(m_pVertical)});
     StageOptionPage::saveChanges();
 }

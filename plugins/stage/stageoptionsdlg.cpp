@@ -42,7 +42,11 @@ StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     updateButtons();
 }
 
-StageOptionsDlg::~StageOptionsDlg() = default;
+// While the pages are whole: an editor gives its value to its page when it dies.
+StageOptionsDlg::~StageOptionsDlg()
+{
+    endTyping();
+}
 
 void StageOptionsDlg::addPages()
 {
@@ -77,8 +81,16 @@ void StageOptionsDlg::showDialog()
     activateWindow();
 }
 
+// A value is the control's when the focus leaves what it is typed into.
+void StageOptionsDlg::endTyping()
+{
+    if (m_pStack->isAncestorOf(focusWidget()))
+        m_pButtons->button(QDialogButtonBox::Ok)->setFocus();
+}
+
 void StageOptionsDlg::onApply()
 {
+    endTyping();
     for (IOptionPage *pPage : std::as_const(m_pages)) {
         if (pPage->isChanged())
             pPage->saveChanges();
@@ -88,6 +100,7 @@ void StageOptionsDlg::onApply()
 
 void StageOptionsDlg::onCancel()
 {
+    endTyping();
     for (IOptionPage *pPage : std::as_const(m_pages)) {
         if (pPage->isChanged())
             pPage->discardChanges();

@@ -33,6 +33,7 @@ public:
 private:
     void addPages();
     void updateButtons();
+    void endTyping();
 
     QListWidget *m_pList;
     QStackedWidget *m_pStack;

@@ -56,65 +56,56 @@ class tst_KPAppStyle : public QObject
     Q_OBJECT
 
 private slots:
+    // Several metrics of one rule; values at 72, 96, 120, 143, 144 and 192 DPI, of a widget in a window.
     void metrics_data()
     {
-        QTest::addColumn<Metric>("metric");
-        QTest::addColumn<QList<int>>(
-            "expected"); // at 72, 96, 120, 143, 144 and 192 DPI, of a widget in a window
-        const auto row = [](const char *pName, Metric metric, const QList<int> &expected) {
-            QTest::newRow(pName) << metric << expected;
-        };
-        row("proportional 6: button margin", QStyle::PM_ButtonMargin, {4, 6, 7, 8, 9, 12});
-        row("proportional 6: layout spacing", QStyle::PM_LayoutVerticalSpacing, {4, 6, 7, 8, 9, 12});
-        row("proportional 10: menu scroller", QStyle::PM_MenuScrollerHeight, {7, 10, 12, 14, 15, 20});
-        row("proportional 10: menu button", QStyle::PM_MenuButtonIndicator, {7, 10, 12, 14, 15, 20});
-        row("proportional 9: scroll bar slider", QStyle::PM_ScrollBarSliderMin, {6, 9, 11, 13, 13, 18});
-        row("proportional 16: slider", QStyle::PM_SliderThickness, {12, 16, 20, 23, 24, 32});
-        row("proportional 16: title bar button", QStyle::PM_TitleBarButtonSize, {12, 16, 20, 23, 24, 32});
-        row("proportional 8: dock handle", QStyle::PM_DockWidgetHandleExtent, {6, 8, 10, 11, 12, 16});
-        row("proportional 18: title bar alone", QStyle::PM_TitleBarHeight, {13, 18, 22, 26, 27, 36});
-        row("proportional 13: indicator width", QStyle::PM_IndicatorWidth, {9, 13, 16, 19, 19, 26});
-        row("proportional 13: size grip", QStyle::PM_SizeGripSize, {9, 13, 16, 19, 19, 26});
-        row("proportional 12: radio button", QStyle::PM_ExclusiveIndicatorHeight, {9, 12, 15, 17, 18, 24});
-        row("proportional 12: its width", QStyle::PM_ExclusiveIndicatorWidth, {9, 12, 15, 17, 18, 24});
-        row("proportional 5: dialog separator", QStyle::PM_DialogButtonsSeparator, {3, 5, 6, 7, 7, 10});
-        row("proportional 70: dialog button", QStyle::PM_DialogButtonsButtonWidth,
-            {52, 70, 87, 104, 105, 140});
-        row("proportional 30: header section", QStyle::PM_HeaderDefaultSectionSizeVertical,
+        const auto row = columns<QList<Metric>, QList<int>>("metrics", "expected");
+        row("proportional 6", {QStyle::PM_ButtonMargin, QStyle::PM_LayoutVerticalSpacing},
+            {4, 6, 7, 8, 9, 12});
+        row("proportional 10", {QStyle::PM_MenuScrollerHeight, QStyle::PM_MenuButtonIndicator},
+            {7, 10, 12, 14, 15, 20});
+        row("proportional 9",
+            {QStyle::PM_ScrollBarSliderMin, QStyle::PM_LayoutLeftMargin, QStyle::PM_LayoutBottomMargin},
+            {6, 9, 11, 13, 13, 18});
+        row("proportional 16", {QStyle::PM_SliderThickness, QStyle::PM_TitleBarButtonSize},
+            {12, 16, 20, 23, 24, 32});
+        row("proportional 8", {QStyle::PM_DockWidgetHandleExtent}, {6, 8, 10, 11, 12, 16});
+        row("proportional 18", {QStyle::PM_TitleBarHeight}, {13, 18, 22, 26, 27, 36});
+        row("proportional 13", {QStyle::PM_IndicatorWidth, QStyle::PM_SizeGripSize}, {9, 13, 16, 19, 19, 26});
+        row("proportional 12", {QStyle::PM_ExclusiveIndicatorHeight, QStyle::PM_ExclusiveIndicatorWidth},
+            {9, 12, 15, 17, 18, 24});
+        row("proportional 5", {QStyle::PM_DialogButtonsSeparator}, {3, 5, 6, 7, 7, 10});
+        row("proportional 70", {QStyle::PM_DialogButtonsButtonWidth}, {52, 70, 87, 104, 105, 140});
+        row("proportional 30",
+            {QStyle::PM_HeaderDefaultSectionSizeVertical, QStyle::PM_DialogButtonsButtonHeight},
             {22, 30, 37, 44, 45, 60});
-        row("proportional 30: dialog button", QStyle::PM_DialogButtonsButtonHeight, {22, 30, 37, 44, 45, 60});
-        row("proportional 4: sub-window frame", QStyle::PM_MdiSubWindowFrameWidth, {3, 4, 5, 5, 6, 8});
-        row("proportional 4: header margin", QStyle::PM_HeaderMargin, {3, 4, 5, 5, 6, 8});
-        row("proportional 196: minimised sub-window", QStyle::PM_MdiSubWindowMinimizedWidth,
-            {147, 196, 245, 291, 294, 392});
-        row("proportional 2: dock button", QStyle::PM_DockWidgetTitleBarButtonMargin, {1, 2, 2, 2, 3, 4});
-        row("proportional 20: tree", QStyle::PM_TreeViewIndentation, {15, 20, 25, 29, 30, 40});
-        row("proportional 100: header section", QStyle::PM_HeaderDefaultSectionSizeHorizontal,
+        row("proportional 4", {QStyle::PM_MdiSubWindowFrameWidth, QStyle::PM_HeaderMargin},
+            {3, 4, 5, 5, 6, 8});
+        row("proportional 196", {QStyle::PM_MdiSubWindowMinimizedWidth}, {147, 196, 245, 291, 294, 392});
+        row("proportional 2", {QStyle::PM_DockWidgetTitleBarButtonMargin}, {1, 2, 2, 2, 3, 4});
+        row("proportional 20", {QStyle::PM_TreeViewIndentation}, {15, 20, 25, 29, 30, 40});
+        row("proportional 100", {QStyle::PM_HeaderDefaultSectionSizeHorizontal},
             {75, 100, 125, 148, 150, 200});
-        row("whole 12: scroll bar", QStyle::PM_ScrollBarExtent, {12, 12, 12, 12, 24, 24});
-        row("whole 24: tool bar icon", QStyle::PM_ToolBarIconSize, {24, 24, 24, 24, 48, 48});
-        row("whole 32: large icon", QStyle::PM_LargeIconSize, {32, 32, 32, 32, 64, 64});
-        row("whole 32: message icon", QStyle::PM_MessageBoxIconSize, {32, 32, 32, 32, 64, 64});
-        row("whole 16: small icon", QStyle::PM_SmallIconSize, {16, 16, 16, 16, 32, 32});
-        row("whole 16: title bar icon", QStyle::PM_TitleBarButtonIconSize, {16, 16, 16, 16, 32, 32});
-        row("none: default frame", QStyle::PM_DefaultFrameWidth, {0, 0, 0, 0, 0, 0});
-        row("none: tab scroll overlap", QStyle::PM_TabBar_ScrollButtonOverlap, {0, 0, 0, 0, 0, 0});
-        row("always 1: dock frame", QStyle::PM_DockWidgetFrameWidth, {1, 1, 1, 1, 1, 1});
-        row("always 1: tool tip frame", QStyle::PM_ToolTipLabelFrameWidth, {1, 1, 1, 1, 1, 1});
-        row("always 3: tab overlap", QStyle::PM_TabBarTabOverlap, {3, 3, 3, 3, 3, 3});
-        row("always 9: progress chunk", QStyle::PM_ProgressBarChunkWidth, {9, 9, 9, 9, 9, 9});
-        row("always 2: menu bar panel", QStyle::PM_MenuBarPanelWidth, {2, 2, 2, 2, 2, 2});
-        row("always 2: focus frame", QStyle::PM_FocusFrameHMargin, {2, 2, 2, 2, 2, 2});
-        row("left margin", QStyle::PM_LayoutLeftMargin, {6, 9, 11, 13, 13, 18});
-        row("lower margin", QStyle::PM_LayoutBottomMargin, {6, 9, 11, 13, 13, 18});
-        row("less than the menu's panel", QStyle::PM_SubMenuOverlap, QList<int>(6, -s_nPanel));
+        row("whole 12", {QStyle::PM_ScrollBarExtent}, {12, 12, 12, 12, 24, 24});
+        row("whole 24", {QStyle::PM_ToolBarIconSize}, {24, 24, 24, 24, 48, 48});
+        row("whole 32", {QStyle::PM_LargeIconSize, QStyle::PM_MessageBoxIconSize}, {32, 32, 32, 32, 64, 64});
+        row("whole 16", {QStyle::PM_SmallIconSize, QStyle::PM_TitleBarButtonIconSize},
+            {16, 16, 16, 16, 32, 32});
+        row("none", {QStyle::PM_DefaultFrameWidth, QStyle::PM_TabBar_ScrollButtonOverlap},
+            {0, 0, 0, 0, 0, 0});
+        row("always 1", {QStyle::PM_DockWidgetFrameWidth, QStyle::PM_ToolTipLabelFrameWidth},
+            {1, 1, 1, 1, 1, 1});
+        row("always 3", {QStyle::PM_TabBarTabOverlap}, {3, 3, 3, 3, 3, 3});
+        row("always 9", {QStyle::PM_ProgressBarChunkWidth}, {9, 9, 9, 9, 9, 9});
+        row("always 2", {QStyle::PM_MenuBarPanelWidth, QStyle::PM_FocusFrameHMargin}, {2, 2, 2, 2, 2, 2});
+        row("less than the menu's panel", {QStyle::PM_SubMenuOverlap}, QList<int>(6, -s_nPanel));
     }
-
     void metrics()
     {
-        QFETCH(Metric, metric);
+        QFETCH(QList<Metric>, metrics);
         QWidget window;
-        QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
+        for (const Metric metric : std::as_const(metrics))
+            QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
     }
 
     void othersAreThoseOfThePlatform()
@@ -153,14 +144,11 @@ private slots:
 
     void titleBarHoldsItsText_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<bool>("dock");
-        QTest::addColumn<QList<int>>("expected"); // at 72, 96, 120, 143, 144 and 192 DPI
-        QTest::newRow("a window") << int(Qt::Window) << false << QList<int> {13, 18, 22, 26, 27, 36};
-        QTest::newRow("a tool window") << int(Qt::Tool) << false << QList<int> {12, 16, 20, 23, 24, 32};
-        QTest::newRow("a dock") << int(Qt::Window) << true << QList<int> {9, 13, 16, 19, 19, 26};
+        const auto row = columns<int, bool, QList<int>>("flags", "dock", "expected");
+        row("a window", Qt::Window, false, {13, 18, 22, 26, 27, 36});
+        row("a tool window", Qt::Tool, false, {12, 16, 20, 23, 24, 32});
+        row("a dock", Qt::Window, true, {9, 13, 16, 19, 19, 26});
     }
-
     void titleBarHoldsItsText()
     {
         QFETCH(int, flags);
@@ -188,21 +176,14 @@ private slots:
 
     void sliders_data()
     {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<int>("ticks");
-        QTest::addColumn<int>("offset");
-        QTest::addColumn<int>("space");
-        QTest::newRow("lying, ticks on both sides")
-            << Qt::Horizontal << int(QSlider::TicksBothSides) << 5 << 70;
-        QTest::newRow("lying, ticks above") << Qt::Horizontal << int(QSlider::TicksAbove) << 11 << 70;
-        QTest::newRow("lying, ticks below: the platform decides")
-            << Qt::Horizontal << int(QSlider::TicksBelow)
-            << QProxyStyle().pixelMetric(QStyle::PM_SliderTickmarkOffset, nullptr, nullptr) << 70;
-        QTest::newRow("standing, ticks on both sides")
-            << Qt::Vertical << int(QSlider::TicksBothSides) << 45 << -9;
-        QTest::newRow("standing, ticks above") << Qt::Vertical << int(QSlider::TicksAbove) << 90 << -9;
+        const auto row = columns<Qt::Orientation, int, int, int>("orientation", "ticks", "offset", "space");
+        const int nPlatform = QProxyStyle().pixelMetric(QStyle::PM_SliderTickmarkOffset, nullptr, nullptr);
+        row("lying, ticks on both sides", Qt::Horizontal, QSlider::TicksBothSides, 5, 70);
+        row("lying, ticks above", Qt::Horizontal, QSlider::TicksAbove, 11, 70);
+        row("lying, ticks below: the platform decides", Qt::Horizontal, QSlider::TicksBelow, nPlatform, 70);
+        row("standing, ticks on both sides", Qt::Vertical, QSlider::TicksBothSides, 45, -9);
+        row("standing, ticks above", Qt::Vertical, QSlider::TicksAbove, 90, -9);
     }
-
     void sliders()
     {
         QFETCH(Qt::Orientation, orientation);
@@ -222,42 +203,31 @@ private slots:
 
     void checkBox_data()
     {
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<QColor>("outer");
-        QTest::addColumn<QColor>("inner");
-        const int nEnabled = QStyle::State_Enabled;
-        const int nHover = QStyle::State_MouseOver;
-        const auto rows = [](const char *pName, int nState, QRgb outer, QRgb inner) {
-            for (const int nDPI : s_dpis)
-                QTest::addRow("%s at %d", pName, nDPI) << nDPI << nState << QColor(outer) << QColor(inner);
-        };
-        rows("enabled", nEnabled, 0x494949, 0x2a2a2a);
-        rows("under the mouse", nEnabled | nHover, 0xf7941d, 0x303030);
-        rows("disabled", 0, 0x494949, 0x383838);
-        rows("disabled under the mouse", nHover, 0x494949, 0x383838);
+        const auto row = columns<int, QColor, QColor>("state", "outer", "inner");
+        row("enabled", QStyle::State_Enabled, 0x494949, 0x2a2a2a);
+        row("under the mouse", QStyle::State_Enabled | QStyle::State_MouseOver, 0xf7941d, 0x303030);
+        row("disabled", 0, 0x494949, 0x383838);
+        row("disabled under the mouse", QStyle::State_MouseOver, 0x494949, 0x383838);
     }
-
     void checkBox()
     {
-        QFETCH(int, dpi);
         QFETCH(int, state);
         QFETCH(QColor, outer);
         QFETCH(QColor, inner);
-        const int nLine = dpi / 96;
-        const int nSide = 13 * dpi / 96;
-        const QRect box(5, 5 + nLine, nSide, nSide);
-        const QImage plain = drawn(dpi, state | QStyle::State_Off);
-        QCOMPARE(areaOf(plain, QColor(Qt::white), true), box);
-        QCOMPARE(plain.pixelColor(box.topLeft()), nLine ? outer : inner);
-        QCOMPARE(plain.pixelColor(box.bottomRight()), nLine ? outer : inner);
-        QCOMPARE(areaOf(plain, inner), box.adjusted(nLine, nLine, -nLine, -nLine));
-
-        const QImage partial = drawn(dpi, state | QStyle::State_NoChange);
-        const QRect square = areaOf(partial, s_text);
-        QCOMPARE(square.center(), areaOf(plain, inner).center());
-        QVERIFY(square.width() > 2 && square.width() < nSide - 2 * nLine - 1);
-        QCOMPARE(square.width(), square.height());
+        for (const int nDPI : s_dpis) {
+            const int nLine = nDPI / 96;
+            const int nSide = 13 * nDPI / 96;
+            const QRect box(5, 5 + nLine, nSide, nSide);
+            const QImage plain = drawn(nDPI, state | QStyle::State_Off);
+            QCOMPARE(areaOf(plain, QColor(Qt::white), true), box);
+            QCOMPARE(plain.pixelColor(box.topLeft()), nLine ? outer : inner);
+            QCOMPARE(plain.pixelColor(box.bottomRight()), nLine ? outer : inner);
+            QCOMPARE(areaOf(plain, inner), box.adjusted(nLine, nLine, -nLine, -nLine));
+            const QRect square = areaOf(drawn(nDPI, state | QStyle::State_NoChange), s_text);
+            QCOMPARE(square.center(), areaOf(plain, inner).center());
+            QVERIFY(square.width() > 2 && square.width() < nSide - 2 * nLine - 1);
+            QCOMPARE(square.width(), square.height());
+        }
     }
 
     // Pixels that the mark fills wholly: with a mark beside the grid there would be none.

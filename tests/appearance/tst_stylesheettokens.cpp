@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <appearance/stylesheettokens.h>
+#include <support/rows.h>
 
 #include <QtTest>
 
@@ -10,12 +11,7 @@ class tst_StyleSheetTokens : public QObject
 private slots:
     void tokens_data()
     {
-        QTest::addColumn<QString>("sheet");
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *pName, const char *pSheet, int nDPI, const char *pExpected) {
-            QTest::newRow(pName) << QString(pSheet) << nDPI << QString(pExpected);
-        };
+        const auto row = columns<QString, int, QString>("sheet", "dpi", "expected");
         row("nothing gives nothing", "", 96, "");
         row("text without marks stays", "a { margin: 3px }", 192, "a { margin: 3px }");
         row("doubled at 192", "width: $10px$;", 192, "width: 20px;");
@@ -55,21 +51,12 @@ private slots:
 
     void tenMegabytes_data()
     {
-        QTest::addColumn<QString>("unit");
-        QTest::addColumn<QString>("prefix");
-        QTest::addColumn<QString>("expected"); // of one unit; "*" for the whole
-        QTest::newRow("of honest rules") << "a { width: $10px$; }\n"
-                                         << ""
-                                         << "a { width: 20px; }\n";
-        QTest::newRow("of marks only") << "$"
-                                       << ""
-                                       << "";
-        QTest::newRow("of marks without a unit") << "$a"
-                                                 << ""
-                                                 << "a";
-        QTest::newRow("of one token that is never closed") << "10px"
-                                                           << "$"
-                                                           << "10px";
+        // expected of one unit; "*" for the whole
+        const auto row = columns<QString, QString, QString>("unit", "prefix", "expected");
+        row("of honest rules", "a { width: $10px$; }\n", "", "a { width: 20px; }\n");
+        row("of marks only", "$", "", "");
+        row("of marks without a unit", "$a", "", "a");
+        row("of one token that is never closed", "10px", "$", "10px");
     }
 
     // A look back for each mark would take hours here.

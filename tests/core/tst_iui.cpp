@@ -131,6 +131,14 @@ private slots:
         QCOMPARE(boxes.boxes.first().pParent, m_pWindow.get());
     }
 
+    void aBoxThatDiesWithItsParentSaysCancel()
+    {
+        QPointer<QWidget> pParent = new QWidget;
+        QTimer::singleShot(0, this, [pParent] { delete pParent; });
+        QCOMPARE(IUi::warning(pParent, "Kelpa Studio", "text"), QMessageBox::Cancel);
+        QVERIFY(!pParent);
+    }
+
     void boxIconFollowsTheParentsScreen()
     {
         for (const int nDPI : {96, 120, 143, 192}) {

@@ -14,6 +14,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <qpa/qwindowsysteminterface.h>
+
 namespace {
 
 // One whose native window can be taken away, as putting a web view into it does.
@@ -86,6 +88,24 @@ private slots:
         QVERIFY(!changed.wait(400));
     }
 
+    void anotherScaleOfTheSameScreenReachesEveryFont()
+    {
+        m_pWindow->show();
+        QDialog dialog(m_pWindow.get());
+        const QLabel label("text", &dialog);
+        QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
+        for (const int nDPI : {192, 96}) {
+            const int nBefore = label.sizeHint().height();
+            QWindowSystemInterface::handleScreenLogicalDotsPerInchChange(m_pWindow->screen(), nDPI, nDPI);
+            QTRY_COMPARE(m_pWindow->screen()->logicalDotsPerInch(), nDPI);
+            QTRY_COMPARE(changed.size(), nDPI == 192 ? 1 : 2);
+            QVERIFY(nDPI == 192 ? label.sizeHint().height() > nBefore * 3 / 2
+                                : label.sizeHint().height() < nBefore * 2 / 3);
+            for (const QWidget *pWidget : m_pWindow->findChildren<QWidget *>())
+                QCOMPARE(pWidget->fontInfo().pixelSize(), label.fontInfo().pixelSize());
+        }
+    }
+
     void aNewNativeWindowIsWatchedToo()
     {
         m_pWindow->show();
@@ -97,15 +117,6 @@ private slots:
         QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
         moveTo("144");
         QTRY_COMPARE(changed.count(), 1);
-    }
-
-    void coveringAScreenWithoutReservedSpaceLeavesTheLastLineFree()
-    {
-        const QRect whole = screen("96")->geometry();
-        m_pWindow->setGeometry(whole);
-        m_pWindow->show();
-        QTRY_COMPARE(m_pWindow->height(), whole.height() - 1);
-        QVERIFY(m_pWindow->isMaximized());
     }
 
     void raisingRestoresFromMinimizedToMaximized()

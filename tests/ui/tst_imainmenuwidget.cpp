@@ -282,6 +282,13 @@ private slots:
             pMaximize->click();
             QCOMPARE(m_pWindow->isMaximized(), !bMaximized);
         }
+        // The system may tell a state that the window had taken for itself before.
+        m_pWindow->overrideWindowState(Qt::WindowMaximized);
+        m_pTitleBar->updateMaximized(false);
+        QWindowStateChangeEvent late(Qt::WindowMaximized);
+        QApplication::sendEvent(m_pWindow.get(), &late);
+        QCOMPARE(pMaximize->toolTip(), "Restore Down");
+        m_pWindow->showNormal();
         QCOMPARE(unnamedControls(m_pTitleBar), QStringList());
         button("minizeButton")->click();
         QVERIFY(m_pWindow->isMinimized());
@@ -314,6 +321,33 @@ private slots:
             QCOMPARE(pButton->width(), pButton->height());
             QCOMPARE(pButton->height(), m_pMenuBar->actionGeometry(file()).height());
         }
+    }
+
+    void theWindowLivesOnWithoutItsTitleBar()
+    {
+        m_pWindow->setMenuWidget(nullptr);
+        QCoreApplication::sendPostedEvents(m_pTitleBar, QEvent::DeferredDelete);
+        m_pWindow->showNotification("text", KPNotificationBar::Info, {}, true);
+        m_pWindow->hideNotification();
+        m_pWindow->showMaximized();
+        QVERIFY(!m_pWindow->getNotificationBar() && !m_pWindow->isStyledFrameTitleBar(400, 5));
+    }
+
+    void aProjectMayBeDroppedOnTheRowsAboveTheDocuments()
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile("/missing.kelpa")});
+        BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
+        for (const QWidget *pRow :
+            {static_cast<QWidget *>(m_pTitleBar), static_cast<QWidget *>(m_pWindow->getFileToolbar())}) {
+            const QPoint point = pRow->mapTo(m_pWindow.get(), pRow->rect().center());
+            QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(m_pWindow->windowHandle(), &enter);
+            QVERIFY(enter.isAccepted());
+            QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(m_pWindow->windowHandle(), &drop);
+        }
+        QCOMPARE(boxes.boxes.size(), 2);
     }
 
     void windowMenuOffersWhatIsPossible()

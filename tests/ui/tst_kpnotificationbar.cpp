@@ -83,13 +83,18 @@ private slots:
 
     void iconFollowsTypeAndDisplay()
     {
-        const std::tuple<int, int, const char *> rows[] = {
-            {1, 96, "warning_16.png"}, {2, 96, "info_16.png"}, {1, 144, "warning_16_2x.png"}};
-        for (const auto &[nType, nDPI, pFile] : rows) {
-            m_pWindow->setScreen(screenOf(nDPI));
-            m_pBar->show("text", static_cast<KPNotificationBar::Type>(nType), {}, true);
-            QCOMPARE(m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
-                QPixmap(QString(":/core/images/") + pFile).toImage());
+        for (const char *pName : {"warning", "info"}) {
+            const bool bWarning = pName[0] == 'w';
+            m_pBar->show(
+                "text", bWarning ? KPNotificationBar::Warning : KPNotificationBar::Type(2), {}, true);
+            for (const int nDPI : {144, 96}) {
+                m_pWindow->setScreen(screenOf(nDPI));
+                emit m_pWindow->dpiChanged(nDPI * 100 / 96);
+                QCOMPARE(m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
+                    QPixmap(QString(":/core/images/%1_16%2.png").arg(pName, nDPI == 144 ? "_2x" : ""))
+                        .toImage());
+                QCOMPARE(closeBox()->iconSize().width(), nDPI == 144 ? 32 : 16);
+            }
         }
     }
 
@@ -119,14 +124,22 @@ private slots:
         QVERIFY(!m_pBar->isVisible());
     }
 
+    // The focus goes back to where it came from.
     void escapeClosesOnlyWhatMayBeClosed()
     {
+        QLineEdit other(m_pWindow.get());
+        QLineEdit before(m_pWindow.get());
+        other.show();
+        before.show();
+        before.setFocus();
         for (const bool bClosable : {false, true}) {
             m_pBar->show("text", KPNotificationBar::Info, "Go", bClosable);
             goButton()->setFocus();
+            closeBox()->setFocus();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             QCOMPARE(m_pBar->isVisible(), !bClosable);
         }
+        QCOMPARE(QApplication::focusWidget(), &before);
     }
 
     void longMessageLeavesTheWindowAlone()

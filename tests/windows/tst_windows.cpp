@@ -148,6 +148,14 @@ private slots:
             pPages->setCurrentRow(i);
             QTest::qWait(1);
             m_survey.look(pDialog, QString("preferences-%1").arg(i));
+            auto *pList = pDialog->findChild<QListWidget *>("horizontal");
+            if (!pList->isVisible())
+                continue;
+            pList->editItem(pList->item(4));
+            const auto *pDigits = pList->findChild<QLineEdit *>();
+            QVERIFY(pDigits->height() >= pDigits->fontMetrics().height());
+            QVERIFY(pDigits->width() > pDigits->fontMetrics().horizontalAdvance("100000"));
+            m_survey.look(pDialog, "preferences-edit");
         }
         pDialog->reject();
     }
@@ -325,6 +333,12 @@ private slots:
         QTest::qWait(1);
         QVERIFY(listOfProjects()->findChild<QListWidget *>()->count() > 0);
         m_survey.look(window(), "start");
+        window()->setVisibleWelcomeWidget(false);
+        const QWidget *pArea = window()->centralWidget();
+        const QImage image =
+            window()->grab(QRect(pArea->mapTo(window(), pArea->rect().center()), QSize(1, 1))).toImage();
+        QVERIFY(environment("KELPA_THEME", "Dark") == "Dark" ? image.pixelColor(0, 0).lightness() < 50
+                                                             : image.pixelColor(0, 0) == Qt::white);
     }
 
 private:

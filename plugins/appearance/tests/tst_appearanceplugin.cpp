@@ -66,11 +66,10 @@ private slots:
 
     void nothingIsDressedTwiceAtTheStart_data()
     {
-        QTest::addColumn<QString>("theme");
-        QTest::newRow("in the dark theme") << "Dark";
-        QTest::newRow("in the light theme") << "Light";
+        const auto row = columns<QString>("theme");
+        row("in the dark theme", "Dark");
+        row("in the light theme", "Light");
     }
-
     void nothingIsDressedTwiceAtTheStart()
     {
         QFETCH(QString, theme);
@@ -87,12 +86,10 @@ private slots:
 
     void densityIsFollowedInTheDarkThemeOnly_data()
     {
-        QTest::addColumn<QString>("theme");
-        QTest::addColumn<bool>("follows");
-        QTest::newRow("dark") << "Dark" << true;
-        QTest::newRow("light") << "Light" << false;
+        const auto row = columns<QString, bool>("theme", "follows");
+        row("dark", "Dark", true);
+        row("light", "Light", false);
     }
-
     void densityIsFollowedInTheDarkThemeOnly()
     {
         QFETCH(QString, theme);

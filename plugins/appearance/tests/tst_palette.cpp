@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <support/rows.h>
+
 #include <QColor>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLibrary>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
@@ -125,7 +128,6 @@ private slots:
     }
 
     void textAndControlsCanBeRead_data() { themes(); }
-
     void textAndControlsCanBeRead()
     {
         QFETCH(QString, theme);
@@ -171,8 +173,28 @@ private slots:
         QCOMPARE(faults, QStringList());
     }
 
-    void sheetsHaveNoColourOfTheirOwn_data() { sheets(); }
+    void theCloseCrossIsNotTooThin_data() { themes(); }
 
+    // Its strokes run across the pixels.
+    void theCloseCrossIsNotTooThin()
+    {
+        QFETCH(QString, theme);
+        QVERIFY(QLibrary(KELPA_APPEARANCE_PLUGIN).load());
+        const QImage cross(":/core/images/close_16.png");
+        QVERIFY(!cross.isNull());
+        for (const char *pBack : {"chrome", "hover", "danger"}) {
+            const QColor back(palette(theme)[pBack].toString());
+            QImage shown(cross.size(), QImage::Format_RGB32);
+            shown.fill(back);
+            QPainter(&shown).drawImage(0, 0, cross);
+            int nSeen = 0;
+            for (int i = 0; i < shown.width() * shown.height(); ++i)
+                nSeen += contrast(shown.pixelColor(i % shown.width(), i / shown.width()), back) >= s_fControl;
+            QVERIFY2(nSeen >= 16, qPrintable(QString("%1: %2").arg(pBack).arg(nSeen)));
+        }
+    }
+
+    void sheetsHaveNoColourOfTheirOwn_data() { sheets(); }
     void sheetsHaveNoColourOfTheirOwn()
     {
         QFETCH(QString, theme);
@@ -188,7 +210,6 @@ private slots:
     }
 
     void sizesFollowTheDensityOrTheFont_data() { sheets(); }
-
     void sizesFollowTheDensityOrTheFont()
     {
         QFETCH(QString, theme);
@@ -198,7 +219,6 @@ private slots:
     }
 
     void imagesOfTheSheetsAreThere_data() { sheets(); }
-
     void imagesOfTheSheetsAreThere()
     {
         QLibrary plugin(KELPA_APPEARANCE_PLUGIN);
@@ -211,21 +231,17 @@ private slots:
 private:
     static void themes()
     {
-        QTest::addColumn<QString>("theme");
-        QTest::newRow("dark") << "dark";
-        QTest::newRow("light") << "light";
+        const auto row = columns<QString>("theme");
+        row("dark", "dark");
+        row("light", "light");
     }
 
     static void sheets()
     {
-        QTest::addColumn<QString>("theme");
-        QTest::addColumn<QString>("file");
-        QTest::newRow("dark") << "dark"
-                              << "app_dark.qss";
-        QTest::newRow("platform part of dark") << "dark"
-                                               << "win_app_dark.qss";
-        QTest::newRow("light") << "light"
-                               << "app_light.qss";
+        const auto row = columns<QString, QString>("theme", "file");
+        row("dark", "dark", "app_dark.qss");
+        row("platform part of dark", "dark", "win_app_dark.qss");
+        row("light", "light", "app_light.qss");
     }
 
     static QString sheet()

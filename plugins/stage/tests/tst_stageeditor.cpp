@@ -105,6 +105,32 @@ private slots:
         QVERIFY(!document()->isModified());
     }
 
+    void tabsShowTheNameAsItIs_data()
+    {
+        const auto row = columns<QString>("name");
+        row("a sign for keys", "R&D");
+        row("the sign for the mark of a change", "a[*]b");
+        row("very long", QString(240, 'm'));
+    }
+    void tabsShowTheNameAsItIs()
+    {
+        QFETCH(QString, name);
+        StageEditor *pEditor = m_pProgram->open(qPrintable(name + ".kelpa"));
+        for (const char *pMark : {"", "*"}) {
+            const QString strTab = m_pProgram->tabs()->tabText(1);
+            if (name.size() < 100)
+                QCOMPARE(QString(strTab).replace("&&", "&").remove(QChar(0x2060)), name + pMark);
+            QVERIFY(strTab.startsWith(name.at(0)) && strTab.endsWith(name.back() + QString(pMark)));
+            pEditor->getView()->addElement({});
+        }
+        QVERIFY(m_pProgram->tabs()->tabRect(1).width() < m_pProgram->window->width() / 2);
+        QVERIFY(m_pProgram->tabs()->tabToolTip(1).endsWith(name + ".kelpa"));
+        const QPoint centre = pEditor->getView()->rect().center();
+        QHelpEvent help(QEvent::ToolTip, centre, pEditor->getView()->mapToGlobal(centre));
+        QApplication::sendEvent(pEditor->getView()->viewport(), &help);
+        QVERIFY(!QToolTip::isVisible());
+    }
+
     void keysWorkOnTheElements()
     {
         QTest::keyClick(m_pView, Qt::Key_Tab);

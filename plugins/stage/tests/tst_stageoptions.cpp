@@ -143,6 +143,55 @@ private slots:
         QVERIFY(!DocumentManager::isAutobackupEnabled());
     }
 
+    void whatIsBeingTypedCountsWhicheverKeyEndsIt_data()
+    {
+        const auto row = columns<bool, int>("ok", "value");
+        row("that of the default button", true, 1290);
+        row("none, the dialog is closed", false, 1280);
+    }
+    void whatIsBeingTypedCountsWhicheverKeyEndsIt()
+    {
+        m_pDialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pDialog));
+        show(2);
+        auto *pList = control<QListWidget>("horizontal");
+        pList->setCurrentRow(4);
+        pList->editItem(pList->currentItem());
+        auto *pEditor = pList->findChild<QSpinBox *>();
+        QVERIFY(pEditor);
+        QTest::keyClicks(pEditor, "1290");
+        QFETCH(bool, ok);
+        if (ok)
+            button(QDialogButtonBox::Ok)->click(); // as its key does, which leaves the focus where it is
+        else
+            m_pDialog->close();
+        QVERIFY(!m_pDialog->isVisible());
+        QTest::qWait(0);
+        QVERIFY(!m_pDialog->hasChanges());
+        m_pDialog->onOK();
+        m_pWindow->onPreferences();
+        show(2);
+        QTEST(pList->item(4)->data(Qt::EditRole).toInt(), "value");
+    }
+
+    void aListThatWasEmptiedStaysEmpty()
+    {
+        show(1);
+        control<QSpinBox>("backupInterval")->setValue(61);
+        button(QDialogButtonBox::Apply)->click();
+        show(2);
+        for (const char *pName : {"horizontal", "vertical"}) {
+            QCOMPARE(control<QListWidget>(pName)->count(), 5);
+            for (int i = 0; i < 5; ++i) {
+                control<QListWidget>(pName)->setCurrentRow(0);
+                pressIn(pName, "Remove");
+            }
+        }
+        button(QDialogButtonBox::Ok)->click();
+        m_pWindow->onPreferences();
+        QCOMPARE(control<QListWidget>("horizontal")->count() + control<QListWidget>("vertical")->count(), 0);
+    }
+
     void openProjectsFollowTheBackupPreference()
     {
         FakeDocument document;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The plug-in as the program loads it, from one start to the next.
+// The plug-in as the program loads it, from one start to the next, under a window manager that leaves the
+// whole screen to a maximised window.
 #include <support/coretest.h>
 
 #include <extensionsystem/iplugin.h>
@@ -34,20 +35,56 @@ private slots:
         QVERIFY(!MainWindow::IsFirstRun());
     }
 
-    void theWindowComesBackAsItWasLeft()
+    void theToolBarsComeBackAsTheyWereLeft()
     {
-        const QRect place(37, 41, 640, 480);
-        m_pWindow->showNormal();
-        m_pWindow->setGeometry(place);
         QToolBar *pBar = stageToolBar();
         m_pWindow->addToolBar(Qt::LeftToolBarArea, pBar);
         m_pWindow->getFileToolbar()->hide();
         ICore::saveSettings();
         start();
-        QVERIFY(!m_pWindow->isMaximized());
-        QCOMPARE(m_pWindow->geometry(), place);
         QCOMPARE(m_pWindow->toolBarArea(stageToolBar()), Qt::LeftToolBarArea);
         QVERIFY(m_pWindow->getFileToolbar()->isHidden());
+    }
+
+    void theWindowGetsItsPlaceBack_data()
+    {
+        const auto row = columns<bool>("byDrag");
+        row("at the button", false);
+        row("its size in a drag of the title row", true);
+    }
+    void theWindowGetsItsPlaceBack()
+    {
+        QFETCH(bool, byDrag);
+        PluginManager::settings()->setValue("Designer/Shown", true); // not the first start
+        start();
+        const QRect place(137, 141, 640, 480);
+        settle();
+        m_pWindow->setGeometry(place);
+        for (const bool bStartsAgain : {false, true}) {
+            maximizeButton()->click();
+            QTRY_COMPARE(m_pWindow->size(), m_pWindow->screen()->size() - QSize(0, 1));
+            settle();
+            QCOMPARE(maximizeButton()->toolTip(), "Restore Down");
+            if (bStartsAgain) {
+                ICore::saveSettings();
+                start();
+                settle();
+                QCOMPARE(m_pWindow->size(), m_pWindow->screen()->size() - QSize(0, 1));
+            }
+            if (byDrag)
+                dragTo(QPoint(700, 300));
+            else
+                maximizeButton()->click();
+            settle();
+            QCOMPARE(m_pWindow->size(), place.size());
+            QCOMPARE(m_pWindow->pos(), byDrag ? QPoint(380, 297) : place.topLeft());
+            QVERIFY(!m_pWindow->isMaximized());
+            QCOMPARE(maximizeButton()->toolTip(), "Maximize");
+            ICore::saveSettings();
+            start();
+            QTRY_COMPARE(m_pWindow->size(), place.size());
+            m_pWindow->move(place.topLeft());
+        }
     }
 
     void damagedValuesLeaveTheWindowUsable_data()
@@ -96,6 +133,26 @@ private:
     {
         m_pPlugin.reset();
         m_pWindow.reset();
+    }
+
+    [[nodiscard]] QAbstractButton *maximizeButton() const
+    {
+        return m_pWindow->findChild<QAbstractButton *>("maximizeButton");
+    }
+
+    // The window manager answers a resize of a maximised window several times, faster than any hand.
+    static void settle() { QTest::qWait(500); }
+
+    // By the title row, from the top of the screen.
+    static void dragTo(const QPoint &point)
+    {
+        QStringList arguments {"mousemove", "700", "3", "mousedown", "1"};
+        for (const QPoint &step : {QPoint(700, 20), QPoint(700, 150), point})
+            arguments += {"sleep", "0.1", "mousemove", QString::number(step.x()), QString::number(step.y())};
+        QProcess process;
+        process.start("xdotool", arguments + QStringList {"mouseup", "1"});
+        QTRY_COMPARE(process.state(), QProcess::NotRunning);
+        QCOMPARE(process.exitCode(), 0);
     }
 
     [[nodiscard]] QToolBar *stageToolBar() const
