@@ -33,8 +33,8 @@ public:
     static void clearIconCache();
 
     /// Modal boxes; a null parent means the main window. They return the button that was clicked, or Cancel
-    /// when the box was closed without one or died with its parent. `strInformative` stands in a second, lighter
-    /// text.
+    /// when the box was closed without one or died with its parent. `strInformative` stands in a second,
+    /// lighter text.
     static QMessageBox::StandardButton information(QWidget *pParent, const QString &strTitle,
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
         QMessageBox::StandardButton defaultButton = QMessageBox::Ok, const QString &strInformative = {});

@@ -201,8 +201,8 @@ QString Downloader::prepareFolder() const
     return {};
 }
 
-// Of a link only the link goes. Where the folder that holds the trash is missing, Qt 6.4 would take the current
-// folder for the trash.
+// Of a link only the link goes. Where the folder that holds the trash is missing, Qt 6.4 would take the
+// current folder for the trash.
 bool Downloader::makeWay() const
 {
     const QFileInfo old(filePath());
