@@ -67,15 +67,25 @@ function(kelpa_place_plugin name)
         RUNTIME DESTINATION ${KELPA_INSTALL_DIR}/plugins)
 endfunction()
 
+# Qt's test library without the two definitions that differ in each folder (none of our tests asks for its folder):
+# with them no test could use the compiled headers of another target.
+function(kelpa_find_qt_test)
+    find_package(Qt6 REQUIRED COMPONENTS Test)
+    set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+endfunction()
+
 # kelpa_add_test(<name> SOURCES ... LIBRARIES ... [RUN_SERIAL] [ON_DISPLAY]): one QtTest program, run off screen
 # in a folder of its own that stands for the home, settings and temporary folders. ON_DISPLAY: with the real
 # windows of the platform, on an X display of its own with a window manager.
 function(kelpa_add_test name)
     cmake_parse_arguments(ARG "RUN_SERIAL;ON_DISPLAY" "" "SOURCES;LIBRARIES" ${ARGN})
-    find_package(Qt6 REQUIRED COMPONENTS Test)
+    kelpa_find_qt_test()
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBRARIES})
+    if("coretest" IN_LIST ARG_LIBRARIES OR "updatetest" IN_LIST ARG_LIBRARIES)
+        target_precompile_headers(${name} REUSE_FROM coretest)
+    endif()
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests
         BUILD_RPATH "${KELPA_PROGRAM_DIR};${KELPA_PLUGIN_DIR}"

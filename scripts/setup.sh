@@ -61,6 +61,8 @@ kelpa_build()
 {
     local preset=$1 launcher=()
     shift
+    # What the compiler cache needs to know of precompiled headers.
+    export CCACHE_SLOPPINESS=pch_defines,time_macros
     command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     (cd "$kelpa_root" && cmake --preset "$preset" "${launcher[@]}" \
         && cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"}) >&2
