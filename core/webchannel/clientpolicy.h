@@ -34,6 +34,11 @@ constexpr int WarningsPerSecond = 20;
 constexpr int HandshakeTimeoutMs = 5000;
 constexpr int PendingConnections = 30;
 
+/// Clients and those that want to be, together. Each may show a dialog within the dialog of another, and
+/// takes a handle of the system, of which a program has 1024. Further ones wait.
+constexpr int Connections = 200;
+constexpr int ConnectionsCheckMs = 200;
+
 /// What a finished handshake tells of its client.
 struct Handshake
 {

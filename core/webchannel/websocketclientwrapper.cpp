@@ -6,6 +6,8 @@
 #include "websockettransport.h"
 
 #include <QNetworkRequest>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QWebSocket>
 #include <QWebSocketServer>
 
@@ -33,13 +35,18 @@ const char *reasonOf(ClientPolicy::Verdict verdict)
     return verdict == ClientPolicy::Verdict::RefuseHost ? "foreign host" : "foreign origin without the key";
 }
 
-// Nothing the client sends is read any more. Its text is quoted in the log, the URL with the key is not.
-void refuse(QWebSocket *pSocket, const ClientPolicy::Handshake &handshake, ClientPolicy::Verdict verdict)
+// A client's text is quoted, the URL with the key is not.
+void logRefusal(const ClientPolicy::Handshake &handshake, ClientPolicy::Verdict verdict)
 {
     qCWarning(lcWebChannel) << "Refused a web channel client:" << reasonOf(verdict)
                             << ClientPolicy::forLog(QString::fromLatin1(handshake.host))
                             << ClientPolicy::forLog(
                                    QString::fromLatin1(handshake.origin.value_or(QByteArray())));
+}
+
+// Nothing the client sends is read any more.
+void refuse(QWebSocket *pSocket)
+{
     pSocket->close(QWebSocketProtocol::CloseCodePolicyViolated);
     pSocket->deleteLater();
 }
@@ -54,6 +61,23 @@ WebSocketClientWrapper::WebSocketClientWrapper(QWebSocketServer *server, QObject
     server->setHandshakeTimeout(ClientPolicy::HandshakeTimeoutMs);
     server->setMaxPendingConnections(ClientPolicy::PendingConnections);
     connect(server, &QWebSocketServer::newConnection, this, &WebSocketClientWrapper::handleNewConnection);
+    m_full.setSingleShot(true);
+    connect(&m_full, &QTimer::timeout, this, &WebSocketClientWrapper::boundConnections);
+    // Before its handshake only the server within the server knows of a connection.
+    if (auto *pListener = server->findChild<QTcpServer *>())
+        connect(pListener, &QTcpServer::newConnection, this, &WebSocketClientWrapper::boundConnections);
+}
+
+// While the server does not accept, connections wait in the system. Without this Qt's server would go on
+// asking for one at the limit of handles, and never rest.
+void WebSocketClientWrapper::boundConnections()
+{
+    if (m_server->findChildren<QTcpSocket *>().size() < ClientPolicy::Connections) {
+        m_server->resumeAccepting();
+        return;
+    }
+    m_server->pauseAccepting();
+    m_full.start(ClientPolicy::ConnectionsCheckMs);
 }
 
 QString WebSocketClientWrapper::getKey() const
@@ -70,7 +94,9 @@ void WebSocketClientWrapper::handleNewConnection()
     const ClientPolicy::Handshake handshake = handshakeOf(*pSocket);
     const ClientPolicy::Verdict verdict = ClientPolicy::judge(handshake, m_server->serverPort(), m_key);
     if (verdict != ClientPolicy::Verdict::Accept) {
-        refuse(pSocket, handshake, verdict);
+        if (m_refusals.mayWarn())
+            logRefusal(handshake, verdict);
+        refuse(pSocket);
         return;
     }
     const bool bLasting = ClientLimits::apply(*m_server, pSocket);

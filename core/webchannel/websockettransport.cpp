@@ -49,7 +49,6 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket, Qt::ConnectionType de
 
 WebSocketTransport::~WebSocketTransport()
 {
-    reportUnlogged();
     if (!m_bInSocket)
         m_socket->deleteLater();
 }
@@ -159,7 +158,7 @@ void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
         emit messageReceived(object, this);
         return;
     }
-    if (!mayWarn())
+    if (!m_warnings.mayWarn())
         return;
     const QString strText = ClientPolicy::forLog(strMessage);
     if (error.error != QJsonParseError::NoError)
@@ -169,21 +168,4 @@ void WebSocketTransport::handle(const QString &strMessage, const Parsed &parsed)
         qCWarning(lcWebChannel) << "Received JSON message that is not an object: " << strText;
     else
         qCWarning(lcWebChannel) << "Received JSON object that is no message of the channel:" << strText;
-}
-
-bool WebSocketTransport::mayWarn()
-{
-    if (!m_warningPeriod.isValid() || m_warningPeriod.hasExpired(1000)) {
-        reportUnlogged();
-        m_warningPeriod.start();
-        m_nWarnings = 0;
-    }
-    return ++m_nWarnings <= ClientPolicy::WarningsPerSecond;
-}
-
-void WebSocketTransport::reportUnlogged()
-{
-    if (m_nWarnings > ClientPolicy::WarningsPerSecond)
-        qCWarning(lcWebChannel, "%d more malformed messages of this client were not logged.",
-            m_nWarnings - ClientPolicy::WarningsPerSecond);
 }

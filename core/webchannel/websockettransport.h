@@ -2,6 +2,7 @@
 #pragma once
 
 #include <core_global.h>
+#include <webchannel/warninglimit.h>
 
 #include <QElapsedTimer>
 #include <QFutureWatcher>
@@ -53,8 +54,6 @@ private:
     void workOffInSocket(const QString &strMessage);
     void setPaused(bool bPaused);
     void onDisconnected();
-    [[nodiscard]] bool mayWarn();
-    void reportUnlogged();
 
     QWebSocket *m_socket;
     QQueue<QString> m_waiting; ///< the first one is being worked off
@@ -62,7 +61,6 @@ private:
     bool m_bInSocket = false; ///< in the signal of the socket
     QFutureWatcher<Parsed> m_parsing;
     QElapsedTimer m_unread; ///< since the client has left too much unread and taken in nothing
-    QElapsedTimer m_warningPeriod;
-    int m_nWarnings = 0;
+    WarningLimit m_warnings {"%d more malformed messages of this client were not logged."};
     bool m_bClientGone = false;
 };

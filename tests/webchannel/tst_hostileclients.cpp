@@ -12,7 +12,9 @@
 
 #include <ctime>
 #include <functional>
+#include <memory>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -388,6 +390,33 @@ private slots:
             16, true, 600);
         row("a call to an object with a name of 16 MB",
             frame(call("add").replace("counter", QByteArray(16000000, 'x'))), 16, true, 300);
+    }
+
+    // Each client takes a handle of the system and may show a dialog within another's; each refusal is
+    // logged.
+    void aCrowdIsBounded()
+    {
+        const ChannelLog log;
+        {
+            ChannelServer program;
+            std::vector<std::unique_ptr<RawClient>> crowd;
+            const auto come = [&](int nClients, const QByteArray &host) {
+                for (int i = 0; i < nClients; ++i) {
+                    crowd.push_back(std::make_unique<RawClient>(program));
+                    crowd.back()->send(handshake(host));
+                    QCoreApplication::processEvents();
+                }
+            };
+            come(300, "127.0.0.1:PORT");
+            QTRY_VERIFY(program.clients.size() >= ClientPolicy::Connections);
+            QVERIFY(program.server.findChildren<QTcpSocket *>().size() < 300);
+            crowd.clear();
+            come(100, "evil.example");
+            QTRY_VERIFY(
+                std::all_of(crowd.begin(), crowd.end(), [](auto &pClient) { return pClient->isGone(); }));
+        }
+        QVERIFY(log.lines().size() > ClientPolicy::WarningsPerSecond && log.lines().size() < 100);
+        QVERIFY(log.lines().constLast().endsWith("refused web channel clients were not logged."));
     }
 
     // What costs too much does so each time; a machine that is busy otherwise does not.
