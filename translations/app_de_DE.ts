@@ -1063,12 +1063,12 @@ Eine Bühne von %2 mal %3 Pixeln mit %4 Bildern pro Sekunde ist nicht möglich.<
 <context>
     <name>StageToolBar</name>
     <message>
-        <source>Add &amp;Rectangle</source>
-        <translation>&amp;Rechteck hinzufügen</translation>
+        <source>Add Re&amp;ctangle</source>
+        <translation>Rec&amp;hteck hinzufügen</translation>
     </message>
     <message>
         <source>Add &amp;Ellipse</source>
-        <translation>&amp;Ellipse hinzufügen</translation>
+        <translation>Elli&amp;pse hinzufügen</translation>
     </message>
     <message>
         <source>Add &amp;Text</source>

@@ -1063,8 +1063,8 @@ No es posible un escenario de %2 por %3 píxeles con %4 fotogramas por segundo.<
 <context>
     <name>StageToolBar</name>
     <message>
-        <source>Add &amp;Rectangle</source>
-        <translation>Añadir &amp;rectángulo</translation>
+        <source>Add Re&amp;ctangle</source>
+        <translation>Añadir re&amp;ctángulo</translation>
     </message>
     <message>
         <source>Add &amp;Ellipse</source>

@@ -1063,8 +1063,8 @@ Une scène de %2 sur %3 pixels à %4 images par seconde est impossible.</transla
 <context>
     <name>StageToolBar</name>
     <message>
-        <source>Add &amp;Rectangle</source>
-        <translation>Ajouter un &amp;rectangle</translation>
+        <source>Add Re&amp;ctangle</source>
+        <translation>Ajouter un re&amp;ctangle</translation>
     </message>
     <message>
         <source>Add &amp;Ellipse</source>

@@ -1063,8 +1063,8 @@ Um palco de %2 por %3 pixels com %4 quadros por segundo não é possível.</tran
 <context>
     <name>StageToolBar</name>
     <message>
-        <source>Add &amp;Rectangle</source>
-        <translation>Adicionar &amp;retângulo</translation>
+        <source>Add Re&amp;ctangle</source>
+        <translation>Adicionar retân&amp;gulo</translation>
     </message>
     <message>
         <source>Add &amp;Ellipse</source>

@@ -1063,7 +1063,7 @@ Không thể có sân khấu %2 x %3 pixel với %4 khung hình mỗi giây.</tr
 <context>
     <name>StageToolBar</name>
     <message>
-        <source>Add &amp;Rectangle</source>
+        <source>Add Re&amp;ctangle</source>
         <translation>Thêm hình chữ &amp;nhật</translation>
     </message>
     <message>

@@ -1063,8 +1063,8 @@ A stage of %2 by %3 pixels with %4 frames per second is not possible.</source>
 <context>
     <name>StageToolBar</name>
     <message>
-        <source>Add &amp;Rectangle</source>
-        <translation>添加矩形(&amp;R)</translation>
+        <source>Add Re&amp;ctangle</source>
+        <translation>添加矩形(&amp;C)</translation>
     </message>
     <message>
         <source>Add &amp;Ellipse</source>

@@ -38,7 +38,7 @@ struct ElementAction
     const char *pFill;
 };
 constexpr std::array<ElementAction, 4> elementActions = {{
-    {"Edit.Add_Rectangle", QT_TRANSLATE_NOOP("StageToolBar", "Add &Rectangle"), "rectangle",
+    {"Edit.Add_Rectangle", QT_TRANSLATE_NOOP("StageToolBar", "Add Re&ctangle"), "rectangle",
         StageElement::Type::Rectangle, 200, 120, "#5b8def"},
     {"Edit.Add_Ellipse", QT_TRANSLATE_NOOP("StageToolBar", "Add &Ellipse"), "ellipse",
         StageElement::Type::Ellipse, 160, 160, "#f2a65a"},
