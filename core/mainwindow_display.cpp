@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
@@ -63,10 +64,12 @@ bool fillsScreen(const QWidget *pWindow, const QRect &rect)
 // not stay.
 void updateFonts()
 {
-    const auto widgets = QApplication::allWidgets();
-    for (QWidget *pWidget : widgets) {
+    const auto all = QApplication::allWidgets();
+    const QList<QPointer<QWidget>> widgets(all.cbegin(), all.cend()); // one may go with another's event
+    for (const auto &pWidget : widgets) {
         QEvent event(QEvent::ScreenChangeInternal);
-        QCoreApplication::sendEvent(pWidget, &event);
+        if (pWidget)
+            QCoreApplication::sendEvent(pWidget, &event);
     }
 }
 

@@ -90,7 +90,7 @@ void KPNotificationBar::updateIcons()
 
 void KPNotificationBar::watchFocus(QWidget *pOld, QWidget *pNow)
 {
-    if (isAncestorOf(pNow) && !isAncestorOf(pOld))
+    if (pOld && isAncestorOf(pNow) && !isAncestorOf(pOld))
         m_pFocusBefore = pOld;
 }
 
