@@ -63,9 +63,11 @@ void CorePlugin::watchProgram()
     const PluginManager *pManager = PluginManager::instance();
     connect(pManager, &PluginManager::settingsFailed, this, &CorePlugin::tellFaults);
     connect(pManager, &PluginManager::exceptionCaught, this, &CorePlugin::tellException);
-    connect(pManager, &PluginManager::endRequested, this, [] {
+    connect(pManager, &PluginManager::endRequested, this, [this] {
         saveBackups();
-        if (!QApplication::activeModalWidget()) // else the user is being asked something already
+        // The main window decides alone: a download's own window gives in once it is closed. Nobody is asked
+        // while something is being asked already.
+        if (!QApplication::activeModalWidget() && m_pMainWindow->close())
             QCoreApplication::quit();
     });
     connect(qApp, &QGuiApplication::commitDataRequest, this, &CorePlugin::endSession);

@@ -151,13 +151,13 @@ QString ContextAction::stringWithAppendedShortcut(const QString &strText) const
 
 void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable)
 {
-    const QPointer<ProxyAction> pProxy = m_pProxy;
+    const QPointer<ContextAction> pThis = this; // a listener may drop the command
     const bool bFirst = m_overrides.isEmpty();
     if (!overrideOf(pContext))
         m_overrides.append({pContext, pAction, bScriptable});
-    if (bFirst && pProxy)
-        pProxy->initialize(pAction);
-    if (pProxy)
+    if (bFirst && m_pProxy)
+        m_pProxy->initialize(pAction);
+    if (pThis && m_pProxy)
         setCurrentContext(pContext);
 }
 
