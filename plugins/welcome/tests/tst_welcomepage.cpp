@@ -365,8 +365,12 @@ private slots:
         js("addEventListener('wheel', e => { document.title = e.defaultPrevented ? 'same size' : 'zoom'; })");
         QWheelEvent wheel(QPointF(300, 300), view()->mapToGlobal(QPointF(300, 300)), {}, {0, 120}, {},
             Qt::ControlModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(view()->focusProxy(), &wheel);
-        QTRY_COMPARE(view()->title(), "same size");
+        const auto titleAfterWheel = [&] {
+            QCoreApplication::sendEvent(
+                view()->focusProxy(), &wheel); // one is lost while the page lays itself out
+            return view()->title();
+        };
+        QTRY_COMPARE(titleAfterWheel(), "same size");
         QTRY_COMPARE(qRound(js("window.innerWidth").toInt() * 1.5 / 10), qRound(view()->width() / 10.0));
         QCOMPARE(names(), QStringList({"a b", "b", "c"}));
     }
