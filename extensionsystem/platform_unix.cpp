@@ -7,6 +7,7 @@
 #include <QLocalSocket>
 #include <QSocketNotifier>
 
+#include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <ctime>
@@ -67,8 +68,10 @@ int s_termination[2] = {-1, -1}; // a pipe: a signal handler may do little more 
 
 void noteTermination(int)
 {
+    const int nError = errno; // of the call that the signal interrupts
     const char cAny = 0;
     Q_UNUSED(write(s_termination[1], &cAny, 1))
+    errno = nError;
 }
 
 } // namespace
