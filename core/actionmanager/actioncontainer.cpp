@@ -28,22 +28,13 @@ QAction *shownBy(const ActionContainer *pContainer)
 
 } // namespace
 
-ActionContainer::ActionContainer(const QString &strId)
-{
-    Q_UNUSED(strId)
-}
+ActionContainer::ActionContainer(const QString &) { }
 
 ActionContainer::~ActionContainer() = default;
 
-void ActionContainer::setMenu(QMenu *pMenu)
-{
-    Q_UNUSED(pMenu)
-}
+void ActionContainer::setMenu(QMenu *) { }
 
-void ActionContainer::setMenuBar(QMenuBar *pMenuBar)
-{
-    Q_UNUSED(pMenuBar)
-}
+void ActionContainer::setMenuBar(QMenuBar *) { }
 
 QMenu *ActionContainer::getMenu() const
 {
@@ -55,11 +46,7 @@ QMenuBar *ActionContainer::getMenuBar() const
     return nullptr;
 }
 
-void ActionContainer::insertAction(QAction *pBefore, QAction *pAction)
-{
-    Q_UNUSED(pBefore)
-    Q_UNUSED(pAction)
-}
+void ActionContainer::insertAction(QAction *, QAction *) { }
 
 void ActionContainer::insertAction(ContextAction *pAction, ContextAction *pBefore)
 {
@@ -71,11 +58,7 @@ void ActionContainer::insertAction(ContextAction *pAction, ContextAction *pBefor
     insertAction(shownBy(pBefore), shownBy(pAction));
 }
 
-void ActionContainer::insertMenu(QAction *pBefore, QMenu *pMenu)
-{
-    Q_UNUSED(pBefore)
-    Q_UNUSED(pMenu)
-}
+void ActionContainer::insertMenu(QAction *, QMenu *) { }
 
 void ActionContainer::insertMenu(ActionContainer *pMenu, ActionContainer *pBefore)
 {
@@ -120,15 +103,9 @@ ContextAction *ActionContainer::insertSeparatorBefore(QAction *pBefore, QAction 
     return pCommand;
 }
 
-void ActionContainer::removeMenu(QMenu *pMenu)
-{
-    Q_UNUSED(pMenu)
-}
+void ActionContainer::removeMenu(QMenu *) { }
 
-void ActionContainer::removeAction(QAction *pAction)
-{
-    Q_UNUSED(pAction)
-}
+void ActionContainer::removeAction(QAction *) { }
 
 void ActionContainer::clear()
 {

@@ -76,9 +76,8 @@ ContextAction *ActionManager::registerAction(
     return pProxy ? static_cast<ContextAction *>(pProxy->parent()) : nullptr;
 }
 
-void ActionManager::unregisterAction(QAction *pAction, const QString &strId, const QString &strContext)
+void ActionManager::unregisterAction(QAction *pAction, const QString &strId, const QString &)
 {
-    Q_UNUSED(strContext)
     ContextAction *pCommand = getAction(strId);
     if (!pAction || !pCommand)
         return;

@@ -53,7 +53,7 @@ public:
     QMap<QString, ActionContainer *> m_containers;
     QWidget *m_pCurrentContext = nullptr;
     QSettings *m_pSettings = nullptr;
-    quint64 m_nKeyChanges = 0;
+    quint64 m_nChanges = 0; // of shortcuts, and new commands
 
 private slots:
     void containerDestroyed();

@@ -75,17 +75,12 @@ QPointer<ProxyAction> ActionManagerPrivate::addAction(
     const auto it = m_actions.lowerBound(strId);
     const bool bNew = it == m_actions.end() || it.key() != strId;
     ContextAction *pCommand = bNew ? createCommand(strId, it) : *it;
-    // A command with one action, and that for all contexts, is in line whatever the context.
-    const bool bInLine = bNew && pContext == pWindow;
     if (pContext != pWindow)
         m_idsOf[pContext].insert(strId);
     QPointer<ProxyAction> pProxy = pCommand->m_pProxy;
-    pCommand->m_bOutOfLine = pCommand->m_bOutOfLine || bInLine;
     pCommand->addOverrideAction(pAction, pContext, bScriptable);
     if (!bNew || !pProxy)
         return pProxy;
-    if (bInLine)
-        pCommand->m_bOutOfLine = false;
     const QKeySequence keys = storedShortcut(strId);
     if (!keys.isEmpty())
         pCommand->setKeySequence(keys);
@@ -202,10 +197,8 @@ void ActionManagerPrivate::setContext(QWidget *pContext)
     for (auto it = m_outOfLine.begin(); it != m_outOfLine.end(); it = m_outOfLine.upper_bound(strLast)) {
         strLast = *it;
         m_outOfLine.erase(it);
-        if (ContextAction *pCommand = m_actions.value(strLast)) {
-            pCommand->m_bOutOfLine = false;
+        if (ContextAction *pCommand = m_actions.value(strLast))
             pCommand->setCurrentContext(m_pCurrentContext);
-        }
     }
 }
 
@@ -225,8 +218,8 @@ bool ActionManagerPrivate::triggerFirst(const QKeySequence &keys) const
     });
     if (rivals.size() < 2)
         return false;
-    std::stable_sort(rivals.begin(), rivals.end(),
-        [](const auto *a, const auto *b) { return a->m_nKeysSince < b->m_nKeysSince; });
+    std::stable_sort(
+        rivals.begin(), rivals.end(), [](const auto *a, const auto *b) { return a->hadKeysBefore(*b); });
     QStringList ids;
     for (const ContextAction *pCommand : std::as_const(rivals))
         ids.append(pCommand->getId());

@@ -11,7 +11,6 @@
 #include <QShortcutEvent>
 
 #include <algorithm>
-#include <utility>
 
 /// A virtual function in place of a signal: registering thousands of commands shows the difference.
 class ContextAction::Proxy : public ProxyAction
@@ -24,7 +23,7 @@ public:
     }
 
 protected:
-    void liveActionChanged() override { m_pCommand->putOutOfLine(); }
+    void liveActionChanged() override { m_pCommand->m_pManager->putOutOfLine(m_pCommand->m_strId); }
 
     bool event(QEvent *pEvent) override
     {
@@ -42,6 +41,7 @@ private:
 ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManager)
     : m_strId(strId)
     , m_pProxy(new Proxy(this))
+    , m_nOrder(++pManager->m_nChanges)
     , m_pManager(pManager)
 {
     m_pProxy->setShortcutVisibleInToolTip(true);
@@ -55,12 +55,6 @@ ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManage
 ContextAction::~ContextAction()
 {
     delete m_pProxy;
-}
-
-void ContextAction::putOutOfLine()
-{
-    if (!std::exchange(m_bOutOfLine, true))
-        m_pManager->putOutOfLine(m_strId);
 }
 
 QAction *ContextAction::getAction() const
@@ -121,31 +115,22 @@ void ContextAction::setCurrentContext(QWidget *pContext)
         updateActiveState();
 }
 
-bool ContextAction::hasAttribute(ActionAttribute attribute) const
+bool ContextAction::hasAttribute(ActionAttribute) const
 {
-    Q_UNUSED(attribute)
     return true;
 }
 
-void ContextAction::setAttribute(ActionAttribute attribute)
-{
-    Q_UNUSED(attribute)
-}
+void ContextAction::setAttribute(ActionAttribute) { }
 
-void ContextAction::removeAttribute(ActionAttribute attribute)
-{
-    Q_UNUSED(attribute)
-}
+void ContextAction::removeAttribute(ActionAttribute) { }
 
-bool ContextAction::isScriptable(const QString &strContext) const
+bool ContextAction::isScriptable(const QString &) const
 {
-    Q_UNUSED(strContext)
     return true;
 }
 
-QString ContextAction::stringWithAppendedShortcut(const QString &strText) const
+QString ContextAction::stringWithAppendedShortcut(const QString &) const
 {
-    Q_UNUSED(strText)
     return {};
 }
 
@@ -176,6 +161,15 @@ void ContextAction::setActive(bool bActive)
     emit activeStateChanged();
 }
 
+// Commands have their defaults from the start, also after a change that was taken back.
+bool ContextAction::hadKeysBefore(const ContextAction &other) const
+{
+    const auto since = [](const ContextAction &command) {
+        return command.m_lastKeys == command.m_defaultKeySequence ? command.m_nOrder : command.m_nKeysSince;
+    };
+    return since(*this) < since(other);
+}
+
 // The proxy's shortcut is looked at too, as it may be set without the command.
 void ContextAction::updateActiveState()
 {
@@ -183,7 +177,7 @@ void ContextAction::updateActiveState()
         return;
     if (const QKeySequence keys = m_pProxy->shortcut(); keys != m_lastKeys) {
         m_lastKeys = keys;
-        m_nKeysSince = ++m_pManager->m_nKeyChanges;
+        m_nKeysSince = ++m_pManager->m_nChanges;
     }
     setActive(m_pProxy->isEnabled() && m_pProxy->isVisible() && !m_pProxy->isSeparator());
 }

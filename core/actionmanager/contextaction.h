@@ -89,7 +89,7 @@ private:
     };
 
     ContextAction(const QString &strId, ActionManagerPrivate *pManager);
-    void putOutOfLine();
+    [[nodiscard]] bool hadKeysBefore(const ContextAction &other) const;
     [[nodiscard]] const Override *overrideOf(const QWidget *pContext) const;
     void addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable);
     void removeOverrideAction(QAction *pAction);
@@ -104,11 +104,9 @@ private:
     /// One for each context widget. There are few, and most commands have one.
     QList<Override> m_overrides;
     bool m_bActive = false;
-    /// The order in which commands got the shortcuts that they have.
+    /// The order in which commands came, and in which those with shortcuts that users chose got them.
+    quint64 m_nOrder;
     QKeySequence m_lastKeys;
     quint64 m_nKeysSince = 0;
-
-    /// The manager knows that the live action need not be the one that the current context asks for.
-    bool m_bOutOfLine = false;
     ActionManagerPrivate *m_pManager;
 };

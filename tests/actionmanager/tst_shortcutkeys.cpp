@@ -53,11 +53,20 @@ private slots:
             press("Ctrl+G");
             QTRY_COMPARE(first.nFired, i);
         }
-        first.pCommand->setKeySequence({});
-        first.pCommand->setKeySequence(keys("Ctrl+G"));
+        const auto change = [&first] {
+            first.pCommand->setKeySequence({});
+            first.pCommand->setKeySequence(keys("Ctrl+G"));
+        };
+        change();
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("of Edit.A_Later, Edit.First;"));
         press("Ctrl+G");
         QTRY_COMPARE(later.nFired, 1);
+        // A default that comes back is as old as its command.
+        first.pCommand->setDefaultKeySequence(keys("Ctrl+G"));
+        change();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("of Edit.First, Edit.A_Later;"));
+        press("Ctrl+G");
+        QTRY_COMPARE(first.nFired, 3);
     }
 
     void aTextFieldKeepsItsEditingKeys()
