@@ -83,16 +83,14 @@ void KPStyledFrameHelper::Private::setUp()
     bSetUp = true;
 }
 
-bool KPStyledFrameHelper::Private::handleMessage(void *pMessage, qintptr *pResult)
+bool KPStyledFrameHelper::Private::handleMessage(void *, qintptr *)
 {
-    Q_UNUSED(pMessage)
-    Q_UNUSED(pResult)
     return false;
 }
 
 bool KPStyledFrameHelper::Private::Native::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
-    if (!pWatched->isWindowType() || pWatched != d.pWidget->windowHandle())
+    if (pWatched != d.pWidget->windowHandle())
         return false;
     switch (pEvent->type()) {
     case QEvent::MouseButtonPress:
