@@ -5,9 +5,8 @@
 #include "ui/webview.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QLibrary>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
@@ -64,53 +63,44 @@ void shareContexts()
     });
 }
 
-QString modulePath()
-{
-    const QStringList folders = QCoreApplication::libraryPaths();
-    const QString strFile = QLatin1String("web/webview");
-    for (const QString &strFolder : folders) {
-        const QDir dir(strFolder + QLatin1String("/web"));
-        const auto files = dir.entryInfoList({QStringLiteral("*webview*")}, QDir::Files);
-        for (const QFileInfo &file : files) {
-            if (QLibrary::isLibrary(file.fileName()))
-                return file.absoluteFilePath();
-        }
-    }
-    return strFile;
-}
-
-#ifdef Q_OS_WIN
+#if defined(Q_OS_WIN) && defined(QT_DEBUG)
+const QString s_helper = QStringLiteral("/QtWebEngineProcessd.exe");
+#elif defined(Q_OS_WIN)
 const QString s_helper = QStringLiteral("/QtWebEngineProcess.exe");
 #else
 const QString s_helper = QStringLiteral("/QtWebEngineProcess");
 #endif
 const QString s_data = QStringLiteral("/qtwebengine_resources.pak");
 
-// The engine looks only where the environment tells it to, if that does.
-QStringList placesOf(const char *pVariable, const QString &strInNamed, const QStringList &places)
+// The places where a part is not, if it is nowhere. The engine looks only where the environment tells it to,
+// if that does.
+QString missing(
+    const char *pVariable, const QString &strInNamed, QStringList places, bool (QFileInfo::*isUsable)() const)
 {
-    const QString strNamed = qEnvironmentVariable(pVariable);
-    return strNamed.isEmpty() ? places : QStringList(strNamed + strInNamed);
+    if (const QString strNamed = qEnvironmentVariable(pVariable); !strNamed.isEmpty())
+        places = {strNamed + strInNamed};
+    const bool bFound = std::any_of(places.cbegin(), places.cend(), [&](const QString &strFile) {
+        const QFileInfo file(strFile);
+        return file.isFile() && (file.*isUsable)();
+    });
+    return bFound ? QString() : places.join(QLatin1String(", "));
 }
 
-// What the engine would end the whole program for, with the places where it is not. In the bundles of macOS
-// it lies elsewhere.
+// Of what the engine would end the whole program for. In the bundles of macOS it lies elsewhere.
 QString missingPart()
 {
-#ifndef Q_OS_MACOS
-    const QString strProgram = QCoreApplication::applicationDirPath();
-    for (const QStringList &places :
-        {placesOf("QTWEBENGINEPROCESS_PATH", {},
-             {QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + s_helper, strProgram + s_helper}),
-            placesOf("QTWEBENGINE_RESOURCES_PATH", s_data,
-                {QLibraryInfo::path(QLibraryInfo::DataPath) + QLatin1String("/resources") + s_data,
-                    strProgram + s_data})}) {
-        const auto isThere = [](const QString &strFile) { return QFile::exists(strFile); };
-        if (std::none_of(places.begin(), places.end(), isThere))
-            return places.join(QLatin1String(", "));
-    }
-#endif
+#ifdef Q_OS_MACOS
     return {};
+#else
+    const QString strProgram = QCoreApplication::applicationDirPath();
+    const QString strHelpers = QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath);
+    const QString strData = QLibraryInfo::path(QLibraryInfo::DataPath) + QLatin1String("/resources");
+    const QString strMissing = missing("QTWEBENGINEPROCESS_PATH", {},
+        {strHelpers + s_helper, strProgram + s_helper}, &QFileInfo::isExecutable);
+    return !strMissing.isEmpty() ? strMissing
+                                 : missing("QTWEBENGINE_RESOURCES_PATH", s_data,
+                                     {strData + s_data, strProgram + s_data}, &QFileInfo::isReadable);
+#endif
 }
 
 WebViewFactory *loadModule()
@@ -121,7 +111,7 @@ WebViewFactory *loadModule()
     }
     allowRoot();
     shareContexts();
-    QPluginLoader loader(modulePath());
+    QPluginLoader loader(QStringLiteral("web/webview"));
     auto *pFactory = qobject_cast<WebViewFactory *>(loader.instance());
     if (!pFactory)
         qCWarning(lcWeb, "Web pages cannot be shown: %s", qUtf8Printable(loader.errorString()));

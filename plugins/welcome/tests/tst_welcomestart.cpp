@@ -122,11 +122,11 @@ private slots:
     void programLivesOnWithoutPartsOfTheEngine()
     {
         for (const char *pVariable : {"QTWEBENGINEPROCESS_PATH", "QTWEBENGINE_RESOURCES_PATH"}) {
-            qputenv(pVariable, "/nonexistent");
+            qputenv(pVariable, "/"); // where something is, but no such file
             Program program({}, {});
             qunsetenv(pVariable);
             QVERIFY2(program.says("projects are listed without it"), program.log().constData());
-            QVERIFY2(program.log().contains("/nonexistent"), program.log().constData());
+            QVERIFY2(program.log().contains("there is no /"), program.log().constData());
             QVERIFY(!program.hasEngine());
         }
     }
