@@ -269,17 +269,25 @@ bool StageDocument::saveBackup()
     const QString strReason = StageWriter::writeFile(m_pModel->project(), strFile);
     if (!strReason.isEmpty()) {
         qCWarning(lcStage, "%s: no backup: %s", qUtf8Printable(strFile), qUtf8Printable(strReason));
-        if (MainWindow *pMainWindow = m_bBackupFailed ? nullptr : ICore::getMainWindow())
-            pMainWindow->showNotification(
-                tr("No backup of %1: %2").arg(QDir::toNativeSeparators(getFileName()), strReason),
-                KPNotificationBar::Warning, QString(), true);
-        m_bBackupFailed = true;
+        warnOfBackup(tr("No backup of %1: %2").arg(QDir::toNativeSeparators(getFileName()), strReason));
         return false;
     }
-    m_bBackupFailed = false;
+    warnOfBackup({});
     m_strBackup = strFile;
     m_nBackupRevision = m_nRevision;
     return true;
+}
+
+// Once, and until there is a backup or nothing to back up.
+void StageDocument::warnOfBackup(const QString &strText)
+{
+    MainWindow *pMainWindow = ICore::getMainWindow();
+    const KPNotificationBar *pBar = pMainWindow ? pMainWindow->getNotificationBar() : nullptr;
+    const QString strBefore = std::exchange(m_strBackupWarning, strText);
+    if (pBar && !strText.isEmpty() && strBefore.isEmpty())
+        pMainWindow->showNotification(strText, KPNotificationBar::Warning, QString(), true);
+    else if (pBar && strText.isEmpty() && !strBefore.isEmpty() && pBar->text() == strBefore)
+        pMainWindow->hideNotification();
 }
 
 // Not that of a file which is there: it may be all that an earlier run left of somebody's work.
@@ -301,4 +309,5 @@ void StageDocument::removeBackup()
     if (!m_strBackup.isEmpty() && !QFile::remove(m_strBackup) && QFile::exists(m_strBackup))
         qCWarning(lcStage, "%s: the backup could not be removed", qUtf8Printable(m_strBackup));
     m_strBackup.clear();
+    warnOfBackup({});
 }

@@ -61,12 +61,13 @@ private:
     void watchFile();
     void onFileChanged(const QString &strPath);
     void removeBackup();
+    void warnOfBackup(const QString &strText);
     [[nodiscard]] QString freeBackupName() const;
 
     StageModel *const m_pModel;
     int m_nRevision = 0;
     int m_nBackupRevision = 0;
     QString m_strBackup; ///< the backup this document wrote; empty without one
-    bool m_bBackupFailed = false;
+    QString m_strBackupWarning; // that the bar shows
     std::shared_ptr<QFileSystemWatcher> m_pWatcher;
 };

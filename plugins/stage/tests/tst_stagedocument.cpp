@@ -6,6 +6,7 @@
 #include "stagereader.h"
 
 #include <actionmanager/shortcuts.h>
+#include <mainwindow.h>
 #include <support/coretest.h>
 
 #include <sys/stat.h>
@@ -248,13 +249,21 @@ private slots:
     void backupsAreTakenWhenDueAndGoWithASave()
     {
         TestProgram program;
+        MainWindow window(nullptr);
         const auto pDocument = newDocument(program.filePath("a.kelpa"));
         const QString strBackup = program.filePath("a.kelpa.backup");
         QVERIFY(pDocument->save());
         QVERIFY(!pDocument->saveBackup());
         QVERIFY(!QFile::exists(strBackup));
         step(*pDocument, 0, 5);
+        s_nFree = 0;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no backup: No space left"));
+        QVERIFY(!pDocument->saveBackup());
+        s_nFree = -1;
+        const KPNotificationBar *pBar = window.getNotificationBar();
+        QVERIFY(pBar->text().startsWith("No backup of ") && !pBar->isHidden());
         QVERIFY(pDocument->saveBackup());
+        QVERIFY(pBar->isHidden());
         QCOMPARE(*StageReader::readFile(strBackup).project, pDocument->getModel()->project());
         QVERIFY(!pDocument->saveBackup());
         step(*pDocument, 0, 5); // becomes part of the edit before it, and is an edit all the same
