@@ -105,6 +105,8 @@ void StageToolBar::addCommand(
     const QString &strId, QAction *pAction, const QString &strDescription, QKeySequence::StandardKey key)
 {
     ContextAction *pCommand = ActionManager::registerAction(pAction, strId, parentWidget(), false);
+    if (!pCommand)
+        return;
     pCommand->setDefaultKeySequence(QKeySequence(key));
     pCommand->setDescription(strDescription);
     if (ActionContainer *pMenu = editMenu())
@@ -193,10 +195,10 @@ void StageToolBar::addElement(StageElement::Type type)
     element.height = row.nHeight;
     element.fill = QColor(QLatin1String(row.pFill));
     element.text = type == StageElement::Type::Text ? tr("Text") : QString();
+    // While the dialog is open its editor may go, or another be activated.
+    const QPointer<StageEditor> pEditor = qobject_cast<StageEditor *>(m_pEditor);
     if (type == StageElement::Type::Image && !chooseImage(ICore::getMainWindow(), element))
         return;
-    // The dialog ran an event loop in which the editor may have gone.
-    const auto *pEditor = qobject_cast<StageEditor *>(m_pEditor);
     if (!pEditor || !pEditor->getView() || pEditor->getView()->addElement(element))
         return;
     if (MainWindow *pMainWindow = ICore::getMainWindow())
