@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -81,6 +82,13 @@ std::pair<DocumentManager::Breakpoints, DocumentManager::Breakpoints> storedBrea
     return lists;
 }
 
+void tellUnsaved(QWidget *pParent, const QString &strText)
+{
+    const QSettings *pSettings = PluginManager::settings();
+    IUi::information(pParent, QStringLiteral("Kelpa Studio"), strText, QMessageBox::Ok, QMessageBox::Ok,
+        pSettings ? QDir::toNativeSeparators(pSettings->fileName()) : QString());
+}
+
 void saveSettings(const std::pair<DocumentManager::Breakpoints, DocumentManager::Breakpoints> &breakpoints)
 {
     DocumentManager::setHBreakpoints(breakpoints.first);
@@ -118,7 +126,7 @@ void StageOptionPage::saveChanges()
     if (PluginManager::storeSettings(PluginManager::settings()))
         IOptionPage::saveChanges();
     else
-        IUi::information(this, QStringLiteral("Kelpa Studio"), tr("The settings could not be saved."));
+        tellUnsaved(this, tr("The settings could not be saved."));
 }
 
 void StageOptionPage::markChanged()
@@ -161,7 +169,7 @@ void GeneralOptionPage::saveChanges()
     if (ILanguageManager::getInstance().saveLanguage(m_pLanguage->currentData().toString()))
         StageOptionPage::saveChanges();
     else
-        IUi::information(this, QStringLiteral("Kelpa Studio"), tr("Failed to change language."));
+        tellUnsaved(this, tr("Failed to change language."));
 }
 
 BackupOptionPage::BackupOptionPage()

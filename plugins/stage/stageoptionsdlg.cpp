@@ -94,6 +94,8 @@ void StageOptionsDlg::onApply()
     for (IOptionPage *pPage : std::as_const(m_pages)) {
         if (pPage->isChanged())
             pPage->saveChanges();
+        if (pPage->isChanged())
+            break; // told once: the others would go into the same file
     }
     updateButtons();
 }
