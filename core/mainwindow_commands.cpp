@@ -207,8 +207,10 @@ void MainWindow::listToolBars()
     QMenu *pMenu = ActionManager::getActionContainer(s_toolBarsMenu)->getMenu();
     pMenu->clear();
     const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QToolBar *pToolBar : toolBars)
-        pMenu->addAction(pToolBar->toggleViewAction());
+    for (const QToolBar *pToolBar : toolBars) {
+        if (!pToolBar->windowTitle().isEmpty()) // what has no name cannot be chosen
+            pMenu->addAction(pToolBar->toggleViewAction());
+    }
 }
 
 void MainWindow::createLanguageMenu(ActionContainer *pViewMenu)
@@ -314,9 +316,8 @@ void MainWindow::enableCommand(const char *pId, bool bEnabled)
     m_actions.at(QLatin1String(pId))->setEnabled(bEnabled);
 }
 
-void MainWindow::updateFocusWidget(QWidget *old, QWidget *now)
+void MainWindow::updateFocusWidget(QWidget *, QWidget *now)
 {
-    Q_UNUSED(old)
     if (qobject_cast<QMenuBar *>(now) || qobject_cast<QMenu *>(now))
         return;
     QWidget *pFocus = QApplication::focusWidget();
