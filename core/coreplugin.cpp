@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QPointer>
 #include <QSessionManager>
 
 using ExtensionSystem::PluginManager;
@@ -23,17 +24,19 @@ using ExtensionSystem::PluginManager;
 namespace {
 Q_LOGGING_CATEGORY(lcCore, "kelpa.core")
 
-// A document of a plug-in may throw here too.
+// A document of a plug-in may throw here too, or close another one.
 void saveBackups()
 {
-    for (IDocument *pDoc : QList<IDocument *>(DocumentManager::getDocuments())) {
-        const QString strThrown = ExtensionSystem::caught([pDoc] {
-            if (pDoc->isModified())
+    const auto &all = DocumentManager::getDocuments();
+    const QList<QPointer<IDocument>> documents(all.cbegin(), all.cend());
+    for (const auto &pDoc : documents) {
+        const QString strFile = pDoc ? pDoc->getFileName() : QString();
+        const QString strThrown = ExtensionSystem::caught([&pDoc] {
+            if (pDoc && pDoc->isModified())
                 pDoc->saveBackup();
         });
         if (!strThrown.isEmpty())
-            qCWarning(
-                lcCore, "%s: no backup: %s", qUtf8Printable(pDoc->getFileName()), qUtf8Printable(strThrown));
+            qCWarning(lcCore, "%s: no backup: %s", qUtf8Printable(strFile), qUtf8Printable(strThrown));
     }
 }
 
@@ -113,9 +116,8 @@ void CorePlugin::tellFaults()
 
 CorePlugin::~CorePlugin() = default;
 
-bool CorePlugin::initialize(const QStringList &arguments, QString *errorString)
+bool CorePlugin::initialize(const QStringList &, QString *errorString)
 {
-    Q_UNUSED(arguments)
     return m_pMainWindow->init(errorString);
 }
 
@@ -137,9 +139,8 @@ ExtensionSystem::IPlugin::ShutdownFlag CorePlugin::aboutToShutdown()
 }
 
 QObject *CorePlugin::remoteCommand(
-    const QStringList &options, const QString &workingDirectory, const QStringList &arguments)
+    const QStringList &, const QString &workingDirectory, const QStringList &arguments)
 {
-    Q_UNUSED(options)
     m_pMainWindow->raiseUp();
     const QDir base(workingDirectory.isEmpty() ? QDir::currentPath() : workingDirectory);
     for (const QString &argument : arguments)
