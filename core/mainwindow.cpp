@@ -187,9 +187,8 @@ MainWindow::~MainWindow()
     m_pMdiArea = nullptr;
 }
 
-bool MainWindow::init(QString *pErrorString)
+bool MainWindow::init(QString *)
 {
-    Q_UNUSED(pErrorString)
     return true;
 }
 

@@ -22,9 +22,8 @@ QString localServerLockFile(const QString &strKey)
     return QDir::temp().absoluteFilePath(QStringLiteral("kelpastudio-%1.lock").arg(strKey));
 }
 
-bool isOwnPeer(const QLocalSocket &socket)
+bool isOwnPeer(const QLocalSocket &)
 {
-    Q_UNUSED(socket)
     return true;
 }
 
@@ -33,11 +32,7 @@ bool isWholeLibrary(const QString &strFile)
     return QFileInfo(strFile).size() > 0;
 }
 
-void onTermination(QObject *pContext, const std::function<void()> &function)
-{
-    Q_UNUSED(pContext)
-    Q_UNUSED(function)
-}
+void onTermination(QObject *, const std::function<void()> &) { }
 
 void resetTermination() { }
 

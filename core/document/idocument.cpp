@@ -90,9 +90,8 @@ bool IDocument::saveTempBeforeClose()
     return true;
 }
 
-bool IDocument::save(const QString &strFileName)
+bool IDocument::save(const QString &)
 {
-    Q_UNUSED(strFileName)
     return true;
 }
 
@@ -111,10 +110,7 @@ bool IDocument::revert()
     return true;
 }
 
-void IDocument::submitCommand(QUndoCommand *pCommand)
-{
-    Q_UNUSED(pCommand)
-}
+void IDocument::submitCommand(QUndoCommand *) { }
 
 bool IDocument::saveBackup()
 {

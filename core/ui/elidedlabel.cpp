@@ -56,9 +56,8 @@ bool ElidedLabel::event(QEvent *pEvent)
     return true;
 }
 
-void ElidedLabel::paintEvent(QPaintEvent *pEvent)
+void ElidedLabel::paintEvent(QPaintEvent *)
 {
-    Q_UNUSED(pEvent)
     const QString strText = shownText();
     const int nAlign = int(QStyle::visualAlignment(layoutDirection(), alignment()) | Qt::AlignAbsolute);
     // A message that is not translated still reads in its own direction.

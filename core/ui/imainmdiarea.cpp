@@ -95,9 +95,8 @@ void IMainMdiArea::callbackTunnelAsync(const QString &cmd)
         emit pAction->triggered(true);
 }
 
-QString IMainMdiArea::callbackAsyncfromJS(const QString &cmd, const QString &str)
+QString IMainMdiArea::callbackAsyncfromJS(const QString &cmd, const QString &)
 {
-    Q_UNUSED(str)
     if (cmd == QLatin1String("WelcomeScreen.getLocale"))
         return ILanguageManager::getInstance().getCurrentLangId();
     if (cmd == QLatin1String("WelcomeScreen.getBuildNumber"))

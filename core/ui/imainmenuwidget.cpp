@@ -341,9 +341,8 @@ QStyleOptionTitleBar IMainMenuWidget::titleBarOption() const
     return option;
 }
 
-void IMainMenuWidget::paintEvent(QPaintEvent *pEvent)
+void IMainMenuWidget::paintEvent(QPaintEvent *)
 {
-    Q_UNUSED(pEvent)
     const QStyleOptionTitleBar option = titleBarOption();
     QStylePainter painter(this);
     // A menu bar that is not opaque lets the strip be seen, but not the title a second time.

@@ -13,9 +13,8 @@ bool IOptionPage::isChanged()
     return m_bChanged;
 }
 
-void IOptionPage::setChanged(bool bChanged)
+void IOptionPage::setChanged(bool)
 {
-    Q_UNUSED(bChanged)
     m_bChanged = true;
 }
 

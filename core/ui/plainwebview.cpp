@@ -33,9 +33,8 @@ PlainWebView::PlainWebView(QWidget *pParent)
     connect(m_pBrowser, &QTextBrowser::anchorClicked, this, [](const QUrl &url) { openOutside(url); });
 }
 
-void PlainWebView::load(const QUrl &url)
+void PlainWebView::load(const QUrl &)
 {
-    Q_UNUSED(url)
     m_pBrowser->clear();
     finishLater(false);
 }
@@ -47,16 +46,10 @@ void PlainWebView::setHtml(const QString &strHtml)
 }
 
 // The program's fonts already follow the display scale.
-void PlainWebView::setZoomFactor(double fFactor)
-{
-    Q_UNUSED(fFactor)
-}
+void PlainWebView::setZoomFactor(double) { }
 
 // No script runs here.
-void PlainWebView::setPageData(const QJsonObject &pageData)
-{
-    Q_UNUSED(pageData)
-}
+void PlainWebView::setPageData(const QJsonObject &) { }
 
 void PlainWebView::setBackground(const QColor &color)
 {

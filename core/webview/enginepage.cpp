@@ -124,48 +124,31 @@ bool EnginePage::acceptRedirect(const QUrl &url)
     return strObjection.isEmpty();
 }
 
-QWebEnginePage *EnginePage::createWindow(WebWindowType type)
+QWebEnginePage *EnginePage::createWindow(WebWindowType)
 {
-    Q_UNUSED(type)
     return new LinkCatcher(this);
 }
 
-QStringList EnginePage::chooseFiles(
-    FileSelectionMode mode, const QStringList &oldFiles, const QStringList &mimeTypes)
+QStringList EnginePage::chooseFiles(FileSelectionMode, const QStringList &, const QStringList &)
 {
-    Q_UNUSED(mode)
-    Q_UNUSED(oldFiles)
-    Q_UNUSED(mimeTypes)
     return {};
 }
 
-void EnginePage::javaScriptAlert(const QUrl &origin, const QString &strText)
-{
-    Q_UNUSED(origin)
-    Q_UNUSED(strText)
-}
+void EnginePage::javaScriptAlert(const QUrl &, const QString &) { }
 
-bool EnginePage::javaScriptConfirm(const QUrl &origin, const QString &strText)
+bool EnginePage::javaScriptConfirm(const QUrl &, const QString &)
 {
-    Q_UNUSED(origin)
-    Q_UNUSED(strText)
     return false;
 }
 
-bool EnginePage::javaScriptPrompt(
-    const QUrl &origin, const QString &strText, const QString &strDefault, QString *pResult)
+bool EnginePage::javaScriptPrompt(const QUrl &, const QString &, const QString &, QString *)
 {
-    Q_UNUSED(origin)
-    Q_UNUSED(strText)
-    Q_UNUSED(strDefault)
-    Q_UNUSED(pResult)
     return false;
 }
 
 void EnginePage::javaScriptConsoleMessage(
-    JavaScriptConsoleMessageLevel level, const QString &strText, int nLine, const QString &strSource)
+    JavaScriptConsoleMessageLevel, const QString &strText, int nLine, const QString &strSource)
 {
-    Q_UNUSED(level)
     // The engine names addresses that fail, and what follows the "?" may be a secret.
     static const QRegularExpression s_query(QStringLiteral("\\?[^\\s'\"]+"));
     const QString strShown = QString(strText).replace(s_query, QStringLiteral("?..."));

@@ -14,9 +14,8 @@ AppearancePlugin::AppearancePlugin() = default;
 AppearancePlugin::~AppearancePlugin() = default;
 
 // Nothing is shown yet, so that each widget is dressed once.
-bool AppearancePlugin::initialize(const QStringList &arguments, QString *errorString)
+bool AppearancePlugin::initialize(const QStringList &, QString *errorString)
 {
-    Q_UNUSED(arguments)
     MainWindow *pMainWindow = ICore::getMainWindow();
     if (!pMainWindow) {
         *errorString = tr("There is no main window.");

@@ -38,9 +38,8 @@ StagePlugin::~StagePlugin()
         PluginManager::removeObject(m_pFactory.get());
 }
 
-bool StagePlugin::initialize(const QStringList &arguments, QString *errorString)
+bool StagePlugin::initialize(const QStringList &, QString *errorString)
 {
-    Q_UNUSED(arguments)
     MainWindow *pMainWindow = ICore::getMainWindow();
     if (!pMainWindow) {
         *errorString = tr("There is no main window.");

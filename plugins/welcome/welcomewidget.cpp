@@ -49,9 +49,8 @@ bool WelcomeWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
 }
 
 // The engine takes its time and the window's first picture must not wait for it: this one is only on its way.
-void WelcomeWidget::paintEvent(QPaintEvent *pEvent)
+void WelcomeWidget::paintEvent(QPaintEvent *)
 {
-    Q_UNUSED(pEvent)
     QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
     if (m_bPainted)
         return;
