@@ -33,6 +33,8 @@
 #include <QWebChannel>
 #include <QWebSocketServer>
 
+#include <utility>
+
 using ExtensionSystem::PluginManager;
 
 namespace {
@@ -161,12 +163,9 @@ void MainWindow::createMdiArea()
 // The managers and the core go first: what the window's children do in their destructors finds none of them.
 MainWindow::~MainWindow()
 {
-    delete m_pDocumentManager;
-    m_pDocumentManager = nullptr;
-    delete m_pEditorManager;
-    m_pEditorManager = nullptr;
-    delete m_pCore;
-    m_pCore = nullptr;
+    delete std::exchange(m_pDocumentManager, nullptr);
+    delete std::exchange(m_pEditorManager, nullptr);
+    delete std::exchange(m_pCore, nullptr);
 
     disconnect(qApp, &QApplication::focusChanged, this, &MainWindow::updateFocusWidget);
     disconnect(m_pClientWrapper, &WebSocketClientWrapper::clientConnected, m_pChannel, nullptr);
@@ -177,14 +176,10 @@ MainWindow::~MainWindow()
     for (QObject *pObject : objects)
         m_pChannel->deregisterObject(pObject);
     m_pServer->close();
-    delete m_pClientWrapper;
-    m_pClientWrapper = nullptr;
-    delete m_pChannel;
-    m_pChannel = nullptr;
-    delete m_pServer;
-    m_pServer = nullptr;
-    delete m_pMdiArea;
-    m_pMdiArea = nullptr;
+    delete std::exchange(m_pClientWrapper, nullptr);
+    delete std::exchange(m_pChannel, nullptr);
+    delete std::exchange(m_pServer, nullptr);
+    delete std::exchange(m_pMdiArea, nullptr);
 }
 
 bool MainWindow::init(QString *)

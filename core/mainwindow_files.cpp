@@ -57,14 +57,19 @@ bool tellUnopenable(const QString &strPath)
     return false;
 }
 
-// A plug-in may fail to make one. What it made already is the caller's to delete.
-IEditor *editorFor(IDocumentFactory *pFactory, IDocument *pDoc)
+// A plug-in may fail to make an editor. What it made already is the caller's to delete.
+IEditor *addToManagers(IDocument *pDoc, IDocumentFactory *pFactory)
 {
     IEditor *pEditor = pFactory->createEditor();
-    if (pEditor)
-        pEditor->setDocument(pDoc);
-    else
+    if (!pEditor) {
         tellUnopenable(pDoc->getFileName());
+        return nullptr;
+    }
+    pEditor->setDocument(pDoc);
+    DocumentManager::addDocument(pDoc);
+    EditorManager::addEditor(pEditor);
+    if (pDoc->getUndoStack())
+        DocumentManager::getUndoGroup()->addStack(pDoc->getUndoStack());
     return pEditor;
 }
 
@@ -78,12 +83,6 @@ bool isProjectFile(const QString &strPath)
 {
     const QString strSuffix = QFileInfo(strPath).suffix().toLower();
     return strSuffix == QLatin1String("kelpa") || strSuffix == QLatin1String("kelpapack");
-}
-
-void addStack(const IDocument *pDoc)
-{
-    if (pDoc->getUndoStack())
-        DocumentManager::getUndoGroup()->addStack(pDoc->getUndoStack());
 }
 
 void startBackup(IDocument *pDoc)
@@ -135,12 +134,9 @@ bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
         return false;
     if (bAddToRecentFile)
         addRecent(pDoc->getFileName());
-    IEditor *pEditor = editorFor(pFactory, pDoc);
+    IEditor *pEditor = addToManagers(pDoc, pFactory);
     if (!pEditor)
         return false;
-    DocumentManager::addDocument(pDoc);
-    EditorManager::addEditor(pEditor);
-    addStack(pDoc);
     const QPointer<IDocument> pOpened = pDoc;
     EditorManager::activateEditor(pEditor);
     if (pOpened) {
@@ -195,15 +191,12 @@ bool MainWindow::createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICr
 
 void MainWindow::attachNew(IDocumentFactory *pFactory, IDocument *pDoc)
 {
-    IEditor *pEditor = editorFor(pFactory, pDoc);
+    IEditor *pEditor = addToManagers(pDoc, pFactory);
     if (!pEditor) {
         delete pDoc;
         return;
     }
-    DocumentManager::addDocument(pDoc);
-    EditorManager::addEditor(pEditor);
     enableCommand("File.Save", true);
-    addStack(pDoc);
     DocumentManager::getUndoGroup()->setActiveStack(pDoc->getUndoStack());
     connect(pDoc, &IDocument::requestClosing, this, &MainWindow::onDocumentRequestClosing);
     const QPointer<IDocument> pNew = pDoc;
