@@ -21,7 +21,8 @@ class CORE_EXPORT KPNotificationBar : public QFrame
     Q_DISABLE_COPY_MOVE(KPNotificationBar)
 
 public:
-    enum Type {
+    // With a type of its own, so that plug-ins may pass other values: they look like Info.
+    enum Type : int {
         Info = 0,
         Warning = 1,
     };
