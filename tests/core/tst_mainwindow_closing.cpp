@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <icore.h>
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
 
-#include <QElapsedTimer>
-#include <QProcess>
 #include <QUndoGroup>
 
 using ExtensionSystem::PluginManager;
@@ -93,26 +89,11 @@ Outcome expected(const std::array<Case, 3> &projects)
 
 } // namespace
 
-class tst_MainWindowClosing : public QObject
+class tst_MainWindowClosing : public DocumentTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-        m_pFactory = std::make_unique<FakeFactory>();
-    }
-
-    void cleanup()
-    {
-        clear();
-        m_pFactory.reset();
-        m_pWindow.reset();
-        m_pProgram.reset();
-    }
-
     void everyCombinationOfThreeProjects()
     {
         for (const Case &first : s_cases) {
@@ -137,7 +118,6 @@ private slots:
         row("when its editor is about to be deactivated", 2);
         row("when its editor was deactivated", 3);
     }
-
     void aDocumentMayGoInsideItsOwnClosing()
     {
         QFETCH(int, moment);
@@ -176,7 +156,6 @@ private slots:
         row("new, when it says so", true, false);
         row("new, when its editor becomes active", true, true);
     }
-
     void aDocumentMayGoWhileItIsOpened()
     {
         QFETCH(bool, create);
@@ -230,7 +209,7 @@ private slots:
         }
         QVERIFY(first.waitForFinished() && second.waitForFinished());
         PluginManager::settings()->sync();
-        QStringList files = IRecentFilesManager::getInstance()->getRecentFiles();
+        QStringList files = recent();
         files.sort();
         QStringList all;
         for (const char *pName : {"first", "second"}) {
@@ -252,7 +231,7 @@ private slots:
     }
 
 private:
-    void load(int nProject, const Case &project)
+    void loadAs(int nProject, const Case &project)
     {
         m_pFactory->prepare = [&](FakeDocument *pDoc) {
             pDoc->bSaveSucceeds = pDoc->bSaveAsSucceeds = project.bSaves;
@@ -270,7 +249,7 @@ private:
         QList<QMessageBox::StandardButton> answers;
         for (int i = 0; i < 3; ++i) {
             const Case &project = projects.at(std::size_t(i));
-            load(i, project);
+            loadAs(i, project);
             QList<QMessageBox::StandardButton> own;
             if (project.answer != QMessageBox::NoButton)
                 own.append(project.answer);
@@ -279,6 +258,10 @@ private:
             answers = own + answers;
         }
         m_pWindow->show();
+        EditorManager::activateEditor(EditorManager::getEditors().first());
+        QFile working(m_pWindow->getDefaultTempPath() + "/scratch");
+        QVERIFY(working.open(QIODevice::WriteOnly));
+        const QSignalSpy saving(ICore::getInstance(), &ICore::aboutToSaveSettings);
         const BoxAnswers boxes(answers);
         QStringList calls;
         std::array<QStringList, 3> log;
@@ -296,6 +279,8 @@ private:
         const Outcome outcome = expected(projects);
         QCOMPARE(bClosed, outcome.bClosed);
         QCOMPARE(m_pWindow->isVisible(), !outcome.bClosed);
+        QCOMPARE(working.exists(), !outcome.bClosed);
+        QCOMPARE(saving.count(), 1);
         QCOMPARE(m_pFactory->deleted, outcome.deleted);
         QCOMPARE(boxes.texts(), outcome.boxes);
         for (const auto &box : boxes.boxes) {
@@ -305,8 +290,10 @@ private:
             QCOMPARE(box.defaultButton, box.text.startsWith("Save") ? QMessageBox::Yes : QMessageBox::Ok);
         }
         QCOMPARE(calls, outcome.calls);
-        QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles(), outcome.recent);
+        QCOMPARE(recent(), outcome.recent);
         QCOMPARE(EditorManager::getEditors().size(), 3 - outcome.deleted.size());
+        QCOMPARE(
+            EditorManager::activeEditor(), EditorManager::getEditors().value(2 - outcome.deleted.size()));
         QCOMPARE(DocumentManager::getDocuments().size(), 3 - outcome.deleted.size());
     }
 
@@ -324,9 +311,6 @@ private:
         PluginManager::settings()->clear();
     }
 
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
-    std::unique_ptr<FakeFactory> m_pFactory;
     QPointer<FakeDocument> m_pDoomed; ///< slots that delete it stay connected to the end of the test
 };
 
