@@ -71,6 +71,9 @@ private:
             const FolderGone gone(m_strFolder, how == Unwritable);
             m_program.command("File.New")->trigger();
         });
+        const QList<bool> left {!factory.pDialog.isNull(), !factory.pDocument.isNull()};
+        if (left != QList<bool> {how == NoPath, how <= NoPath})
+            m_said.append("the dialog or the document is left wrongly");
         if (how == NoPath) { // both were left to the factory
             delete factory.pDialog;
             delete factory.pDocument;
@@ -162,7 +165,8 @@ private:
             m_strChosen = m_strFolder + "/nowhere/z.kelpa";
         m_bChoiceFails = nHow <= 1;
         if (m_model.disk.contains(m_strChosen))
-            expect(QFileInfo(m_strChosen).fileName() + " already exists.", QMessageBox::Yes);
+            expect(
+                QFileInfo(m_strChosen).fileName() + " already exists.", QMessageBox::Yes, "Save Project As");
         if (m_model.isOpenElsewhere(m_strChosen, document)) {
             expect(m_strChosen + " is open. Close it first.", QMessageBox::Ok);
             m_bChoiceFails = true;
@@ -223,7 +227,8 @@ private:
             return !m_bChoiceFails;
         }
         if (m_bSaveFails)
-            expect(QString("Could not save project %1.").arg(document.name()), QMessageBox::Ok);
+            expect(QString("Could not save project %1.\nNo such file or directory").arg(document.name()),
+                QMessageBox::Ok);
         else
             m_model.saved(document);
         return !m_bSaveFails;
@@ -274,7 +279,10 @@ private:
         if (bExists)
             load(strPath);
         else
-            expect(QString("The project [%1] no longer exists.").arg(strPath), answer);
+            expect(QString("The project [%1] no longer exists.\n"
+                           "Do you want to remove this entry from history?\n")
+                       .arg(strPath),
+                answer);
         if (!bExists && answer == QMessageBox::Yes)
             m_model.recent.removeOne(strPath);
         act([&] { WalkCheck::recentCommand(nEntry)->trigger(); });
@@ -322,9 +330,13 @@ private:
         if (nShown >= 0) {
             m_model.activate(nShown);
         } else if (!strPath.endsWith(".kelpa")) {
-            expect("Cannot open this file type.", QMessageBox::Ok);
+            expect("Cannot open this file type.\n" + strPath, QMessageBox::Ok);
         } else if (m_model.disk.value(strPath, -1) < 0) {
-            expect(QString("Could not open project %1.").arg(strPath), QMessageBox::Ok);
+            const bool bExists = m_model.disk.contains(strPath);
+            expect(
+                QString("Could not open project %1.\n%2")
+                    .arg(strPath, bExists ? "line 1, column 2: not valid JSON" : "the file does not exist"),
+                QMessageBox::Ok);
         } else {
             m_model.addRecent(strPath);
             m_model.attach({strPath, false, false, {{m_model.disk.value(strPath)}}});
@@ -370,9 +382,10 @@ private:
     {
         log.append(QLatin1String(pStep) + QLatin1Char(' ') + details.join(' '));
     }
-    void expect(const QString &strBox, QMessageBox::StandardButton answer)
+    void expect(
+        const QString &strBox, QMessageBox::StandardButton answer, const char *pTitle = "Kelpa Studio")
     {
-        m_expected.append(strBox);
+        m_expected.append(pTitle + (": " + strBox));
         m_answers.append(answer);
     }
 
@@ -382,8 +395,12 @@ private:
         const BoxAnswers boxes(m_answers);
         const FileAnswer place(&m_strChosen);
         step();
-        // Long words have places to break at.
-        m_said = boxes.texts().replaceInStrings(QString(QChar(0x200B)), QString());
+        for (const BoxAnswers::Box &box : boxes.boxes) {
+            m_said.append(box.title + ": " + box.text + '\n' + box.informative);
+            m_said.last().remove(QChar(0x200B)); // a place where a long word may break
+            if (box.title == "Kelpa Studio" && box.buttons & QMessageBox::Yes)
+                QCOMPARE(box.defaultButton, QMessageBox::Yes);
+        }
     }
 
     WalkProgram m_program;

@@ -36,6 +36,8 @@ public:
         ModelDocument *pActive = m_model.active();
         same("save", m_program.command("File.Save")->isEnabled(), pActive && pActive->canSave());
         same("save as", m_program.command("File.SaveAs.Project")->isEnabled(), pActive != nullptr);
+        same("menu of save as", ActionManager::getActionContainer("File.SaveAs")->getMenu()->isEnabled(),
+            pActive != nullptr);
         same("close", m_program.command("File.Close")->isEnabled(), pActive != nullptr);
         same("undo", m_program.command("Edit.Undo")->isEnabled(), pActive && pActive->nIndex > 0);
         same("redo", m_program.command("Edit.Redo")->isEnabled(),
@@ -86,6 +88,7 @@ private:
         same("recent list", IRecentFilesManager::getInstance()->getRecentFiles(), m_model.recent);
         const ActionContainer *pMenu = ActionManager::getActionContainer("File.Recent_Projects");
         same("recent menu", pMenu->getMenu()->isEnabled(), !m_model.recent.isEmpty());
+        same("recent entries", pMenu->getMenu()->actions().size(), 10);
         for (int i = 0; i < 10; ++i) {
             const QAction *pAction = recentCommand(i);
             same("recent entry shown", pAction->isVisible(), i < m_model.recent.size());
