@@ -32,6 +32,9 @@ constexpr Case s_cases[] = {
     {"temporary, cancel", true, true, QMessageBox::Cancel, true, false},
 };
 
+// When a slot deletes a document.
+enum Moment { Opened, Activated, AboutToClose, ClosingRequested, AboutToDeactivate, Deactivated };
+
 // What must be left after closing the window with three projects.
 struct Outcome
 {
@@ -110,72 +113,51 @@ private slots:
         }
     }
 
-    void aDocumentMayGoInsideItsOwnClosing_data()
+    void aDocumentMayGoAtAnyMoment_data()
     {
-        const auto row = columns<int>("moment");
-        row("when it is about to close", 0);
-        row("when its closing is requested", 1);
-        row("when its editor is about to be deactivated", 2);
-        row("when its editor was deactivated", 3);
+        const auto row = columns<Moment, bool>("moment", "isNew");
+        row("opened, when it says so", Opened, false);
+        row("opened, when its editor becomes active", Activated, false);
+        row("new, when it says so", Opened, true);
+        row("new, when its editor becomes active", Activated, true);
+        row("when it is about to close", AboutToClose, false);
+        row("when its closing is requested", ClosingRequested, false);
+        row("when its editor is about to be deactivated", AboutToDeactivate, false);
+        row("when its editor was deactivated", Deactivated, false);
     }
-    void aDocumentMayGoInsideItsOwnClosing()
+    void aDocumentMayGoAtAnyMoment()
     {
-        QFETCH(int, moment);
-        m_pFactory->prepare = [this, moment](FakeDocument *pDoc) {
-            const auto kill = [pDoc = QPointer(pDoc)] { delete pDoc; };
-            if (moment == 0)
-                connect(pDoc, &IDocument::aboutToClose, this, kill);
-            else if (moment == 1)
-                connect(pDoc, &IDocument::requestClosing, this, kill);
-            m_pDoomed = pDoc;
+        QFETCH(Moment, moment);
+        QFETCH(bool, isNew);
+        QPointer<IDocument> pDoomed;
+        const QObject scope;
+        const auto dieOn = [&](Moment at, auto *pSender, auto signal) {
+            if (at == moment)
+                connect(pSender, signal, &scope, [&] { delete pDoomed; });
         };
-        m_pFactory->onEditor = [this, moment](IEditor *pEditor) {
-            if (moment == 2)
-                connect(pEditor, &IEditor::aboutToDeactivate, this, [this] { delete m_pDoomed; });
+        m_pFactory->strNewPath = m_pProgram->write("a.kelpa");
+        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+            pDoomed = pDoc;
+            dieOn(Opened, pDoc, &IDocument::aboutToOpen);
+            dieOn(AboutToClose, pDoc, &IDocument::aboutToClose);
+            dieOn(ClosingRequested, pDoc, &IDocument::requestClosing);
         };
-        QVERIFY(m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
+        m_pFactory->onEditor = [&](IEditor *pEditor) {
+            dieOn(AboutToDeactivate, pEditor, &IEditor::aboutToDeactivate);
+        };
+        dieOn(Activated, EditorManager::getInstance(), &EditorManager::editorActivated);
+        dieOn(Deactivated, EditorManager::getInstance(), &EditorManager::editorDeactivated);
+        isNew ? m_pWindow->fileNew() : void(m_pWindow->loadFile(m_pFactory->strNewPath));
         m_pFactory->prepare = nullptr;
-        m_pFactory->onEditor = nullptr;
-        if (moment == 3)
-            connect(EditorManager::getInstance(), &EditorManager::editorDeactivated, this,
-                [this] { delete m_pDoomed; });
+        QCOMPARE(pDoomed.isNull(), moment <= Activated);
+        QCOMPARE(DocumentManager::getDocuments().isEmpty(), pDoomed.isNull());
+        QCOMPARE(!DocumentManager::getUndoGroup()->activeStack(), pDoomed.isNull());
         m_pWindow->show();
         QVERIFY(m_pWindow->close());
-        QVERIFY(!m_pDoomed);
-        QVERIFY(DocumentManager::getDocuments().isEmpty());
+        QVERIFY(!pDoomed && DocumentManager::getDocuments().isEmpty());
         for (const IEditor *pEditor : EditorManager::getEditors())
             QVERIFY(!pEditor->getDocument());
         QVERIFY(m_pWindow->loadFile(m_pProgram->write("b.kelpa")));
-    }
-
-    void aDocumentMayGoWhileItIsOpened_data()
-    {
-        const auto row = columns<bool, bool>("create", "activated");
-        row("opened, when it says so", false, false);
-        row("opened, when its editor becomes active", false, true);
-        row("new, when it says so", true, false);
-        row("new, when its editor becomes active", true, true);
-    }
-    void aDocumentMayGoWhileItIsOpened()
-    {
-        QFETCH(bool, create);
-        QFETCH(bool, activated);
-        m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
-        m_pFactory->prepare = [this, activated](FakeDocument *pDoc) {
-            if (!activated)
-                connect(pDoc, &IDocument::aboutToOpen, this, [pDoc = QPointer(pDoc)] { delete pDoc; });
-        };
-        if (activated) {
-            connect(EditorManager::getInstance(), &EditorManager::editorActivated, this,
-                [](IEditor *pEditor) { delete pEditor->getDocument(); });
-        }
-        if (create)
-            m_pWindow->fileNew();
-        else
-            m_pWindow->loadFile(m_pProgram->write("a.kelpa"));
-        QVERIFY(m_pFactory->documents.first().isNull());
-        QVERIFY(DocumentManager::getDocuments().isEmpty());
-        QVERIFY(!DocumentManager::getUndoGroup()->activeStack());
     }
 
     void forcedEndAsksNobodyTwiceAndKeepsTheWorkingFolder()
@@ -234,7 +216,7 @@ private:
     void loadAs(int nProject, const Case &project)
     {
         m_pFactory->prepare = [&](FakeDocument *pDoc) {
-            pDoc->bSaveSucceeds = pDoc->bSaveAsSucceeds = project.bSaves;
+            pDoc->bSaveSucceeds = project.bSaves;
             pDoc->strSaveAsName = keptPathOf(nProject);
         };
         m_pWindow->loadFile(pathOf(nProject));
@@ -310,8 +292,6 @@ private:
         m_pFactory->deleted.clear();
         PluginManager::settings()->clear();
     }
-
-    QPointer<FakeDocument> m_pDoomed; ///< slots that delete it stay connected to the end of the test
 };
 
 // A program of its own that adds five recent projects to the store.

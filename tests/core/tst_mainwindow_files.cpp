@@ -120,25 +120,17 @@ private slots:
         QVERIFY(recent().isEmpty());
     }
 
-    void closingOneDocument_data()
+    void closingTakesTheEditorAtOnceOrLater()
     {
-        const auto row = columns<bool>("later");
-        row("with its editor at once", false);
-        row("with its editor later", true);
-    }
-    void closingOneDocument()
-    {
-        QFETCH(bool, later);
-        FakeDocument *pDoc = load("a.kelpa");
-        pDoc->setIsTempDocument(true);
-        QSignalSpy title(m_pWindow.get(), &MainWindow::updateWindowFilePath);
-        emit pDoc->requestClosing(later);
-        QVERIFY(m_pFactory->documents.first().isNull());
-        QCOMPARE(m_pFactory->editors.first().isNull(), !later);
-        QTRY_VERIFY(m_pFactory->editors.first().isNull());
-        QCOMPARE(title.takeFirst().first().toString(), QString());
-        QVERIFY(EditorManager::getEditors().isEmpty() && DocumentManager::getDocuments().isEmpty());
-        QVERIFY(!m_pWelcome->isHidden());
+        for (const bool bLater : {false, true}) {
+            FakeDocument *pDoc = load("a.kelpa");
+            const QSignalSpy title(m_pWindow.get(), &MainWindow::updateWindowFilePath);
+            emit pDoc->requestClosing(bLater);
+            QVERIFY(m_pFactory->documents.last().isNull());
+            QCOMPARE(m_pFactory->editors.last().isNull(), !bLater);
+            QTRY_VERIFY(m_pFactory->editors.last().isNull());
+            QCOMPARE(title.first().first().toString(), QString());
+        }
     }
 
     void windowClosesWithOddCompany()

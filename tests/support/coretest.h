@@ -138,7 +138,7 @@ public:
     bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override
     {
         log(QString("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
-        return bContentSucceeds;
+        return true;
     }
     bool open() override { return bOpenSucceeds && IDocument::open(); }
     using IDocument::save;
@@ -152,7 +152,7 @@ public:
     bool saveAs() override
     {
         log("saveAs");
-        if (!bSaveAsSucceeds)
+        if (!bSaveSucceeds)
             return false;
         setFileName(strSaveAsName);
         setIsTempDocument(false);
@@ -188,10 +188,8 @@ public:
     std::function<void()> onBackup;
     QString strSaveAsName;
     QStringList *pDeleted = nullptr;
-    bool bContentSucceeds = true;
     bool bOpenSucceeds = true;
     bool bSaveSucceeds = true;
-    bool bSaveAsSucceeds = true;
 };
 
 class FakeNewDialog : public ICreateDocumentDlg
@@ -266,7 +264,7 @@ public:
         pDialog = missing == "dialog" ? nullptr : new FakeNewDialog(strNewPath, nDialogResult);
         return pDialog;
     }
-    QString getOpenFileName() override { return strOpenName; }
+    QString getOpenFileName() override { return {}; }
 
     QList<QPointer<FakeDocument>> documents;
     QList<QPointer<IEditor>> editors;
@@ -276,7 +274,6 @@ public:
     QPointer<ICreateDocumentDlg> pDialog;
     QString missing; ///< what it returns null for: "document", "editor" or "dialog"
     QString strNewPath;
-    QString strOpenName;
     int nDialogResult = QDialog::Accepted;
 
 private:
