@@ -132,22 +132,7 @@ private slots:
         QCOMPARE(pStack->count(), 3);
     }
 
-    void openTellsFilePlaceAndReasonInOneMessage()
-    {
-        TestProgram program;
-        StageDocument document;
-        document.setFileName(program.write("broken.kelpa", "{\n \"format\": }"));
-        BoxAnswers answers({QMessageBox::Ok});
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken.kelpa: line 2, column"));
-        QVERIFY(!document.open());
-        QCOMPARE(answers.boxes.size(), 1);
-        const QString strText = answers.texts().first().remove(QChar(0x200B)); // a place to break at
-        QVERIFY2(
-            strText.contains(program.filePath("broken.kelpa") + ".\nline 2, column"), qPrintable(strText));
-        QVERIFY(document.getModel()->project().scenes.isEmpty());
-    }
-
-    void revertReadsTheFileAgain()
+    void revertReadsTheFileAgainOrTellsFilePlaceAndReason()
     {
         TestProgram program;
         const auto pDocument = newDocument(program.filePath("a.kelpa"));
@@ -157,11 +142,13 @@ private slots:
         QVERIFY(pDocument->revert());
         QCOMPARE(pDocument->getModel()->project(), saved);
         QVERIFY(!pDocument->isModified());
-        QVERIFY(QFile::remove(pDocument->getFileName()));
+        program.write("a.kelpa", "{\n \"format\": }");
         step(*pDocument, 0, 5);
         const BoxAnswers answers({QMessageBox::Ok});
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not exist"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("a.kelpa: line 2, column"));
         QVERIFY(!pDocument->revert());
+        const QString strText = answers.texts().join('\n').remove(QChar(0x200B)); // a place to break at
+        QVERIFY2(strText.contains(pDocument->getFileName() + " again.\nline 2, column"), qPrintable(strText));
         QCOMPARE(pDocument->getModel()->elements(0).first().x, 5.0);
     }
 
@@ -228,22 +215,6 @@ private slots:
             QVERIFY(pDocument->saveBackup());
             QCOMPARE(entries(program).size(), 2);
         }
-    }
-
-    void aProjectWhoseFileGoesIsNotSavedAnyMore()
-    {
-        TestProgram program;
-        const DocumentManager manager;
-        const auto pDocument = newDocument(program.filePath("a.kelpa"));
-        DocumentManager::addDocument(pDocument.get());
-        for (int i = 0; i < 2; ++i) { // a save puts another file in the place of the one before
-            QVERIFY(pDocument->save());
-            QCoreApplication::processEvents();
-            QVERIFY(!pDocument->isModified());
-        }
-        QVERIFY(QFile::remove(pDocument->getFileName()));
-        QTRY_VERIFY(pDocument->isModified());
-        QVERIFY(StageDocument::isOpenElsewhere(program.filePath("./a.kelpa"), nullptr));
     }
 
     void backupsAreTakenWhenDueAndGoWithASave()
