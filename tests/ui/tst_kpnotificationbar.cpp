@@ -50,9 +50,7 @@ private slots:
     {
         WindowTest::init();
         m_pWindow->resize(800, 600);
-        m_pWindow->show();
-        m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+        showAndWait();
         m_pBar = m_pWindow->getNotificationBar();
     }
 
