@@ -53,6 +53,17 @@ inline QScreen *screenOf(int nDPI)
     return it == screens.end() ? nullptr : *it;
 }
 
+/// Presses keys on the keyboard of the X server, which has its own names for modifiers and letters.
+inline void pressOnServer(QString strKeys)
+{
+    for (const char *pName : {"Ctrl", "Shift", "Alt"})
+        strKeys.replace(QLatin1String(pName), QString::fromLatin1(pName).toLower());
+    if (strKeys.size() == 1 || strKeys.at(strKeys.size() - 2) == QLatin1Char('+'))
+        strKeys = strKeys.toLower();
+    strKeys.replace("Backspace", "BackSpace");
+    QCOMPARE(QProcess::execute("xdotool", {"key", strKeys}), 0);
+}
+
 /// The classes of what takes the keyboard in a window and has no name for screen readers.
 inline QStringList unnamedControls(const QWidget *pWindow)
 {
@@ -197,15 +208,16 @@ class FakeNewDialog : public ICreateDocumentDlg
     Q_OBJECT
 
 public:
-    FakeNewDialog(const QString &strPath, int nResult)
+    FakeNewDialog(const QString &strPath, int nResult, int nFirst = 1)
         : ICreateDocumentDlg(nullptr)
         , m_strPath(strPath)
         , m_nResult(nResult)
+        , m_nFirst(nFirst)
     {
     }
     int exec() override { return m_nResult; }
     QString getFilePath() override { return m_strPath; }
-    int getFirstValue() override { return 1; }
+    int getFirstValue() override { return m_nFirst; }
     int getSecondValue() override { return 2; }
     int getThirdValue() override { return 3; }
     bool getFlag() override { return true; }
@@ -213,6 +225,7 @@ public:
 private:
     const QString m_strPath;
     const int m_nResult;
+    const int m_nFirst;
 };
 
 /// In the pool while it lives.

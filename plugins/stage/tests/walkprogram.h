@@ -16,17 +16,7 @@ public:
     }
     ICreateDocumentDlg *createNewDocumentDialog() override
     {
-        struct Dialog : FakeNewDialog
-        {
-            Dialog(const WalkFactory &factory)
-                : FakeNewDialog(factory.strPath, factory.nResult)
-                , m_nWidth(factory.nWidth)
-            {
-            }
-            int getFirstValue() override { return m_nWidth; }
-            const int m_nWidth;
-        };
-        pDialog = new Dialog(*this);
+        pDialog = new FakeNewDialog(strPath, nResult, nWidth);
         return pDialog;
     }
     QString getOpenFileName() override { return strPath; }
