@@ -109,29 +109,6 @@ private slots:
         }
     }
 
-    void stepsMergeOnlyWhenTheyBelongTogether()
-    {
-        const auto pDocument = newDocument("x");
-        QUndoStack *pStack = pDocument->getUndoStack();
-        pStack->clear();
-        step(*pDocument, 0, 1);
-        step(*pDocument, 0, 10);
-        QCOMPARE(pStack->count(), 1);
-        step(*pDocument, 1, 1); // another element
-        QCOMPARE(pStack->count(), 2);
-        step(*pDocument, 1, -1); // back to the start: nothing happened
-        QCOMPARE(pStack->count(), 1);
-        pStack->setClean();
-        step(*pDocument, 0, 1); // what was saved stays a place to go back to
-        QCOMPARE(pStack->count(), 2);
-        pStack->undo();
-        QVERIFY(pStack->isClean());
-        QCOMPARE(pDocument->getModel()->elements(0).at(0).x, 11.0);
-        for (int i = 0; i < 2; ++i)
-            move(*pDocument, {2}, {0, 1}, Kind::Drag);
-        QCOMPARE(pStack->count(), 3);
-    }
-
     void revertReadsTheFileAgainOrTellsFilePlaceAndReason()
     {
         TestProgram program;

@@ -18,7 +18,7 @@ public:
         , m_random(nSeed)
     {
         QDir().mkpath(m_strFolder);
-        const QStringList names = {"one", "one.two", "a & b", QString::fromUtf8("größe"),
+        const QStringList names = {"one", "one.two", "a & b", "a[*]b", QString::fromUtf8("größe"),
             QString::fromUtf8("日本語"), "50 %1", "x", "X", "7", "8", "9", "10", "11",
             QString("long").repeated(40)};
         for (const QString &strName : names)
@@ -97,16 +97,17 @@ private:
         say("edit", {QString::number(nWhat)});
         if (nWhat == 0) {
             pView->addElement({});
-            pDocument->push(nElements + 1);
+            pDocument->push({nElements + 1});
         } else if (nWhat == 1) {
             pView->selectElements({nElements - 1});
             pView->deleteSelected();
-            pDocument->push(nElements - 1);
+            pDocument->push({nElements - 1});
         } else {
             const int nDistance = pick(2) ? 1 : -1;
-            pView->selectElements({0});
+            const int nElement = pick(qMin(nElements, 2));
+            pView->selectElements({nElement});
             pView->moveSelected(nDistance, 0);
-            pDocument->step(nDistance);
+            pDocument->step(nElement, nDistance);
         }
     }
 

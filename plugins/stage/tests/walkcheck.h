@@ -42,7 +42,7 @@ public:
         same("undo", m_program.command("Edit.Undo")->isEnabled(), pActive && pActive->nIndex > 0);
         same("redo", m_program.command("Edit.Redo")->isEnabled(),
             pActive && pActive->nIndex + 1 < pActive->history.size());
-        same("title", m_program.window->windowTitle(), m_model.title());
+        same("title", m_program.window->windowTitle().replace("[*][*]", "[*]"), m_model.title());
         same("welcome", m_program.welcome.isVisible(), m_model.documents.isEmpty());
         same("documents", DocumentManager::getDocuments().size(), m_model.documents.size());
         same("editors", EditorManager::getEditors().size(), m_model.documents.size());
@@ -75,10 +75,11 @@ private:
             same("elements", pDocument->getModel()->elementCount(), document.elements());
             same("history", pDocument->getUndoStack()->index(), document.nIndex);
             same("mark", pEditor->getSubWindow()->isWindowModified(), document.isModified());
-            const QString strName = document.name() + "[*]";
-            const QStringList ends = // of a long name
-                pEditor->getSubWindow()->windowTitle().replace("&&", "&").split(QChar(0x2026));
-            same("tab title", strName.startsWith(ends.first()) && strName.endsWith(ends.last()), true);
+            const QString strName = document.name() + (document.isModified() ? "*" : "");
+            const QString strTab = m_program.tabs()->tabText(i).replace("&&", "&").remove(QChar(0x2060));
+            const QStringList ends = strTab.split(QChar(0x2026)); // of a long name
+            const bool bEnds = strName.startsWith(ends.first()) && strName.endsWith(ends.last());
+            same("tab", ends.size() > 1 && bEnds ? strName : strTab, strName);
             same("tab path", pEditor->getSubWindow()->windowFilePath(), document.path);
         }
     }
