@@ -105,9 +105,12 @@ private slots:
         QCOMPARE(m_pWindow->pos(), QPoint(103, 98));
         moveCursor({60, 40});
         QCOMPARE(m_pWindow->pos(), QPoint(160, 140));
+        moveOver(m_pMenuBar->actionGeometry(file()).center(), {9, 9}, Qt::LeftButton);
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
         release();
         moveCursor({90, 90});
-        QCOMPARE(m_pWindow->pos(), QPoint(160, 140));
+        QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
     }
 
     void dragEndsWithoutItsRelease_data()
@@ -136,15 +139,6 @@ private slots:
             moveOver(stretchPoint(), {40, 40}, held);
             QCOMPARE(m_pWindow->pos(), before);
         }
-        release();
-    }
-
-    void dragAcrossTheMenusOpensNone()
-    {
-        drag(stretchPoint(), {5, 5});
-        moveOver(m_pMenuBar->actionGeometry(file()).center(), {9, 9}, Qt::LeftButton);
-        QVERIFY(!QApplication::activePopupWidget());
-        QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
         release();
     }
 
