@@ -40,9 +40,7 @@ private slots:
     {
         FakeDocument first;
         auto pSecond = std::make_unique<FakeDocument>();
-        for (IDocument *pDocument :
-            {static_cast<IDocument *>(&first), static_cast<IDocument *>(pSecond.get()),
-                static_cast<IDocument *>(&first), static_cast<IDocument *>(nullptr)})
+        for (IDocument *pDocument : QList<IDocument *> {&first, pSecond.get(), &first, nullptr})
             DocumentManager::addDocument(pDocument);
         QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first, pSecond.get()}));
         QCOMPARE(DocumentManager::getUndoGroup()->stacks().size(), 2);

@@ -99,17 +99,14 @@ class tst_MainWindowClosing : public DocumentTest
 private slots:
     void everyCombinationOfThreeProjects()
     {
-        for (const Case &first : s_cases) {
-            for (const Case &second : s_cases) {
-                for (const Case &third : s_cases) {
-                    closeWith({first, second, third});
-                    if (QTest::currentTestFailed()) {
-                        qInfo("with: %s; %s; %s", first.pName, second.pName, third.pName);
-                        return;
-                    }
-                    clear();
-                }
+        for (int i = 0; i < 9 * 9 * 9; ++i) {
+            const std::array<Case, 3> projects {s_cases[i / 81], s_cases[i / 9 % 9], s_cases[i % 9]};
+            closeWith(projects);
+            if (QTest::currentTestFailed()) {
+                qInfo("with: %s; %s; %s", projects[0].pName, projects[1].pName, projects[2].pName);
+                return;
             }
+            clear();
         }
     }
 

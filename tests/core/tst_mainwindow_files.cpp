@@ -115,8 +115,6 @@ private slots:
         FakeDocument document;
         document.setFileName("/p/a.other");
         QVERIFY(!m_pWindow->loadOpenedDocument(&document, true));
-        document.setFileName("/p/a.kelpa");
-        QVERIFY(m_pWindow->loadOpenedDocument(&document, false));
         QVERIFY(recent().isEmpty());
     }
 
@@ -197,8 +195,6 @@ private slots:
         QVERIFY(!MainWindow::IsFirstRun());
         PluginManager::instance()->setSettings(nullptr);
         QVERIFY(MainWindow::IsFirstRun());
-        PluginManager::instance()->setSettings(
-            std::make_unique<QSettings>(m_pProgram->filePath("u.ini"), QSettings::IniFormat));
     }
 
     void temporaryFolderIsMadeAnewAndLinksInItAreNotFollowed()
