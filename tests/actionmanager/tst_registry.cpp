@@ -158,7 +158,6 @@ private slots:
         QCOMPARE(ContextManager::getContextWidget("Inner"), pInner);
         ContextManager::unregisterContext(&outer, "Inner");
         ContextManager::unregisterContext(&outer, "Outer");
-        QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Inner");
         ContextManager::unregisterContext(pInner, "Inner");
         QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Later");
         ContextManager::unregisterContext(pInner, "Later");
