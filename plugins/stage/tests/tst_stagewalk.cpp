@@ -68,7 +68,7 @@ private:
         if (how == Unwritable)
             expect(QString("Could not save %1: ").arg(strPath), QMessageBox::Cancel);
         act([&] {
-            const FolderGone gone(m_strFolder, how == Unwritable);
+            const auto gone = takeAway(m_strFolder, how == Unwritable);
             m_program.command("File.New")->trigger();
         });
         const QList<bool> left {!factory.pDialog.isNull(), !factory.pDocument.isNull()};
@@ -132,7 +132,7 @@ private:
         if (bFails && pDocument && pDocument->canSave())
             expect(QString("Could not save %1: ").arg(pDocument->path), QMessageBox::Cancel);
         act([&] {
-            const FolderGone gone(m_strFolder, bFails);
+            const auto gone = takeAway(m_strFolder, bFails);
             m_program.command("File.Save")->trigger();
         });
         if (!pDocument || !pDocument->canSave() || bFails)
@@ -194,7 +194,7 @@ private:
         const int nDocument = bByTab ? pick(static_cast<int>(m_model.documents.size())) : m_model.nActive;
         const bool bCloses = answerClosing(m_model.documents[nDocument]);
         act([&] {
-            const FolderGone gone(m_strFolder, m_bSaveFails);
+            const auto gone = takeAway(m_strFolder, m_bSaveFails);
             if (bByTab)
                 emit m_program.tabs()->tabCloseRequested(nDocument);
             else

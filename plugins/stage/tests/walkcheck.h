@@ -75,8 +75,8 @@ private:
             same("elements", pDocument->getModel()->elementCount(), document.elements());
             same("history", pDocument->getUndoStack()->index(), document.nIndex);
             same("mark", pEditor->getSubWindow()->isWindowModified(), document.isModified());
-            const QString strName = document.name() + (document.isModified() ? "*" : "");
-            const QString strTab = m_program.tabs()->tabText(i).replace("&&", "&").remove(QChar(0x2060));
+            const QString strName = document.name().replace('&', "&&") + (document.isModified() ? "*" : "");
+            const QString strTab = m_program.tabs()->tabText(i).remove(QChar(0x2060));
             const QStringList ends = strTab.split(QChar(0x2026)); // of a long name
             const bool bEnds = strName.startsWith(ends.first()) && strName.endsWith(ends.last());
             same("tab", ends.size() > 1 && bEnds ? strName : strTab, strName);
