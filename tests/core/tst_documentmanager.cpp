@@ -10,12 +10,6 @@ QList<QTimer *> timers()
     return DocumentManager::getInstance()->findChildren<QTimer *>();
 }
 
-// Lets a backup timer run out at once.
-void fire(QTimer *pTimer)
-{
-    QMetaObject::invokeMethod(pTimer, "timeout");
-}
-
 } // namespace
 
 class tst_DocumentManager : public QObject
@@ -70,7 +64,7 @@ private slots:
         DocumentManager::startWaitingBackup(&document);
         QCOMPARE(pTimer->interval(), 20000);
         pTimer->stop();
-        fire(pTimer);
+        QMetaObject::invokeMethod(pTimer, "timeout"); // at once
         QCOMPARE(document.calls, QStringList({"saveBackup"}));
         QVERIFY(pTimer->isActive());
 
@@ -83,7 +77,7 @@ private slots:
         auto *pDocument = new FakeDocument;
         DocumentManager::addDocument(pDocument);
         pDocument->onBackup = [=] { DocumentManager::removeDocument(pDocument); };
-        fire(timers().first());
+        QMetaObject::invokeMethod(timers().first(), "timeout");
         QVERIFY(timers().isEmpty());
         delete pDocument;
     }
