@@ -9,24 +9,15 @@ class tst_ActionContainer : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        for (const char *pId : {"MenuBar.Test", "Test.Sub", "Test.Bar"}) {
-            if (ActionContainer *pContainer = ActionManager::getActionContainer(pId)) {
-                delete pContainer->getMenu();
-                delete pContainer->getMenuBar();
-                delete pContainer;
-            }
-            QCOMPARE(ActionManager::getActionContainer(pId), nullptr);
-        }
-    }
+    void init() { m_pProgram = std::make_unique<Program>(); }
+    void cleanup() { m_pProgram.reset(); }
 
     void itemsComeBeforeOthersOrAtTheEnd()
     {
         ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "&Test");
         ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
-        Registered a("Test.A", m_program.window()), b("Test.B", m_program.window());
-        Registered c("Test.C", m_program.window());
+        Registered a("Test.A", m_pProgram->window()), b("Test.B", m_pProgram->window());
+        Registered c("Test.C", m_pProgram->window());
         pMenu->insertAction(a.pCommand);
         pMenu->insertAction(b.pCommand, a.pCommand);
         pMenu->insertMenu(pSub, a.pCommand);
@@ -47,7 +38,7 @@ private slots:
     void separatorsAreNumberedAcrossContainersAndMayHaveAKey()
     {
         for (int i = 0; i < 100; ++i)
-            m_program.settings().setValue(QString("Shortcuts/Separator.%1").arg(i), "Ctrl+9");
+            m_pProgram->settings().setValue(QString("Shortcuts/Separator.%1").arg(i), "Ctrl+9");
         ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
         ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
         pMenu->insertMenu(pSub);
@@ -73,8 +64,8 @@ private slots:
     {
         ActionContainer *pMenu = ActionManager::createMenuContainer("MenuBar.Test", "Test");
         ActionContainer *pSub = ActionManager::createMenuContainer("Test.Sub", "Sub");
-        auto dead = std::make_unique<Registered>("Test.Dead", m_program.window());
-        Registered a("Test.A", m_program.window()), b("Test.B", m_program.window());
+        auto dead = std::make_unique<Registered>("Test.Dead", m_pProgram->window());
+        Registered a("Test.A", m_pProgram->window()), b("Test.B", m_pProgram->window());
         pMenu->insertAction(dead->pCommand);
         pMenu->insertAction(a.pCommand);
         pMenu->insertSeparator();
@@ -99,7 +90,7 @@ private slots:
         } container("Test.Menu");
         QMenu menu;
         container.setMenu(&menu);
-        Registered a("Test.A", m_program.window());
+        Registered a("Test.A", m_pProgram->window());
         container.insertAction(a.pCommand);
         container.insertSeparator();
         for (const bool bEnabled : {true, false, true}) {
@@ -118,7 +109,7 @@ private:
         return texts;
     }
 
-    Program m_program;
+    std::unique_ptr<Program> m_pProgram;
 };
 
 QTEST_MAIN(tst_ActionContainer)

@@ -14,33 +14,6 @@ private slots:
         m_program.settings().clear();
     }
 
-    void oneCommandForAllContexts()
-    {
-        QStringList order;
-        const auto *pManager = ActionManager::getInstance();
-        QWidget panel;
-        connect(pManager, &ActionManager::commandListChanged, &panel, [&] { order += "list"; });
-        connect(pManager, &ActionManager::commandAdded, &panel, [&](const QString &s) { order += s; });
-        {
-            const auto nBefore = m_program.window()->actions().size();
-            Registered global("Edit.Cut", m_program.window()), local("Edit.Cut", &panel);
-            QCOMPARE(order, (QStringList {"list", "Edit.Cut", "list", "Edit.Cut"}));
-            QCOMPARE(m_program.window()->actions().size(), nBefore + 1);
-            QCOMPARE(global.proxy()->objectName(), "Edit.Cut");
-            QCOMPARE(global.proxy()->shortcutContext(), Qt::ApplicationShortcut);
-            order.clear();
-        }
-        QCOMPARE(order, (QStringList {"list", "list"}));
-        QCOMPARE(ActionManager::getAction("Edit.Cut"), nullptr);
-        order.clear();
-        QAction action;
-        ActionManager::unregisterAction(&action, "Edit.Unknown");
-        QCOMPARE(ActionManager::registerAction(nullptr, "Edit.Cut", &panel, false), nullptr);
-        QCOMPARE(ActionManager::registerAction(&action, "Edit.Cut", nullptr, false), nullptr);
-        QCOMPARE(ActionManager::registerAction(&action, QString(), &panel, false), nullptr);
-        QVERIFY(order.isEmpty());
-    }
-
     void aCommandIsNeverItsOwnAction()
     {
         QWidget panel;

@@ -6,16 +6,6 @@
 #include <actionmanager/shortcuts.h>
 #include <icore.h>
 
-namespace {
-
-QString contents(const char *pFileName)
-{
-    QFile file(QString::fromUtf8(pFileName));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-} // namespace
-
 class tst_DocsCommands : public QObject
 {
     Q_OBJECT
@@ -23,8 +13,8 @@ class tst_DocsCommands : public QObject
 private slots:
     void thePageShowsThisCode()
     {
-        const QString strCode = contents(SNIPPETS).simplified();
-        const QStringList parts = contents(PAGE).split("```");
+        const QString strCode = QString(contentOf(SNIPPETS)).simplified();
+        const QStringList parts = QString(contentOf(PAGE)).split("```");
         QVERIFY(parts.size() > 2 * 6);
         for (qsizetype i = 1; i < parts.size(); i += 2)
             QVERIFY2(strCode.contains(parts.at(i).mid(3).simplified()), qPrintable(parts.at(i)));

@@ -9,28 +9,56 @@ namespace {
 
 using Action = QPointer<QAction>;
 
+// What menus and tool bars show of an action.
+struct Look
+{
+    bool bEnabled = false, bVisible = true, bCheckable = false, bChecked = false;
+    QString text, iconText, toolTip;
+
+    bool operator==(const Look &) const = default;
+};
+
+Look lookOf(const QAction *p)
+{
+    return {p->isEnabled(), p->isVisible(), p->isCheckable(), p->isChecked(), p->text(), p->iconText(),
+        p->toolTip()};
+}
+
 // What a command is to do, by the book: every command is looked at on every change of context.
 struct ModelCommand
 {
+    Look look;
     std::map<QWidget *, Action> actions;
     QWidget *pCurrent = nullptr;
     QKeySequence keys, builtIn;
-    bool bHides = false, bEnabled = false, bVisible = true;
+    bool bHides = false, bMirrorsText = false, bMirrorsIcon = false;
 
     void point(QWidget *pContext, QWidget *pMain)
     {
         pCurrent = actions.count(pContext) ? pContext : pMain;
-        bEnabled = false;
-        bVisible = bVisible && !bHides;
-        look();
+        look.bEnabled = false;
+        look.bVisible = look.bVisible && !bHides;
+        follow(live());
     }
     // What an action looked like last remains when it dies.
-    void look()
+    void follow(const QAction *pAction)
     {
-        if (const QAction *pLive = live()) {
-            bEnabled = pLive->isEnabled();
-            bVisible = pLive->isVisible();
+        if (!pAction)
+            return;
+        const Look before = std::exchange(look, lookOf(pAction));
+        if (!bMirrorsText) {
+            look.text = before.text;
+            look.toolTip = before.toolTip;
         }
+        if (!bMirrorsIcon)
+            look.iconText = before.iconText;
+    }
+    [[nodiscard]] Look shown() const
+    {
+        Look result = look;
+        if (!keys.isEmpty())
+            result.toolTip += '\t' + keys.toString(QKeySequence::NativeText);
+        return result;
     }
     QAction *live() const { return actions.count(pCurrent) ? actions.at(pCurrent).data() : nullptr; }
 };
@@ -42,6 +70,7 @@ struct Model
     std::vector<Context> contexts;
     std::map<QString, ModelCommand> commands;
     std::map<QString, QString> store;
+    QStringList told; ///< the ids of commands that came, and nothing for each change of the list
 
     void setContext(QWidget *pWidget)
     {
@@ -54,10 +83,13 @@ struct Model
     {
         const bool bNew = !commands.count(strId);
         ModelCommand &command = commands[strId];
+        if (bNew)
+            command.look = lookOf(pAction);
         if (bNew && store.count(strId))
             command.keys = QKeySequence(store.at(strId), QKeySequence::NativeText);
         command.actions.emplace(pWidget, pAction);
         command.point(pWidget, pMain);
+        told.append({QString(), strId});
     }
 
     void remove(QAction *pAction, const QString &strId)
@@ -65,10 +97,12 @@ struct Model
         if (!commands.count(strId))
             return;
         ModelCommand &command = commands[strId];
+        command.follow(command.live());
         std::erase_if(command.actions, [=](auto &entry) { return !entry.second || entry.second == pAction; });
         command.point(command.pCurrent, pMain);
         if (command.actions.empty())
             commands.erase(strId);
+        told.append(QString());
     }
 
     QWidget *activeContext(QWidget *pWidget) const
@@ -101,6 +135,10 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(m_program.window()));
         m_model.pMain = m_program.window();
         m_program.window()->installEventFilter(this);
+        m_nOwnActions = m_program.window()->actions().size();
+        const auto *pManager = ActionManager::getInstance();
+        connect(pManager, &ActionManager::commandListChanged, this, [this] { m_told.append(QString()); });
+        connect(pManager, &ActionManager::commandAdded, this, [this](auto strId) { m_told.append(strId); });
     }
 
     void theInnermostContextCountsAndTheFirstOfAWidget()
@@ -120,7 +158,6 @@ private slots:
         QCOMPARE(ContextManager::getContextWidget("Inner"), pInner);
         ContextManager::unregisterContext(&outer, "Inner");
         ContextManager::unregisterContext(&outer, "Outer");
-        QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Inner");
         ContextManager::unregisterContext(pInner, "Inner");
         QCOMPARE(ContextManager::getActiveContext(pLeaf).id, "Later");
         ContextManager::unregisterContext(pInner, "Later");
@@ -150,6 +187,16 @@ private slots:
         QCOMPARE(local.proxy()->action(), &local.action);
         local.pCommand->setVisible(false);
         QVERIFY(!global.action.isVisible() && !local.action.isVisible() && !local.proxy()->isVisible());
+    }
+
+    void whatIsNoActionIsRefused()
+    {
+        QAction action;
+        ActionManager::unregisterAction(&action, "Edit.Unknown");
+        QCOMPARE(ActionManager::registerAction(nullptr, "Edit.Cut", m_pContent, false), nullptr);
+        QCOMPARE(ActionManager::registerAction(&action, "Edit.Cut", nullptr, false), nullptr);
+        QCOMPARE(ActionManager::registerAction(&action, QString(), m_pContent, false), nullptr);
+        QVERIFY(m_told.isEmpty() && ActionManager::getActions().isEmpty());
     }
 
     void behavesLikeTheModel_data()
@@ -191,10 +238,13 @@ private slots:
         QVERIFY(ActionManager::getActions().isEmpty());
         m_program.settings().clear();
         m_model.store.clear();
+        m_model.told.clear();
+        m_told.clear();
     }
 
 private:
     int below(int nEnd) { return static_cast<int>(m_random.bounded(nEnd)); }
+    QString anyText() { return QString("&Do %1...").arg(below(9)); }
     QString anyId() { return QString("Test.%1").arg(below(10)); }
     QKeySequence anyKeys()
     {
@@ -264,7 +314,7 @@ private:
     {
         QAction *pAction = below(3) ? nullptr : anyAction();
         if (!pAction) {
-            pAction = new QAction;
+            pAction = new QAction(anyText());
             pAction->setEnabled(below(4));
             pAction->setCheckable(below(2));
             connect(pAction, &QAction::triggered, this, [this, pAction] { fired(pAction); });
@@ -287,9 +337,18 @@ private:
         if (command.keys.isEmpty())
             command.keys = builtIn;
         command.bHides = builtIn[0].key() % 2;
+        auto *pProxy = static_cast<ProxyAction *>(pCommand->getAction());
         if (command.bHides)
-            static_cast<ProxyAction *>(pCommand->getAction())->setAttribute(ProxyAction::HideWhenNoAction);
+            pProxy->setAttribute(ProxyAction::HideWhenNoAction);
+        mirror(pProxy, ProxyAction::MirrorText, &command.bMirrorsText);
+        mirror(pProxy, ProxyAction::MirrorIcon, &command.bMirrorsIcon);
         command.point(pContext, m_model.pMain);
+    }
+
+    void mirror(ProxyAction *pProxy, ProxyAction::Attribute attribute, bool *pMirrors)
+    {
+        *pMirrors = below(2);
+        *pMirrors ? pProxy->setAttribute(attribute) : pProxy->removeAttribute(attribute);
     }
 
     bool eventFilter(QObject *, QEvent *pEvent) override
@@ -343,11 +402,15 @@ private:
     void toggleAny()
     {
         QAction *pAction = anyAction();
-        const int nKind = below(3);
+        const int nKind = below(5);
         if (pAction && nKind == 0)
             pAction->setEnabled(!pAction->isEnabled());
         else if (pAction && nKind == 1)
             pAction->setVisible(!pAction->isVisible());
+        else if (pAction && nKind == 2)
+            pAction->setText(anyText());
+        else if (pAction && nKind == 3)
+            pAction->setIconText(anyText());
         else if (pAction && pAction->isCheckable())
             pAction->toggle();
     }
@@ -408,9 +471,12 @@ private:
         m_bUnregisterOnFire = !below(4);
         std::vector<QAction *> expected;
         if (m_model.commands.count(strId)) {
+            Look &look = m_model.commands.at(strId).look;
             QAction *pLive = m_model.commands.at(strId).live();
             if (pLive && pLive->isEnabled())
                 expected.push_back(pLive);
+            else if (look.bEnabled && look.bCheckable) // of an action that died
+                look.bChecked = !look.bChecked;
             ActionManager::getAction(strId)->getAction()->trigger();
         }
         QCOMPARE(m_fired, expected);
@@ -424,18 +490,26 @@ private:
         QStringList expected;
         for (auto &[strId, command] : m_model.commands) {
             expected.append(strId);
-            command.look();
+            command.follow(command.live());
             const ContextAction *pCommand = ActionManager::getAction(strId);
             QVERIFY(pCommand);
             const auto *pProxy = static_cast<const ProxyAction *>(pCommand->getAction());
             QCOMPARE(pProxy->action(), command.live());
             looksLikeItsAction(pProxy);
-            QCOMPARE(pProxy->isEnabled(), command.bEnabled);
+            QCOMPARE(pProxy->isEnabled(), command.look.bEnabled);
             if (!m_bListens)
-                QCOMPARE(pProxy->isVisible(), command.bVisible);
+                QCOMPARE(lookOf(pProxy), command.shown());
+            QCOMPARE(pProxy->objectName(), strId);
+            QCOMPARE(pProxy->shortcutContext(), Qt::ApplicationShortcut);
+            QVERIFY(m_program.window()->actions().contains(pCommand->getAction()));
             QCOMPARE(pCommand->getKeySequence(), command.keys);
         }
         QCOMPARE(ids, expected);
+        QCOMPARE(m_program.window()->actions().size(), m_nOwnActions + ids.size());
+        const QStringList told = std::exchange(m_told, {});
+        const QStringList toTell = std::exchange(m_model.told, {});
+        if (!m_bListens)
+            QCOMPARE(told, toTell);
     }
 
     Program m_program;
@@ -447,6 +521,8 @@ private:
     std::vector<QAction *> m_actions;
     std::vector<QAction *> m_fired;
     QString m_strTriggered;
+    QStringList m_told;
+    qsizetype m_nOwnActions = 0;
     bool m_bUnregisterOnFire = false;
     bool m_bListens = false;
     int m_nReactions = 0;

@@ -103,19 +103,12 @@ private:
         QTRY_COMPARE(QApplication::focusWidget(), pWidget);
     }
 
-    // The server's keyboard knows lower-case letters and its own names for keys.
     static void press(const char *pKeys)
     {
-        if (QGuiApplication::platformName() != "xcb") {
-            const QKeySequence sequence = keys(pKeys);
-            QTest::keyClick(QApplication::focusWidget(), sequence[0].key(), sequence[0].keyboardModifiers());
-            return;
-        }
-        QString strKeys =
-            QString::fromLatin1(pKeys).replace("Ctrl", "ctrl").replace("Backspace", "BackSpace");
-        if (strKeys.size() == 1 || strKeys.startsWith("ctrl+"))
-            strKeys = strKeys.toLower();
-        QCOMPARE(QProcess::execute("xdotool", {"key", strKeys}), 0);
+        if (QGuiApplication::platformName() == "xcb")
+            return pressOnServer(pKeys);
+        const QKeySequence sequence = keys(pKeys);
+        QTest::keyClick(QApplication::focusWidget(), sequence[0].key(), sequence[0].keyboardModifiers());
     }
 
     Program m_program;

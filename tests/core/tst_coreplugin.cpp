@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
 #include <extensionsystem/iplugin.h>
 #include <icore.h>
-#include <mainwindow.h>
 
 using ExtensionSystem::IPlugin;
 using ExtensionSystem::PluginManager;
 
-class tst_CorePlugin : public QObject
+class tst_CorePlugin : public DocumentTest
 {
     Q_OBJECT
 
@@ -30,7 +29,7 @@ private slots:
     {
         m_pFactory.reset();
         delete m_pPlugin;
-        m_pProgram.reset();
+        DocumentTest::cleanup();
     }
 
     void lifeFromConstructionToTheEnd()
@@ -130,8 +129,6 @@ private:
         return result;
     }
 
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<FakeFactory> m_pFactory;
     QPluginLoader m_loader;
     IPlugin *m_pPlugin = nullptr;
 };

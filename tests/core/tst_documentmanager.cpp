@@ -10,12 +10,6 @@ QList<QTimer *> timers()
     return DocumentManager::getInstance()->findChildren<QTimer *>();
 }
 
-// Lets a backup timer run out at once.
-void fire(QTimer *pTimer)
-{
-    QMetaObject::invokeMethod(pTimer, "timeout");
-}
-
 } // namespace
 
 class tst_DocumentManager : public QObject
@@ -40,9 +34,7 @@ private slots:
     {
         FakeDocument first;
         auto pSecond = std::make_unique<FakeDocument>();
-        for (IDocument *pDocument :
-            {static_cast<IDocument *>(&first), static_cast<IDocument *>(pSecond.get()),
-                static_cast<IDocument *>(&first), static_cast<IDocument *>(nullptr)})
+        for (IDocument *pDocument : QList<IDocument *> {&first, pSecond.get(), &first, nullptr})
             DocumentManager::addDocument(pDocument);
         QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first, pSecond.get()}));
         QCOMPARE(DocumentManager::getUndoGroup()->stacks().size(), 2);
@@ -72,7 +64,7 @@ private slots:
         DocumentManager::startWaitingBackup(&document);
         QCOMPARE(pTimer->interval(), 20000);
         pTimer->stop();
-        fire(pTimer);
+        QMetaObject::invokeMethod(pTimer, "timeout"); // at once
         QCOMPARE(document.calls, QStringList({"saveBackup"}));
         QVERIFY(pTimer->isActive());
 
@@ -85,7 +77,7 @@ private slots:
         auto *pDocument = new FakeDocument;
         DocumentManager::addDocument(pDocument);
         pDocument->onBackup = [=] { DocumentManager::removeDocument(pDocument); };
-        fire(timers().first());
+        QMetaObject::invokeMethod(timers().first(), "timeout");
         QVERIFY(timers().isEmpty());
         delete pDocument;
     }

@@ -31,7 +31,10 @@ private slots:
         install(
             {"app_pt_BR.qm", "app_de_DE.qm", "App_fr_FR.txt", "app_en_US.qm", "other_es_ES.qm", "app_.qm"});
         const auto listed = initialize();
-        QCOMPARE(ids(listed), QStringList({"en_US", "C", "de_DE", "en_US", "pt_BR"}));
+        QStringList ids;
+        for (const LanguageInfo *pInfo : listed)
+            ids.append(pInfo->id);
+        QCOMPARE(ids, QStringList({"en_US", "C", "de_DE", "en_US", "pt_BR"}));
         const LanguageInfo *pPortuguese = listed.last();
         QCOMPARE(pPortuguese->language, "Portuguese");
         QCOMPARE(pPortuguese->country, "Brazil");
@@ -79,14 +82,6 @@ private:
     {
         const auto nBefore = manager().getLanguages().size();
         return manager().initialize() ? manager().getLanguages().mid(nBefore) : QList<LanguageInfo *>();
-    }
-
-    static QStringList ids(const QList<LanguageInfo *> &languages)
-    {
-        QStringList result;
-        for (const LanguageInfo *pInfo : languages)
-            result.append(pInfo->id);
-        return result;
     }
 
     void install(const QStringList &files) const

@@ -111,26 +111,6 @@ private slots:
         delete found[0];
     }
 
-    void boxReturnsTheButton_data()
-    {
-        const auto row =
-            columns<QMessageBox::StandardButton, QMessageBox::StandardButton>("clicked", "result");
-        row("yes", QMessageBox::Yes, QMessageBox::Yes);
-        row("no", QMessageBox::No, QMessageBox::No);
-        row("closed without a button", QMessageBox::NoButton, QMessageBox::Cancel);
-    }
-    void boxReturnsTheButton()
-    {
-        QFETCH(QMessageBox::StandardButton, clicked);
-        BoxAnswers boxes({clicked});
-        const auto buttons = QMessageBox::Yes | QMessageBox::No;
-        const auto result = IUi::question(nullptr, "Kelpa Studio", "Really?", buttons, QMessageBox::No);
-        QTEST(result, "result");
-        QCOMPARE(boxes.boxes.first().buttons, buttons);
-        QCOMPARE(boxes.boxes.first().defaultButton, QMessageBox::No);
-        QCOMPARE(boxes.boxes.first().pParent, m_pWindow.get());
-    }
-
     void aBoxThatDiesWithItsParentSaysCancel()
     {
         QPointer<QWidget> pParent = new QWidget;

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <icore.h>
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
 
-#include <QElapsedTimer>
-#include <QProcess>
 #include <QUndoGroup>
 
 using ExtensionSystem::PluginManager;
@@ -35,6 +31,9 @@ constexpr Case s_cases[] = {
     {"temporary, no", false, true, QMessageBox::No, true, true},
     {"temporary, cancel", true, true, QMessageBox::Cancel, true, false},
 };
+
+// When a slot deletes a document.
+enum Moment { Opened, Activated, AboutToClose, ClosingRequested, AboutToDeactivate, Deactivated };
 
 // What must be left after closing the window with three projects.
 struct Outcome
@@ -93,110 +92,69 @@ Outcome expected(const std::array<Case, 3> &projects)
 
 } // namespace
 
-class tst_MainWindowClosing : public QObject
+class tst_MainWindowClosing : public DocumentTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-        m_pFactory = std::make_unique<FakeFactory>();
-    }
-
-    void cleanup()
-    {
-        clear();
-        m_pFactory.reset();
-        m_pWindow.reset();
-        m_pProgram.reset();
-    }
-
     void everyCombinationOfThreeProjects()
     {
-        for (const Case &first : s_cases) {
-            for (const Case &second : s_cases) {
-                for (const Case &third : s_cases) {
-                    closeWith({first, second, third});
-                    if (QTest::currentTestFailed()) {
-                        qInfo("with: %s; %s; %s", first.pName, second.pName, third.pName);
-                        return;
-                    }
-                    clear();
-                }
+        for (int i = 0; i < 9 * 9 * 9; ++i) {
+            const std::array<Case, 3> projects {s_cases[i / 81], s_cases[i / 9 % 9], s_cases[i % 9]};
+            closeWith(projects);
+            if (QTest::currentTestFailed()) {
+                qInfo("with: %s; %s; %s", projects[0].pName, projects[1].pName, projects[2].pName);
+                return;
             }
+            clear();
         }
     }
 
-    void aDocumentMayGoInsideItsOwnClosing_data()
+    void aDocumentMayGoAtAnyMoment_data()
     {
-        const auto row = columns<int>("moment");
-        row("when it is about to close", 0);
-        row("when its closing is requested", 1);
-        row("when its editor is about to be deactivated", 2);
-        row("when its editor was deactivated", 3);
+        const auto row = columns<Moment, bool>("moment", "isNew");
+        row("opened, when it says so", Opened, false);
+        row("opened, when its editor becomes active", Activated, false);
+        row("new, when it says so", Opened, true);
+        row("new, when its editor becomes active", Activated, true);
+        row("when it is about to close", AboutToClose, false);
+        row("when its closing is requested", ClosingRequested, false);
+        row("when its editor is about to be deactivated", AboutToDeactivate, false);
+        row("when its editor was deactivated", Deactivated, false);
     }
-
-    void aDocumentMayGoInsideItsOwnClosing()
+    void aDocumentMayGoAtAnyMoment()
     {
-        QFETCH(int, moment);
-        m_pFactory->prepare = [this, moment](FakeDocument *pDoc) {
-            const auto kill = [pDoc = QPointer(pDoc)] { delete pDoc; };
-            if (moment == 0)
-                connect(pDoc, &IDocument::aboutToClose, this, kill);
-            else if (moment == 1)
-                connect(pDoc, &IDocument::requestClosing, this, kill);
-            m_pDoomed = pDoc;
+        QFETCH(Moment, moment);
+        QFETCH(bool, isNew);
+        QPointer<IDocument> pDoomed;
+        const QObject scope;
+        const auto dieOn = [&](Moment at, auto *pSender, auto signal) {
+            if (at == moment)
+                connect(pSender, signal, &scope, [&] { delete pDoomed; });
         };
-        m_pFactory->onEditor = [this, moment](IEditor *pEditor) {
-            if (moment == 2)
-                connect(pEditor, &IEditor::aboutToDeactivate, this, [this] { delete m_pDoomed; });
+        m_pFactory->strNewPath = m_pProgram->write("a.kelpa");
+        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+            pDoomed = pDoc;
+            dieOn(Opened, pDoc, &IDocument::aboutToOpen);
+            dieOn(AboutToClose, pDoc, &IDocument::aboutToClose);
+            dieOn(ClosingRequested, pDoc, &IDocument::requestClosing);
         };
-        QVERIFY(m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
+        m_pFactory->onEditor = [&](IEditor *pEditor) {
+            dieOn(AboutToDeactivate, pEditor, &IEditor::aboutToDeactivate);
+        };
+        dieOn(Activated, EditorManager::getInstance(), &EditorManager::editorActivated);
+        dieOn(Deactivated, EditorManager::getInstance(), &EditorManager::editorDeactivated);
+        isNew ? m_pWindow->fileNew() : void(m_pWindow->loadFile(m_pFactory->strNewPath));
         m_pFactory->prepare = nullptr;
-        m_pFactory->onEditor = nullptr;
-        if (moment == 3)
-            connect(EditorManager::getInstance(), &EditorManager::editorDeactivated, this,
-                [this] { delete m_pDoomed; });
+        QCOMPARE(pDoomed.isNull(), moment <= Activated);
+        QCOMPARE(DocumentManager::getDocuments().isEmpty(), pDoomed.isNull());
+        QCOMPARE(!DocumentManager::getUndoGroup()->activeStack(), pDoomed.isNull());
         m_pWindow->show();
         QVERIFY(m_pWindow->close());
-        QVERIFY(!m_pDoomed);
-        QVERIFY(DocumentManager::getDocuments().isEmpty());
+        QVERIFY(!pDoomed && DocumentManager::getDocuments().isEmpty());
         for (const IEditor *pEditor : EditorManager::getEditors())
             QVERIFY(!pEditor->getDocument());
         QVERIFY(m_pWindow->loadFile(m_pProgram->write("b.kelpa")));
-    }
-
-    void aDocumentMayGoWhileItIsOpened_data()
-    {
-        const auto row = columns<bool, bool>("create", "activated");
-        row("opened, when it says so", false, false);
-        row("opened, when its editor becomes active", false, true);
-        row("new, when it says so", true, false);
-        row("new, when its editor becomes active", true, true);
-    }
-
-    void aDocumentMayGoWhileItIsOpened()
-    {
-        QFETCH(bool, create);
-        QFETCH(bool, activated);
-        m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
-        m_pFactory->prepare = [this, activated](FakeDocument *pDoc) {
-            if (!activated)
-                connect(pDoc, &IDocument::aboutToOpen, this, [pDoc = QPointer(pDoc)] { delete pDoc; });
-        };
-        if (activated) {
-            connect(EditorManager::getInstance(), &EditorManager::editorActivated, this,
-                [](IEditor *pEditor) { delete pEditor->getDocument(); });
-        }
-        if (create)
-            m_pWindow->fileNew();
-        else
-            m_pWindow->loadFile(m_pProgram->write("a.kelpa"));
-        QVERIFY(m_pFactory->documents.first().isNull());
-        QVERIFY(DocumentManager::getDocuments().isEmpty());
-        QVERIFY(!DocumentManager::getUndoGroup()->activeStack());
     }
 
     void forcedEndAsksNobodyTwiceAndKeepsTheWorkingFolder()
@@ -230,7 +188,7 @@ private slots:
         }
         QVERIFY(first.waitForFinished() && second.waitForFinished());
         PluginManager::settings()->sync();
-        QStringList files = IRecentFilesManager::getInstance()->getRecentFiles();
+        QStringList files = recent();
         files.sort();
         QStringList all;
         for (const char *pName : {"first", "second"}) {
@@ -252,10 +210,10 @@ private slots:
     }
 
 private:
-    void load(int nProject, const Case &project)
+    void loadAs(int nProject, const Case &project)
     {
         m_pFactory->prepare = [&](FakeDocument *pDoc) {
-            pDoc->bSaveSucceeds = pDoc->bSaveAsSucceeds = project.bSaves;
+            pDoc->bSaveSucceeds = project.bSaves;
             pDoc->strSaveAsName = keptPathOf(nProject);
         };
         m_pWindow->loadFile(pathOf(nProject));
@@ -270,7 +228,7 @@ private:
         QList<QMessageBox::StandardButton> answers;
         for (int i = 0; i < 3; ++i) {
             const Case &project = projects.at(std::size_t(i));
-            load(i, project);
+            loadAs(i, project);
             QList<QMessageBox::StandardButton> own;
             if (project.answer != QMessageBox::NoButton)
                 own.append(project.answer);
@@ -279,6 +237,10 @@ private:
             answers = own + answers;
         }
         m_pWindow->show();
+        EditorManager::activateEditor(EditorManager::getEditors().first());
+        QFile working(m_pWindow->getDefaultTempPath() + "/scratch");
+        QVERIFY(working.open(QIODevice::WriteOnly));
+        const QSignalSpy saving(ICore::getInstance(), &ICore::aboutToSaveSettings);
         const BoxAnswers boxes(answers);
         QStringList calls;
         std::array<QStringList, 3> log;
@@ -296,6 +258,8 @@ private:
         const Outcome outcome = expected(projects);
         QCOMPARE(bClosed, outcome.bClosed);
         QCOMPARE(m_pWindow->isVisible(), !outcome.bClosed);
+        QCOMPARE(working.exists(), !outcome.bClosed);
+        QCOMPARE(saving.count(), 1);
         QCOMPARE(m_pFactory->deleted, outcome.deleted);
         QCOMPARE(boxes.texts(), outcome.boxes);
         for (const auto &box : boxes.boxes) {
@@ -305,8 +269,10 @@ private:
             QCOMPARE(box.defaultButton, box.text.startsWith("Save") ? QMessageBox::Yes : QMessageBox::Ok);
         }
         QCOMPARE(calls, outcome.calls);
-        QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles(), outcome.recent);
+        QCOMPARE(recent(), outcome.recent);
         QCOMPARE(EditorManager::getEditors().size(), 3 - outcome.deleted.size());
+        QCOMPARE(
+            EditorManager::activeEditor(), EditorManager::getEditors().value(2 - outcome.deleted.size()));
         QCOMPARE(DocumentManager::getDocuments().size(), 3 - outcome.deleted.size());
     }
 
@@ -323,11 +289,6 @@ private:
         m_pFactory->deleted.clear();
         PluginManager::settings()->clear();
     }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
-    std::unique_ptr<FakeFactory> m_pFactory;
-    QPointer<FakeDocument> m_pDoomed; ///< slots that delete it stay connected to the end of the test
 };
 
 // A program of its own that adds five recent projects to the store.

@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
-
-#include <QMenu>
-#include <QMenuBar>
-#include <QToolBar>
-#include <QTranslator>
-#include <QUndoGroup>
 
 #include <private/qabstractfileengine_p.h>
 
@@ -70,11 +62,10 @@ private:
     mutable std::atomic_int m_nAsked;
 };
 
-const QString s_recentKey = QStringLiteral("Kelpa/RecentProjects");
-
 } // namespace
 
-class tst_MainWindowCommands : public QObject
+// The walk through the stage looks at what is enabled, and at the menu of recent projects.
+class tst_MainWindowCommands : public DocumentTest
 {
     Q_OBJECT
 
@@ -89,21 +80,8 @@ private slots:
 
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
+        DocumentTest::init();
         ILanguageManager::getInstance().setSettings(PluginManager::settings());
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-        m_pFactory = std::make_unique<FakeFactory>();
-    }
-
-    void cleanup()
-    {
-        for (const auto &pDocument : std::as_const(m_pFactory->documents))
-            delete pDocument;
-        for (const auto &pEditor : std::as_const(m_pFactory->editors))
-            delete pEditor;
-        m_pFactory.reset();
-        m_pWindow.reset();
-        m_pProgram.reset();
     }
 
     void menusReadAsDesigned()
@@ -147,7 +125,7 @@ private slots:
     {
         m_pWindow.reset();
         const NewIdTranslator catalogue;
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pWindow = std::make_unique<TestWindow>();
         QVERIFY(ActionManager::getAction("translated"));
         QVERIFY(!m_pWindow->getFileToolbar()->actions().first()->text().contains("New"));
         emit m_pWindow->dpiChanged(150);
@@ -156,89 +134,27 @@ private slots:
         QCOMPARE(EditorManager::getEditors().size(), 1);
     }
 
-    void savingIsOfferedExactlyWhenItMakesSense()
+    void withoutADocumentThereIsNothingToSaveOrClose()
     {
-        FakeDocument *pDoc = load("a.kelpa");
-        pDoc->bSaveAsSucceeds = false;
-        m_pWindow->fileSaveAs();
-        QVERIFY(!enabled("File.Save"));
-        pDoc->modify();
-        m_pWindow->fileSaveAs();
-        QVERIFY(enabled("File.Save"));
-        pDoc->bSaveSucceeds = false;
-        m_pWindow->fileSave();
-        QVERIFY(enabled("File.Save"));
-        pDoc->bSaveSucceeds = true;
-        m_pWindow->fileSave();
-        QVERIFY(!enabled("File.Save"));
-
-        pDoc->setIsTempDocument(true);
-        pDoc->modify();
-        pDoc->stack.setClean();
-        QVERIFY2(enabled("File.Save"), "a temporary project can always be saved");
-        m_pWindow->fileSaveAs();
-        QVERIFY(enabled("File.Save"));
-        pDoc->bSaveAsSucceeds = true;
-        pDoc->strSaveAsName = "/p/kept.kelpa";
-        m_pWindow->fileSaveAs();
-        QVERIFY(!enabled("File.Save"));
-        pDoc->modify();
-        QVERIFY(enabled("File.Save"));
-        emit pDoc->requestClosing(false);
-        QVERIFY2(!enabled("File.Save"), "there is nothing to save");
-    }
-
-    void closeAndSaveAsFollowTheActiveEditor()
-    {
-        const auto all = [] {
-            const bool bMenu = ActionManager::getActionContainer("File.SaveAs")->getMenu()->isEnabled();
-            return QList<bool> {bMenu, enabled("File.SaveAs.Project"), enabled("File.Close")};
-        };
-        const QList<bool> on(3, true), off(3, false);
-        QCOMPARE(all(), off);
-        FakeDocument *pDoc = load("a.kelpa");
-        QCOMPARE(all(), on);
-        load("b.kelpa");
-        emit pDoc->requestClosing(false);
-        QCOMPARE(all(), on);
-        m_pWindow->fileClose();
-        QCOMPARE(all(), off);
         IEditor empty;
+        load("a.kelpa");
         EditorManager::addEditor(&empty);
         EditorManager::activateEditor(&empty);
-        QCOMPARE(all(), off);
-        QVERIFY(!enabled("File.Save"));
-    }
-
-    void recentProjectsAreNumberedAndOddNamesKept()
-    {
-        const QString strLong = "/p/" + QString(4000, 'x') + ".kelpa";
-        PluginManager::settings()->setValue(
-            s_recentKey, QStringList({"/a & b/c d.kelpa", QString::fromUtf8("/ж/動画.kelpa"), strLong}));
-        m_pWindow->updateRecentFileActions();
-        QMenu *pMenu = ActionManager::getActionContainer("File.Recent_Projects")->getMenu();
-        QVERIFY(pMenu->isEnabled());
-        QCOMPARE(lines(pMenu->actions()),
-            QStringList({"1. /a & b/c d.kelpa", QString::fromUtf8("2. /ж/動画.kelpa"), "3. " + strLong}));
-
-        PluginManager::settings()->setValue(s_recentKey, QStringList(30, "/other/program.kelpa"));
-        m_pWindow->updateRecentFileActions();
-        QCOMPARE(lines(pMenu->actions()).size(), 10);
-        QVERIFY(!ActionManager::getAction("File.Recent_Projects.Project_0"));
-        QVERIFY(!ActionManager::getAction("File.Recent_Projects.Project_11"));
-
-        PluginManager::settings()->remove(s_recentKey);
-        m_pWindow->updateRecentFileActions();
-        QVERIFY(!pMenu->isEnabled() && lines(pMenu->actions()).isEmpty());
+        for (const char *pId : {"File.Save", "File.SaveAs.Project", "File.Close"})
+            QVERIFY2(!ActionManager::getAction(pId)->getAction()->isEnabled(), pId);
+        m_pWindow->fileSave();
+        m_pWindow->fileSaveAs();
+        m_pWindow->fileClose();
+        QCOMPARE(EditorManager::getEditors().size(), 2);
     }
 
     void theMenuOpensWithoutAskingADriveThatDoesNotAnswer()
     {
         const SilentDrive drive;
         PluginManager::settings()->setValue(
-            s_recentKey, QStringList({"/silent/a.kelpa", "/silent/b.kelpa", "/silent/b"}));
+            "Kelpa/RecentProjects", QStringList({"/silent/a.kelpa", "/silent/b.kelpa", "/silent/b"}));
         m_pWindow.reset();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pWindow = std::make_unique<TestWindow>();
         m_pWindow->show();
         load("open.kelpa");
         QMenu *pMenu = ActionManager::getActionContainer("File.Recent_Projects")->getMenu();
@@ -250,36 +166,6 @@ private slots:
         BoxAnswers boxes({QMessageBox::No});
         ActionManager::getAction("File.Recent_Projects.Project_2")->getAction()->trigger();
         QVERIFY(drive.timesAsked() > 0);
-    }
-
-    void anEntryOpensItsProject()
-    {
-        load("a.kelpa");
-        load("b.kelpa");
-        m_pWindow->fileClose();
-        m_pWindow->fileClose();
-        ActionManager::getAction("File.Recent_Projects.Project_2")->getAction()->trigger();
-        QCOMPARE(m_pFactory->documents.last()->getFileName(), m_pProgram->filePath("a.kelpa"));
-        const QMenu *pMenu = ActionManager::getActionContainer("File.Recent_Projects")->getMenu();
-        QCOMPARE(lines(pMenu->actions()).first(), "1. " + m_pProgram->filePath("a.kelpa"));
-    }
-
-    void anEntryThatIsGoneIsRemovedOnlyWhenTheUserAgrees()
-    {
-        PluginManager::settings()->setValue(s_recentKey, QStringList({"/gone/away.kelpa"}));
-        m_pWindow->updateRecentFileActions();
-        QAction *pEntry = ActionManager::getAction("File.Recent_Projects.Project_1")->getAction();
-        BoxAnswers boxes({QMessageBox::No, QMessageBox::Yes});
-        pEntry->trigger();
-        QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles().size(), 1);
-        pEntry->trigger();
-        QVERIFY(IRecentFilesManager::getInstance()->getRecentFiles().isEmpty());
-        QVERIFY(!pEntry->isVisible());
-        QCOMPARE(boxes.boxes.size(), 2);
-        QCOMPARE(boxes.boxes.first().text,
-            "The project [/gone/away.kelpa] no longer exists.\nDo you want to remove this entry from "
-            "history?");
-        QCOMPARE(boxes.boxes.first().defaultButton, QMessageBox::Yes);
     }
 
     void anotherLanguageIsSavedAndTheMarkStays()
@@ -301,27 +187,12 @@ private slots:
     }
 
 private:
-    FakeDocument *load(const char *pName)
-    {
-        m_pWindow->loadFile(m_pProgram->write(pName));
-        return m_pFactory->documents.last();
-    }
-
-    static bool enabled(const char *pId)
-    {
-        return ActionManager::getAction(QLatin1String(pId))->getAction()->isEnabled();
-    }
-
     // Empty where the desktop has no such standard.
     static QString standardKeys(QKeySequence::StandardKey key)
     {
         const QString strKeys = QKeySequence(key).toString(QKeySequence::PortableText);
         return strKeys.isEmpty() ? QString() : QStringLiteral(" [%1]").arg(strKeys);
     }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
-    std::unique_ptr<FakeFactory> m_pFactory;
 };
 
 QTEST_MAIN(tst_MainWindowCommands)

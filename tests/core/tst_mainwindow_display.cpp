@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The main window on screens of several scales, which the platform off screen has.
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/actionmanager.h>
@@ -8,84 +8,47 @@
 #include <appearance/ilanguagemanager.h>
 #include <icore.h>
 #include <iui.h>
-#include <mainwindow.h>
-
-#include <QDesktopServices>
-#include <QScreen>
-#include <QWindow>
 
 #include <qpa/qwindowsysteminterface.h>
 
-namespace {
-
-// One whose native window can be taken away, as putting a web view into it does.
-class Window : public MainWindow
-{
-public:
-    Window()
-        : MainWindow(nullptr)
-    {
-    }
-    void destroyNativeWindow() { destroy(); }
-};
-
-} // namespace
-
-class tst_MainWindowDisplay : public QObject
+class tst_MainWindowDisplay : public WindowTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<Window>();
-        m_pWindow->setGeometry(screen("96")->geometry().adjusted(100, 100, -200, -200));
-    }
-
-    void cleanup()
-    {
-        m_pWindow.reset();
-        m_pProgram.reset();
+        WindowTest::init();
+        m_pWindow->setGeometry(screenOf(96)->geometry().adjusted(100, 100, -200, -200));
     }
 
     void movingToAnotherScaleTellsItOnce_data()
     {
-        const auto row = columns<QString, int, int, QList<int>>("name", "percent", "margin", "icons");
-        row("to 120 DPI", "120", 125, 1, {16, 16});
-        row("to 144 DPI", "144", 150, 1, {32, 32});
-        row("to 192 DPI", "192", 200, 2, {32, 32});
+        const auto row = columns<int, int, int, QList<int>>("dpi", "percent", "margin", "icons");
+        row("to 120 DPI", 120, 125, 1, {16, 16});
+        row("to 144 DPI", 144, 150, 1, {32, 32});
+        row("to 192 DPI", 192, 200, 2, {32, 32});
     }
     void movingToAnotherScaleTellsItOnce()
     {
-        QFETCH(QString, name);
+        QFETCH(int, dpi);
         QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
         m_pWindow->show();
         const qint64 nCached = image().cacheKey();
-        moveTo(name);
+        moveTo(dpi);
         QTRY_COMPARE(changed.count(), 1);
         QTEST(changed.first().first().toInt(), "percent");
+        emit m_pWindow->windowHandle()->screenChanged(m_pWindow->screen()); // of the same scale
         QVERIFY(!changed.wait(400));
         QTEST(iconSides(), "icons");
         QFETCH(int, margin);
         QCOMPARE(m_pWindow->contentsMargins(), QMargins(margin, margin, margin, margin));
         changed.clear();
-        moveTo("96");
+        moveTo(96);
         QTRY_COMPARE(changed.count(), 1);
         QCOMPARE(changed.first().first().toInt(), 100);
         QCOMPARE(iconSides(), QList<int>({16, 16}));
         QVERIFY2(image().cacheKey() != nCached, "the image was not read again");
-    }
-
-    // Two screens of one scale apart from each other: the check finds nothing new.
-    void movingWithinOneScaleTellsNothingMore()
-    {
-        QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
-        m_pWindow->show();
-        moveTo("192");
-        QTRY_COMPARE(changed.count(), 1);
-        emit m_pWindow->windowHandle()->screenChanged(m_pWindow->screen());
-        QVERIFY(!changed.wait(400));
     }
 
     void anotherScaleOfTheSameScreenReachesEveryFont()
@@ -115,16 +78,8 @@ private slots:
         m_pWindow->show();
         QVERIFY(!pFirst);
         QSignalSpy changed(m_pWindow.get(), &MainWindow::dpiChanged);
-        moveTo("144");
+        moveTo(144);
         QTRY_COMPARE(changed.count(), 1);
-    }
-
-    void raisingRestoresFromMinimizedToMaximized()
-    {
-        m_pWindow->show();
-        m_pWindow->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
-        m_pWindow->raiseUp();
-        QVERIFY(m_pWindow->isMaximized() && !m_pWindow->isMinimized());
     }
 
     void help_data()
@@ -172,14 +127,6 @@ public slots:
     void openUrl(const QUrl &url) { m_opened.append(url); }
 
 private:
-    static QScreen *screen(const QString &strName)
-    {
-        const auto screens = QGuiApplication::screens();
-        const auto it = std::find_if(screens.begin(), screens.end(),
-            [&](const QScreen *pScreen) { return pScreen->name() == strName; });
-        return it == screens.end() ? nullptr : *it;
-    }
-
     static QPixmap image() { return IUi::getPixmap("open", 2, false, ":/designer/images/"); }
 
     // Of a command and of the language menu.
@@ -190,14 +137,12 @@ private:
             sideOf(ActionManager::getActionContainer("View.Language")->getMenu()->icon())};
     }
 
-    void moveTo(const QString &strName)
+    void moveTo(int nDPI)
     {
-        m_pWindow->move(screen(strName)->geometry().topLeft() + QPoint(100, 100));
-        m_pWindow->windowHandle()->setScreen(screen(strName));
+        m_pWindow->move(screenOf(nDPI)->geometry().topLeft() + QPoint(100, 100));
+        m_pWindow->windowHandle()->setScreen(screenOf(nDPI));
     }
 
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<Window> m_pWindow;
     QList<QUrl> m_opened;
 };
 

@@ -1,101 +1,69 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
-#include <icore.h>
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
 #include <ui/imainmdiarea.h>
 
-#include <QDropEvent>
-#include <QFile>
-#include <QMimeData>
 #include <QUndoGroup>
 
 using ExtensionSystem::PluginManager;
 
-class tst_MainWindowFiles : public QObject
+// The walk through the stage opens, creates, saves and closes everything else.
+class tst_MainWindowFiles : public DocumentTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-        m_pFactory = std::make_unique<FakeFactory>();
+        DocumentTest::init();
         m_pWelcome = std::make_unique<QWidget>();
         m_pWindow->setWelcomeWidget(m_pWelcome.get());
         m_pWelcome->hide();
     }
-
     void cleanup()
     {
-        for (const auto &pDocument : std::as_const(m_pFactory->documents))
-            delete pDocument;
-        for (const auto &pEditor : std::as_const(m_pFactory->editors))
-            delete pEditor;
-        m_pFactory.reset();
-        m_pWindow.reset();
+        DocumentTest::cleanup();
         m_pWelcome.reset();
-        m_pProgram.reset();
     }
 
-    void openingAttachesEverythingInOrder()
+    void eachWayInAttachesEverythingInItsOwnOrder_data()
     {
-        const QString strPath = m_pProgram->write("A.KELPA");
+        const auto row = columns<bool, QStringList, QStringList>("isNew", "log", "calls");
+        row("opened", false,
+            {"opened, 0 documents, 0 editors, stack off", "activated, 1 documents, 1 editors, stack off",
+                "opened, 1 documents, 1 editors, stack on"},
+            {});
+        row("new", true,
+            {"activated, 1 documents, 1 editors, stack on", "opened, 1 documents, 1 editors, stack on"},
+            {"content 1 2 3 1", "save"});
+    }
+    void eachWayInAttachesEverythingInItsOwnOrder()
+    {
+        QFETCH(bool, isNew);
+        m_pFactory->strNewPath = m_pProgram->write("A.KELPA");
         QStringList log;
-        record(&log);
-        QVERIFY(m_pWindow->loadFile(strPath));
-        QCOMPARE(log,
-            QStringList({"opened, 0 documents, 0 editors", "activated, 1 documents, stack inactive",
-                "opened, 1 documents, 1 editors, stack active"}));
-        FakeDocument *pDoc = m_pFactory->documents.first();
-        QCOMPARE(pDoc->getFileName(), strPath);
-        QCOMPARE(DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&pDoc->stack}));
-        QCOMPARE(recent(), QStringList({strPath}));
-        QVERIFY(backupTimer()->isActive());
-        QVERIFY(m_pWelcome->isHidden());
-    }
-
-    void creatingAttachesEverythingInItsOwnOrder()
-    {
-        m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
-        QStringList log;
-        record(&log);
-        m_pWindow->fileNew();
-        QCOMPARE(log,
-            QStringList(
-                {"activated, 1 documents, stack active", "opened, 1 documents, 1 editors, stack active"}));
-        QCOMPARE(m_pFactory->documents.first()->calls, QStringList({"content 1 2 3 1", "save"}));
-        QCOMPARE(recent(), QStringList({m_pFactory->strNewPath}));
-        QVERIFY(backupTimer()->isActive());
-        QVERIFY(!m_pFactory->pDialog);
-    }
-
-    void creatingThatComesToNothing_data()
-    {
-        const auto row = columns<int, QString, bool, QStringList, bool>(
-            "result", "path", "content", "recent", "leftAlone");
-        row("cancelled dialog", QDialog::Rejected, "/n.kelpa", true, {}, false);
-        row("no path keeps document and dialog", QDialog::Accepted, "", true, {}, true);
-        row("content that fails", QDialog::Accepted, "/n.kelpa", false, {"/n.kelpa"}, false);
-    }
-
-    void creatingThatComesToNothing()
-    {
-        QFETCH(bool, content);
-        QFETCH(bool, leftAlone);
-        QFETCH(int, result);
-        QFETCH(QString, path);
-        m_pFactory->strNewPath = path;
-        m_pFactory->nDialogResult = result;
-        m_pFactory->prepare = [=](FakeDocument *pDoc) { pDoc->bContentSucceeds = content; };
-        m_pWindow->fileNew();
-        QTEST(recent(), "recent");
-        QVERIFY(EditorManager::getEditors().isEmpty() && DocumentManager::getDocuments().isEmpty());
-        QCOMPARE(!m_pFactory->documents.first().isNull(), leftAlone);
-        QCOMPARE(!m_pFactory->pDialog.isNull(), leftAlone);
-        delete m_pFactory->pDialog;
+        const QObject scope;
+        const auto note = [&](const char *pWhat) {
+            log.append(QString("%1, %2 documents, %3 editors, stack %4")
+                           .arg(pWhat)
+                           .arg(DocumentManager::getDocuments().size())
+                           .arg(EditorManager::getEditors().size())
+                           .arg(DocumentManager::getUndoGroup()->activeStack() ? "on" : "off"));
+        };
+        connect(EditorManager::getInstance(), &EditorManager::editorActivated, &scope,
+            [&] { note("activated"); });
+        m_pFactory->prepare = [&](FakeDocument *pDoc) {
+            connect(pDoc, &IDocument::aboutToOpen, &scope, [&] { note("opened"); });
+        };
+        isNew ? m_pWindow->fileNew() : void(m_pWindow->loadFile(m_pFactory->strNewPath));
+        QTEST(log, "log");
+        const FakeDocument *pDoc = m_pFactory->documents.first();
+        QTEST(pDoc->calls, "calls");
+        QCOMPARE(pDoc->getFileName(), m_pFactory->strNewPath);
+        QCOMPARE(DocumentManager::getUndoGroup()->stacks(), {pDoc->getUndoStack()});
+        QCOMPARE(recent(), QStringList(m_pFactory->strNewPath));
+        QVERIFY(DocumentManager::getInstance()->findChild<QTimer *>()->isActive());
+        QVERIFY(m_pWelcome->isHidden() && !m_pFactory->pDialog);
     }
 
     void openFileIsOnlyActivatedUnderAnyPathToIt()
@@ -126,7 +94,6 @@ private slots:
         row("no editor", "editor", 2, 0);
         row("no dialog", "dialog", 0, 1);
     }
-
     void aFactoryThatMakesNothing()
     {
         QFETCH(int, opened);
@@ -143,79 +110,25 @@ private slots:
         QVERIFY(!m_pFactory->pDialog);
     }
 
-    void fileThatCannotBeOpened()
-    {
-        m_pFactory->prepare = [](FakeDocument *pDoc) { pDoc->bOpenSucceeds = false; };
-        FakeFactory second;
-        QVERIFY(!m_pWindow->loadFile(m_pProgram->write("a.kelpa")));
-        QVERIFY(m_pFactory->documents.first().isNull());
-        QVERIFY(second.documents.isEmpty());
-        QVERIFY(recent().isEmpty());
-        QVERIFY(!m_pWelcome->isHidden());
-    }
-
-    void unknownTypeIsTold()
-    {
-        BoxAnswers boxes({QMessageBox::Ok});
-        QVERIFY(!m_pWindow->loadFile(m_pProgram->write("a.txt")));
-        QCOMPARE(boxes.texts(), QStringList({"Cannot open this file type."}));
-        QCOMPARE(boxes.boxes.first().title, "Kelpa Studio");
-        QCOMPARE(boxes.boxes.first().informative.remove(QChar(0x200B)), m_pProgram->filePath("a.txt"));
-        QVERIFY(m_pFactory->documents.isEmpty());
-    }
-
     void documentOfAnotherPlugInStaysWithItWithoutAFactory()
     {
         FakeDocument document;
         document.setFileName("/p/a.other");
         QVERIFY(!m_pWindow->loadOpenedDocument(&document, true));
-        document.setFileName("/p/a.kelpa");
-        QVERIFY(m_pWindow->loadOpenedDocument(&document, false));
         QVERIFY(recent().isEmpty());
     }
 
-    void closingOneDocument_data()
+    void closingTakesTheEditorAtOnceOrLater()
     {
-        const auto row = columns<bool>("later");
-        row("with its editor at once", false);
-        row("with its editor later", true);
-    }
-
-    void closingOneDocument()
-    {
-        QFETCH(bool, later);
-        FakeDocument *pDoc = load("a.kelpa");
-        pDoc->setIsTempDocument(true);
-        QSignalSpy title(m_pWindow.get(), &MainWindow::updateWindowFilePath);
-        emit pDoc->requestClosing(later);
-        QVERIFY(m_pFactory->documents.first().isNull());
-        QCOMPARE(m_pFactory->editors.first().isNull(), !later);
-        QTRY_VERIFY(m_pFactory->editors.first().isNull());
-        QCOMPARE(title.takeFirst().first().toString(), QString());
-        QVERIFY(EditorManager::getEditors().isEmpty() && DocumentManager::getDocuments().isEmpty());
-        QVERIFY(!m_pWelcome->isHidden());
-    }
-
-    void windowClosesFromTheLastEditorAndStopsAtARefusal()
-    {
-        load("a.kelpa");
-        FakeDocument *pMiddle = load("b.kelpa");
-        load("c.kelpa");
-        pMiddle->closeAnswer = false;
-        QFile working(m_pWindow->getDefaultTempPath() + "/scratch");
-        QVERIFY(working.open(QIODevice::WriteOnly));
-        QSignalSpy saving(ICore::getInstance(), &ICore::aboutToSaveSettings);
-
-        EditorManager::activateEditor(EditorManager::getEditors().first());
-        QVERIFY(!m_pWindow->close());
-        QCOMPARE(EditorManager::activeEditor()->getDocument(), pMiddle);
-        QCOMPARE(saving.count(), 1);
-        QVERIFY(working.exists());
-
-        pMiddle->closeAnswer = true;
-        QVERIFY(m_pWindow->close());
-        QCOMPARE(m_pFactory->deleted.size(), 3);
-        QVERIFY(!working.exists());
+        for (const bool bLater : {false, true}) {
+            FakeDocument *pDoc = load("a.kelpa");
+            const QSignalSpy title(m_pWindow.get(), &MainWindow::updateWindowFilePath);
+            emit pDoc->requestClosing(bLater);
+            QVERIFY(m_pFactory->documents.last().isNull());
+            QCOMPARE(m_pFactory->editors.last().isNull(), !bLater);
+            QTRY_VERIFY(m_pFactory->editors.last().isNull());
+            QCOMPARE(title.first().first().toString(), QString());
+        }
     }
 
     void windowClosesWithOddCompany()
@@ -234,30 +147,21 @@ private slots:
         QCOMPARE(bare.calls, QStringList({"close"}));
     }
 
-    // The walk through the stage saves everything else.
-    void savingWithoutADocumentDoesNothing()
-    {
-        m_pWindow->fileSave();
-        m_pWindow->fileSaveAs();
-        m_pWindow->fileClose();
-        QVERIFY(recent().isEmpty());
-    }
-
     void drops_data()
     {
-        const auto row =
-            columns<QStringList, bool, bool, bool, int>("files", "opens", "consumed", "accepted", "opened");
-        row("only the first of two", {"a.KELPA", "b.kelpa"}, true, true, true, 1);
-        row("one that cannot be opened", {"a.kelpa"}, false, true, false, 0);
-        row("no project", {"a.png"}, true, true, false, 0);
-        row("nothing", {}, true, false, false, 0);
+        const auto row = columns<QStringList, bool, bool, bool>("files", "opens", "consumed", "accepted");
+        row("only the first of two", {"a.KELPA", "b.kelpa"}, true, true, true);
+        row("one that cannot be opened", {"a.kelpa"}, false, true, false);
+        row("no project", {"a.png"}, true, true, false);
+        row("nothing", {}, true, false, false);
     }
-
     void drops()
     {
         QFETCH(QStringList, files);
         QFETCH(bool, opens);
+        QFETCH(bool, accepted);
         m_pFactory->prepare = [=](FakeDocument *pDoc) { pDoc->bOpenSucceeds = opens; };
+        const FakeFactory second; // never asked
         QMimeData mime;
         QList<QUrl> urls;
         for (const QString &strFile : std::as_const(files))
@@ -267,8 +171,10 @@ private slots:
         drop.ignore();
         QObject *pFilter = m_pWindow.get();
         QTEST(pFilter->eventFilter(m_pWindow->getMdiArea(), &drop), "consumed");
-        QTEST(drop.isAccepted(), "accepted");
-        QTEST(int(EditorManager::getEditors().size()), "opened");
+        QCOMPARE(drop.isAccepted(), accepted);
+        QCOMPARE(EditorManager::getEditors().size(), int(accepted));
+        QCOMPARE(m_pFactory->documents.count(nullptr), int(!opens));
+        QVERIFY(second.documents.isEmpty());
     }
 
     void argumentsAreOpenedAfterTheFirstTurn()
@@ -289,8 +195,6 @@ private slots:
         QVERIFY(!MainWindow::IsFirstRun());
         PluginManager::instance()->setSettings(nullptr);
         QVERIFY(MainWindow::IsFirstRun());
-        PluginManager::instance()->setSettings(
-            std::make_unique<QSettings>(m_pProgram->filePath("u.ini"), QSettings::IniFormat));
     }
 
     void temporaryFolderIsMadeAnewAndLinksInItAreNotFollowed()
@@ -320,15 +224,9 @@ private slots:
         QCOMPARE(reset.count(), 3);
     }
 
-    void recentListKeepsTenAndItsOddities()
+    void theOdditiesOfAStoredListAreKept()
     {
         auto *pRecent = IRecentFilesManager::getInstance();
-        for (int i = 0; i < 11; ++i)
-            pRecent->addFile(QString::number(i));
-        QCOMPARE(pRecent->getRecentFiles(), QStringList({"10", "9", "8", "7", "6", "5", "4", "3", "2", "1"}));
-        pRecent->addFile("3");
-        QCOMPARE(pRecent->getRecentFiles().mid(0, 2), QStringList({"3", "10"}));
-
         const QString strKey = "Kelpa/RecentProjects";
         PluginManager::settings()->setValue(strKey, QStringList({"a", "A", "a"}));
         pRecent->removeFile("a");
@@ -338,50 +236,10 @@ private slots:
         QCOMPARE(pRecent->getRecentFiles(), QStringList({"one"}));
         PluginManager::settings()->setValue(strKey, QStringList(30, "x"));
         QCOMPARE(pRecent->getRecentFiles().size(), 10);
+        QCOMPARE(pRecent->getCount(), 10);
     }
 
 private:
-    FakeDocument *load(const char *pName)
-    {
-        m_pWindow->loadFile(m_pProgram->write(pName));
-        return m_pFactory->documents.last();
-    }
-
-    static QStringList recent() { return IRecentFilesManager::getInstance()->getRecentFiles(); }
-
-    static QTimer *backupTimer() { return DocumentManager::getInstance()->findChild<QTimer *>(); }
-
-    static QString stackState()
-    {
-        return DocumentManager::getUndoGroup()->activeStack() ? "stack active" : "stack inactive";
-    }
-
-    // Notes what already stands when a document says that it is open and when an editor becomes active.
-    void record(QStringList *pLog)
-    {
-        connect(EditorManager::getInstance(), &EditorManager::editorActivated, this, [=] {
-            pLog->append(QString("activated, %1 documents, %2")
-                             .arg(DocumentManager::getDocuments().size())
-                             .arg(stackState()));
-        });
-        m_pFactory->prepare = [=, this](FakeDocument *pDoc) { record(pLog, pDoc); };
-    }
-
-    void record(QStringList *pLog, FakeDocument *pDoc)
-    {
-        connect(pDoc, &IDocument::aboutToOpen, this, [=] {
-            QString strLine = QString("opened, %1 documents, %2 editors")
-                                  .arg(DocumentManager::getDocuments().size())
-                                  .arg(EditorManager::getEditors().size());
-            if (!EditorManager::getEditors().isEmpty())
-                strLine += ", " + stackState();
-            pLog->append(strLine);
-        });
-    }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
-    std::unique_ptr<FakeFactory> m_pFactory;
     std::unique_ptr<QWidget> m_pWelcome;
 };
 

@@ -53,6 +53,17 @@ inline QScreen *screenOf(int nDPI)
     return it == screens.end() ? nullptr : *it;
 }
 
+/// Presses keys on the keyboard of the X server, which has its own names for modifiers and letters.
+inline void pressOnServer(QString strKeys)
+{
+    for (const char *pName : {"Ctrl", "Shift", "Alt"})
+        strKeys.replace(QLatin1String(pName), QString::fromLatin1(pName).toLower());
+    if (strKeys.size() == 1 || strKeys.at(strKeys.size() - 2) == QLatin1Char('+'))
+        strKeys = strKeys.toLower();
+    strKeys.replace("Backspace", "BackSpace");
+    QCOMPARE(QProcess::execute("xdotool", {"key", strKeys}), 0);
+}
+
 /// The classes of what takes the keyboard in a window and has no name for screen readers.
 inline QStringList unnamedControls(const QWidget *pWindow)
 {
@@ -138,7 +149,7 @@ public:
     bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) override
     {
         log(QString("content %1 %2 %3 %4").arg(nFirst).arg(nSecond).arg(nThird).arg(bFlag));
-        return bContentSucceeds;
+        return true;
     }
     bool open() override { return bOpenSucceeds && IDocument::open(); }
     using IDocument::save;
@@ -152,7 +163,7 @@ public:
     bool saveAs() override
     {
         log("saveAs");
-        if (!bSaveAsSucceeds)
+        if (!bSaveSucceeds)
             return false;
         setFileName(strSaveAsName);
         setIsTempDocument(false);
@@ -188,10 +199,8 @@ public:
     std::function<void()> onBackup;
     QString strSaveAsName;
     QStringList *pDeleted = nullptr;
-    bool bContentSucceeds = true;
     bool bOpenSucceeds = true;
     bool bSaveSucceeds = true;
-    bool bSaveAsSucceeds = true;
 };
 
 class FakeNewDialog : public ICreateDocumentDlg
@@ -199,15 +208,16 @@ class FakeNewDialog : public ICreateDocumentDlg
     Q_OBJECT
 
 public:
-    FakeNewDialog(const QString &strPath, int nResult)
+    FakeNewDialog(const QString &strPath, int nResult, int nFirst = 1)
         : ICreateDocumentDlg(nullptr)
         , m_strPath(strPath)
         , m_nResult(nResult)
+        , m_nFirst(nFirst)
     {
     }
     int exec() override { return m_nResult; }
     QString getFilePath() override { return m_strPath; }
-    int getFirstValue() override { return 1; }
+    int getFirstValue() override { return m_nFirst; }
     int getSecondValue() override { return 2; }
     int getThirdValue() override { return 3; }
     bool getFlag() override { return true; }
@@ -215,6 +225,7 @@ public:
 private:
     const QString m_strPath;
     const int m_nResult;
+    const int m_nFirst;
 };
 
 /// In the pool while it lives.
@@ -266,7 +277,7 @@ public:
         pDialog = missing == "dialog" ? nullptr : new FakeNewDialog(strNewPath, nDialogResult);
         return pDialog;
     }
-    QString getOpenFileName() override { return strOpenName; }
+    QString getOpenFileName() override { return {}; }
 
     QList<QPointer<FakeDocument>> documents;
     QList<QPointer<IEditor>> editors;
@@ -276,7 +287,6 @@ public:
     QPointer<ICreateDocumentDlg> pDialog;
     QString missing; ///< what it returns null for: "document", "editor" or "dialog"
     QString strNewPath;
-    QString strOpenName;
     int nDialogResult = QDialog::Accepted;
 
 private:

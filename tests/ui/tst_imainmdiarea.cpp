@@ -6,7 +6,6 @@
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
 #include <icore.h>
-#include <irecentfilesmanager.h>
 #include <ui/imainmdiarea.h>
 #include <ui/kphtmlexposingwelcome.h>
 
@@ -78,7 +77,7 @@ const QString s_unicode = "Über Wälder 海藻 Ламинария";
 
 } // namespace
 
-class tst_IMainMdiArea : public WindowTest
+class tst_IMainMdiArea : public DocumentTest
 {
     Q_OBJECT
 
@@ -93,7 +92,7 @@ private slots:
 
     void init()
     {
-        WindowTest::init();
+        DocumentTest::init();
         m_pFactory = std::make_unique<FakeFactory>(QStringList {"kelpa", "kelpapack"});
         m_pDesktop = std::make_unique<Desktop>();
         m_pBridge = m_pWindow->findChild<KPHTMLExposingWelcome *>();
@@ -106,8 +105,7 @@ private slots:
         m_pClient.reset();
         m_pResources.reset();
         m_pDesktop.reset();
-        m_pFactory.reset();
-        WindowTest::cleanup();
+        DocumentTest::cleanup();
     }
 
     void pageReachesNothingButTheBridge()
@@ -208,28 +206,22 @@ private slots:
         QCOMPARE(boxes.texts(), QStringList("Could not open file " + strPath + '.'));
     }
 
-    void projectThatIsGone_data()
+    void projectThatIsGoneLeavesTheListOnYesOnly()
     {
-        const auto row = columns<QMessageBox::StandardButton, bool>("answer", "removed");
-        row("is removed on Yes", QMessageBox::Yes, true);
-        row("stays on No", QMessageBox::No, false);
-        row("stays when the box is closed", QMessageBox::NoButton, false);
-    }
-    void projectThatIsGone()
-    {
-        QFETCH(const QMessageBox::StandardButton, answer);
-        QFETCH(const bool, removed);
         const QString strGone = "/gone/%1 " + s_unicode + ".kelpa";
         IRecentFilesManager::getInstance()->addFile(strGone);
         const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
-        BoxAnswers boxes({answer});
-        m_pClient->call("kpwelcome", "showInExplorer", {strGone});
-        QCOMPARE(boxes.texts(),
-            QStringList("The project [" + strGone
-                + "] no longer exists.\nDo you want to remove this entry from history?"));
-        QCOMPARE(IRecentFilesManager::getInstance()->getRecentFiles().isEmpty(), removed);
-        QCOMPARE(resets.size(), removed ? 1 : 0);
-        QCOMPARE(m_pDesktop->opened, QStringList());
+        for (const auto answer : {QMessageBox::No, QMessageBox::NoButton, QMessageBox::Yes}) {
+            QCOMPARE(recent(), QStringList(strGone));
+            QVERIFY(resets.isEmpty());
+            BoxAnswers boxes({answer});
+            m_pClient->call("kpwelcome", "showInExplorer", {strGone});
+            QCOMPARE(boxes.texts(),
+                QStringList("The project [" + strGone
+                    + "] no longer exists.\nDo you want to remove this entry from history?"));
+        }
+        QVERIFY(recent().isEmpty() && m_pDesktop->opened.isEmpty());
+        QCOMPARE(resets.size(), 1);
     }
 
     void removingReachesListMenuAndPage()
@@ -346,7 +338,6 @@ private:
         return file.open(QIODevice::WriteOnly) && file.write("x") ? file.fileName() : QString();
     }
 
-    std::unique_ptr<FakeFactory> m_pFactory;
     std::unique_ptr<Desktop> m_pDesktop;
     KPHTMLExposingWelcome *m_pBridge = nullptr;
     std::unique_ptr<QTemporaryDir> m_pResources;

@@ -109,45 +109,7 @@ private slots:
         }
     }
 
-    void stepsMergeOnlyWhenTheyBelongTogether()
-    {
-        const auto pDocument = newDocument("x");
-        QUndoStack *pStack = pDocument->getUndoStack();
-        pStack->clear();
-        step(*pDocument, 0, 1);
-        step(*pDocument, 0, 10);
-        QCOMPARE(pStack->count(), 1);
-        step(*pDocument, 1, 1); // another element
-        QCOMPARE(pStack->count(), 2);
-        step(*pDocument, 1, -1); // back to the start: nothing happened
-        QCOMPARE(pStack->count(), 1);
-        pStack->setClean();
-        step(*pDocument, 0, 1); // what was saved stays a place to go back to
-        QCOMPARE(pStack->count(), 2);
-        pStack->undo();
-        QVERIFY(pStack->isClean());
-        QCOMPARE(pDocument->getModel()->elements(0).at(0).x, 11.0);
-        for (int i = 0; i < 2; ++i)
-            move(*pDocument, {2}, {0, 1}, Kind::Drag);
-        QCOMPARE(pStack->count(), 3);
-    }
-
-    void openTellsFilePlaceAndReasonInOneMessage()
-    {
-        TestProgram program;
-        StageDocument document;
-        document.setFileName(program.write("broken.kelpa", "{\n \"format\": }"));
-        BoxAnswers answers({QMessageBox::Ok});
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken.kelpa: line 2, column"));
-        QVERIFY(!document.open());
-        QCOMPARE(answers.boxes.size(), 1);
-        const QString strText = answers.texts().first().remove(QChar(0x200B)); // a place to break at
-        QVERIFY2(
-            strText.contains(program.filePath("broken.kelpa") + ".\nline 2, column"), qPrintable(strText));
-        QVERIFY(document.getModel()->project().scenes.isEmpty());
-    }
-
-    void revertReadsTheFileAgain()
+    void revertReadsTheFileAgainOrTellsFilePlaceAndReason()
     {
         TestProgram program;
         const auto pDocument = newDocument(program.filePath("a.kelpa"));
@@ -157,11 +119,13 @@ private slots:
         QVERIFY(pDocument->revert());
         QCOMPARE(pDocument->getModel()->project(), saved);
         QVERIFY(!pDocument->isModified());
-        QVERIFY(QFile::remove(pDocument->getFileName()));
+        program.write("a.kelpa", "{\n \"format\": }");
         step(*pDocument, 0, 5);
         const BoxAnswers answers({QMessageBox::Ok});
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not exist"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("a.kelpa: line 2, column"));
         QVERIFY(!pDocument->revert());
+        const QString strText = answers.texts().join('\n').remove(QChar(0x200B)); // a place to break at
+        QVERIFY2(strText.contains(pDocument->getFileName() + " again.\nline 2, column"), qPrintable(strText));
         QCOMPARE(pDocument->getModel()->elements(0).first().x, 5.0);
     }
 
@@ -228,22 +192,6 @@ private slots:
             QVERIFY(pDocument->saveBackup());
             QCOMPARE(entries(program).size(), 2);
         }
-    }
-
-    void aProjectWhoseFileGoesIsNotSavedAnyMore()
-    {
-        TestProgram program;
-        const DocumentManager manager;
-        const auto pDocument = newDocument(program.filePath("a.kelpa"));
-        DocumentManager::addDocument(pDocument.get());
-        for (int i = 0; i < 2; ++i) { // a save puts another file in the place of the one before
-            QVERIFY(pDocument->save());
-            QCoreApplication::processEvents();
-            QVERIFY(!pDocument->isModified());
-        }
-        QVERIFY(QFile::remove(pDocument->getFileName()));
-        QTRY_VERIFY(pDocument->isModified());
-        QVERIFY(StageDocument::isOpenElsewhere(program.filePath("./a.kelpa"), nullptr));
     }
 
     void backupsAreTakenWhenDueAndGoWithASave()

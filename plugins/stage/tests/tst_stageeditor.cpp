@@ -94,8 +94,6 @@ private slots:
         QVERIFY(!m_pProgram->window->close());
         QCOMPARE(answers.boxes.size(), 2);
         QVERIFY(answers.boxes.first().parentTitle.startsWith(strOld));
-        QCOMPARE(answers.boxes.last().text, "Could not save project two.");
-        QCOMPARE(answers.boxes.last().informative, "No such file or directory");
 
         const FileAnswer place(&strNew);
         m_pProgram->command("File.Save")->trigger();
@@ -105,29 +103,15 @@ private slots:
         QVERIFY(!document()->isModified());
     }
 
-    void tabsShowTheNameAsItIs_data()
+    void aVeryLongNameLeavesRoomAndIsInTheTipOfItsTab()
     {
-        const auto row = columns<QString>("name");
-        row("a sign for keys", "R&D");
-        row("the sign for the mark of a change", "a[*]b");
-        row("very long", QString(240, 'm'));
-    }
-    void tabsShowTheNameAsItIs()
-    {
-        QFETCH(QString, name);
-        StageEditor *pEditor = m_pProgram->open(qPrintable(name + ".kelpa"));
-        for (const char *pMark : {"", "*"}) {
-            const QString strTab = m_pProgram->tabs()->tabText(1);
-            if (name.size() < 100)
-                QCOMPARE(QString(strTab).replace("&&", "&").remove(QChar(0x2060)), name + pMark);
-            QVERIFY(strTab.startsWith(name.at(0)) && strTab.endsWith(name.back() + QString(pMark)));
-            pEditor->getView()->addElement({});
-        }
+        const QString strName = QString(240, 'm') + ".kelpa";
+        const StageView *pView = m_pProgram->open(qPrintable(strName))->getView();
         QVERIFY(m_pProgram->tabs()->tabRect(1).width() < m_pProgram->window->width() / 2);
-        QVERIFY(m_pProgram->tabs()->tabToolTip(1).endsWith(name + ".kelpa"));
-        const QPoint centre = pEditor->getView()->rect().center();
-        QHelpEvent help(QEvent::ToolTip, centre, pEditor->getView()->mapToGlobal(centre));
-        QApplication::sendEvent(pEditor->getView()->viewport(), &help);
+        QVERIFY(m_pProgram->tabs()->tabToolTip(1).endsWith(strName));
+        const QPoint centre = pView->rect().center();
+        QHelpEvent help(QEvent::ToolTip, centre, pView->mapToGlobal(centre));
+        QApplication::sendEvent(pView->viewport(), &help);
         QVERIFY(!QToolTip::isVisible());
     }
 
@@ -167,19 +151,22 @@ private slots:
         QVERIFY(document()->revert());
     }
 
-    void aDragIsOneEditInWholePixels()
+    void eachDragIsOneEditInWholePixels()
     {
         QWidget *pPort = m_pView->viewport();
-        const QPoint from = m_pView->mapFromScene(50, 50);
-        QTest::mousePress(pPort, Qt::LeftButton, {}, from);
-        for (int i = 1; i <= 10; ++i)
-            QTest::mouseMove(pPort, from + QPoint(5 * i, 3 * i));
-        QTest::mouseRelease(pPort, Qt::LeftButton, {}, from + QPoint(50, 30));
-        const QPointF place = firstPlace();
-        QVERIFY(place.x() > 20 && place.y() > 20);
-        QCOMPARE(place, QPointF(place.toPoint()));
-        QCOMPARE(document()->getUndoStack()->count(), 1);
-        m_pProgram->command("Edit.Undo")->trigger();
+        for (const int nEdits : {1, 2}) {
+            const QPointF before = firstPlace();
+            const QPoint from = m_pView->mapFromScene(before + QPointF(30, 30));
+            QTest::mousePress(pPort, Qt::LeftButton, {}, from);
+            for (int i = 1; i <= 10; ++i)
+                QTest::mouseMove(pPort, from + QPoint(5 * i, 3 * i));
+            QTest::mouseRelease(pPort, Qt::LeftButton, {}, from + QPoint(50, 30));
+            const QPointF place = firstPlace();
+            QVERIFY(place.x() > before.x() && place.y() > before.y());
+            QCOMPARE(place, QPointF(place.toPoint()));
+            QCOMPARE(document()->getUndoStack()->count(), nEdits);
+        }
+        document()->getUndoStack()->setIndex(0);
         QCOMPARE(firstPlace(), QPointF(20, 20));
     }
 

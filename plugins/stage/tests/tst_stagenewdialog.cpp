@@ -36,23 +36,28 @@ private slots:
 
     void okNeedsAFileThatCanBeMade_data()
     {
-        const auto row = columns<QString, QString>("path", "problem");
+        const auto row = columns<QString, QString, QString>("typed", "file", "problem");
         const QString strFolder = m_folder.path();
-        row("nothing entered", QString(), "Enter the name");
-        row("blanks", "  ", "Enter the name");
-        row("a folder only", strFolder + QLatin1Char('/'), "Enter the name");
-        row("a name without folder", "a.kelpa", "whole path");
-        row("a folder that is not there", strFolder + "/no/a.kelpa", "/no does not exist");
-        row("a folder of that name", strFolder + "/folder", "is not a file");
-        row("a new file", strFolder + "/a.kelpa", QString());
-        row("an existing file", strFolder + "/there.kelpa", QString());
+        row("nothing entered", QString(), QString(), "Enter the name");
+        row("blanks", "  ", QString(), "Enter the name");
+        row("a folder only", strFolder + '/', strFolder + ".kelpa", "Enter the name");
+        row("a name without folder", "a.kelpa", "a.kelpa", "whole path");
+        row("a folder that is not there", strFolder + "/no/a", strFolder + "/no/a.kelpa",
+            "/no does not exist");
+        row("a folder of that name", strFolder + "/folder", strFolder + "/folder.kelpa", "is not a file");
+        row("a new file", strFolder + "/a.kelpa", strFolder + "/a.kelpa", QString());
+        row("the suffix in capitals", strFolder + "/b.KELPA", strFolder + "/b.KELPA", QString());
+        row("another suffix", strFolder + "/b.final", strFolder + "/b.final.kelpa", QString());
+        row("roundabout", ' ' + strFolder + "/x/../c ", strFolder + "/c.kelpa", QString());
+        row("an existing file", strFolder + "/there", strFolder + "/there.kelpa", QString());
     }
     void okNeedsAFileThatCanBeMade()
     {
-        QFETCH(QString, path);
+        QFETCH(QString, typed);
         QFETCH(QString, problem);
         Dialog dialog;
-        dialog.setPath(path);
+        dialog.setPath(typed);
+        QTEST(dialog.getFilePath(), "file");
         QCOMPARE(dialog.mayAccept(), problem.isEmpty());
         QVERIFY2(dialog.problem().contains(problem), qPrintable(dialog.problem()));
         QCOMPARE(dialog.problem().isEmpty(), problem.isEmpty());
@@ -75,25 +80,8 @@ private slots:
             QCOMPARE(dialog.getFilePath(), program.filePath(pName));
             open.setFileName(dialog.getFilePath());
             program.write(pName);
+            QVERIFY(StageDocument::isOpenElsewhere(program.folder.path() + "/./" + pName, nullptr));
         }
-    }
-
-    void theSuffixIsAddedOnce_data()
-    {
-        const auto row = columns<QString, QString>("typed", "file");
-        row("no suffix", "/a/b", "/a/b.kelpa");
-        row("the suffix", "/a/b.kelpa", "/a/b.kelpa");
-        row("in capitals", "/a/b.KELPA", "/a/b.KELPA");
-        row("another suffix", "/a/b.final", "/a/b.final.kelpa");
-        row("roundabout", " /a/../c/b ", "/c/b.kelpa");
-        row("empty stays empty", QString(), QString());
-    }
-    void theSuffixIsAddedOnce()
-    {
-        QFETCH(QString, typed);
-        Dialog dialog;
-        dialog.setPath(typed);
-        QTEST(dialog.getFilePath(), "file");
     }
 
     void anExistingFileIsReplacedOnlyOnYes()

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
-
 #include "stagefactory.h"
 #include "stageoptionsdlg.h"
 
 #include <appearance/ilanguagemanager.h>
-#include <mainwindow.h>
+#include <support/windowtest.h>
 #include <ui/ioptionpage.h>
 
 using ExtensionSystem::PluginManager;
@@ -47,7 +45,7 @@ public:
 
 } // namespace
 
-class tst_StageOptions : public QObject
+class tst_StageOptions : public WindowTest
 {
     Q_OBJECT
 
@@ -62,10 +60,9 @@ private slots:
 
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
+        WindowTest::init();
         ILanguageManager::getInstance().setSettings(PluginManager::settings());
         PluginManager::addObject(&m_factory);
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
         m_pWindow->show();
         PluginManager::settings()->setValue("Kelpa/Language", "en_US");
         PluginManager::settings()->sync();
@@ -78,27 +75,22 @@ private slots:
     {
         m_pWindow.reset();
         PluginManager::removeObject(&m_factory);
-        m_pProgram.reset();
+        WindowTest::cleanup();
     }
 
     void cancelChangesNothing_data()
     {
-        const auto row = columns<int>("way");
-        row("by the button", 0);
-        row("by the Escape key", 1);
-        row("by the window's own button", 2);
+        const auto row = columns<std::function<void()>>("cancel");
+        row("by the button", [this] { button(QDialogButtonBox::Cancel)->click(); });
+        row("by the Escape key", [this] { QTest::keyClick(m_pDialog, Qt::Key_Escape); });
+        row("by the window's own button", [this] { m_pDialog->close(); });
     }
     void cancelChangesNothing()
     {
-        QFETCH(int, way);
+        QFETCH(std::function<void()>, cancel);
         const QByteArray before = contentOf(PluginManager::settings()->fileName());
         changeEverything();
-        if (way == 0)
-            button(QDialogButtonBox::Cancel)->click();
-        else if (way == 1)
-            QTest::keyClick(m_pDialog, Qt::Key_Escape);
-        else
-            m_pDialog->close();
+        cancel();
         QVERIFY(!m_pDialog->isVisible());
         PluginManager::settings()->sync();
         QCOMPARE(contentOf(PluginManager::settings()->fileName()), before);
@@ -174,24 +166,6 @@ private slots:
         QTEST(pList->item(4)->data(Qt::EditRole).toInt(), "value");
     }
 
-    void aListThatWasEmptiedStaysEmpty()
-    {
-        show(1);
-        control<QSpinBox>("backupInterval")->setValue(61);
-        button(QDialogButtonBox::Apply)->click();
-        show(2);
-        for (const char *pName : {"horizontal", "vertical"}) {
-            QCOMPARE(control<QListWidget>(pName)->count(), 5);
-            for (int i = 0; i < 5; ++i) {
-                control<QListWidget>(pName)->setCurrentRow(0);
-                pressIn(pName, "Remove");
-            }
-        }
-        button(QDialogButtonBox::Ok)->click();
-        m_pWindow->onPreferences();
-        QCOMPARE(control<QListWidget>("horizontal")->count() + control<QListWidget>("vertical")->count(), 0);
-    }
-
     void openProjectsFollowTheBackupPreference()
     {
         FakeDocument document;
@@ -207,10 +181,10 @@ private slots:
         QVERIFY(pTimer->isActive());
     }
 
-    void breakpointsCanBeAddedRemovedAndRestored()
+    void breakpointsCanBeAddedRestoredAndAllRemoved()
     {
         show(2);
-        auto *pList = m_pDialog->findChild<QListWidget *>("horizontal");
+        auto *pList = control<QListWidget>("horizontal");
         pList->setCurrentRow(1);
         pressIn("horizontal", "Remove");
         pressIn("horizontal", "Add");
@@ -225,8 +199,17 @@ private slots:
             if (pButton->accessibleName() == "Restore the default breakpoints")
                 pButton->click();
         }
-        QCOMPARE(pList->count(), 5);
         QVERIFY(m_pDialog->hasChanges());
+        for (const char *pName : {"horizontal", "vertical"}) {
+            QCOMPARE(control<QListWidget>(pName)->count(), 5);
+            for (int i = 0; i < 5; ++i) {
+                control<QListWidget>(pName)->setCurrentRow(0);
+                pressIn(pName, "Remove");
+            }
+        }
+        button(QDialogButtonBox::Ok)->click();
+        m_pWindow->onPreferences();
+        QCOMPARE(pList->count() + control<QListWidget>("vertical")->count(), 0);
     }
 
     void pagesOfOtherPlugInsAreFilledWhenShownAndSavedWhenChanged()
@@ -289,8 +272,6 @@ private:
     }
 
     StageFactory m_factory {nullptr};
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
     IOptionsDlg *m_pDialog = nullptr;
 };
 

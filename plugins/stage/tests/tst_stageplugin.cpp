@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The plug-in as the program loads it, from one start to the next, under a window manager that leaves the
 // whole screen to a maximised window.
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <extensionsystem/iplugin.h>
 #include <icore.h>
-#include <mainwindow.h>
 
 using ExtensionSystem::IPlugin;
 using ExtensionSystem::PluginManager;
 
-class tst_StagePlugin : public QObject
+class tst_StagePlugin : public WindowTest
 {
     Q_OBJECT
 
@@ -22,8 +21,8 @@ private slots:
     }
     void cleanup()
     {
-        stop();
-        m_pProgram.reset();
+        m_pPlugin.reset();
+        WindowTest::cleanup();
     }
 
     void withoutAGroupItIsAFirstStart()
@@ -116,10 +115,11 @@ private:
     // Ends what runs and starts again with the settings that are in the file.
     void start()
     {
-        stop();
+        m_pPlugin.reset();
+        m_pWindow.reset();
         PluginManager::instance()->setSettings(
             std::make_unique<QSettings>(m_pProgram->filePath("user.ini"), QSettings::IniFormat));
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        m_pWindow = std::make_unique<TestWindow>();
         QPluginLoader loader(KELPA_STAGE_PLUGIN);
         m_pPlugin.reset(qobject_cast<IPlugin *>(loader.instance()));
         QVERIFY2(m_pPlugin, qPrintable(loader.errorString()));
@@ -128,11 +128,6 @@ private:
         m_pPlugin->extensionsInitialized();
         m_pWindow->extensionsInitialized();
         QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
-    }
-    void stop()
-    {
-        m_pPlugin.reset();
-        m_pWindow.reset();
     }
 
     [[nodiscard]] QAbstractButton *maximizeButton() const
@@ -157,14 +152,11 @@ private:
 
     [[nodiscard]] QToolBar *stageToolBar() const
     {
-        const auto bars = m_pWindow->findChildren<QToolBar *>();
-        const auto it = std::find_if(bars.begin(), bars.end(),
-            [this](const QToolBar *pBar) { return pBar != m_pWindow->getFileToolbar(); });
-        return it == bars.end() ? nullptr : *it;
+        auto bars = m_pWindow->findChildren<QToolBar *>();
+        bars.removeOne(m_pWindow->getFileToolbar());
+        return bars.value(0);
     }
 
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<IPlugin> m_pPlugin;
 };
 

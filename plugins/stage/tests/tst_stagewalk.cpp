@@ -18,7 +18,7 @@ public:
         , m_random(nSeed)
     {
         QDir().mkpath(m_strFolder);
-        const QStringList names = {"one", "one.two", "a & b", QString::fromUtf8("größe"),
+        const QStringList names = {"one", "one.two", "a & b", "a[*]b", QString::fromUtf8("größe"),
             QString::fromUtf8("日本語"), "50 %1", "x", "X", "7", "8", "9", "10", "11",
             QString("long").repeated(40)};
         for (const QString &strName : names)
@@ -68,9 +68,12 @@ private:
         if (how == Unwritable)
             expect(QString("Could not save %1: ").arg(strPath), QMessageBox::Cancel);
         act([&] {
-            const FolderGone gone(m_strFolder, how == Unwritable);
+            const auto gone = takeAway(m_strFolder, how == Unwritable);
             m_program.command("File.New")->trigger();
         });
+        const QList<bool> left {!factory.pDialog.isNull(), !factory.pDocument.isNull()};
+        if (left != QList<bool> {how == NoPath, how <= NoPath})
+            m_said.append("the dialog or the document is left wrongly");
         if (how == NoPath) { // both were left to the factory
             delete factory.pDialog;
             delete factory.pDocument;
@@ -94,16 +97,17 @@ private:
         say("edit", {QString::number(nWhat)});
         if (nWhat == 0) {
             pView->addElement({});
-            pDocument->push(nElements + 1);
+            pDocument->push({nElements + 1});
         } else if (nWhat == 1) {
             pView->selectElements({nElements - 1});
             pView->deleteSelected();
-            pDocument->push(nElements - 1);
+            pDocument->push({nElements - 1});
         } else {
             const int nDistance = pick(2) ? 1 : -1;
-            pView->selectElements({0});
+            const int nElement = pick(qMin(nElements, 2));
+            pView->selectElements({nElement});
             pView->moveSelected(nDistance, 0);
-            pDocument->step(nDistance);
+            pDocument->step(nElement, nDistance);
         }
     }
 
@@ -128,7 +132,7 @@ private:
         if (bFails && pDocument && pDocument->canSave())
             expect(QString("Could not save %1: ").arg(pDocument->path), QMessageBox::Cancel);
         act([&] {
-            const FolderGone gone(m_strFolder, bFails);
+            const auto gone = takeAway(m_strFolder, bFails);
             m_program.command("File.Save")->trigger();
         });
         if (!pDocument || !pDocument->canSave() || bFails)
@@ -162,7 +166,8 @@ private:
             m_strChosen = m_strFolder + "/nowhere/z.kelpa";
         m_bChoiceFails = nHow <= 1;
         if (m_model.disk.contains(m_strChosen))
-            expect(QFileInfo(m_strChosen).fileName() + " already exists.", QMessageBox::Yes);
+            expect(
+                QFileInfo(m_strChosen).fileName() + " already exists.", QMessageBox::Yes, "Save Project As");
         if (m_model.isOpenElsewhere(m_strChosen, document)) {
             expect(m_strChosen + " is open. Close it first.", QMessageBox::Ok);
             m_bChoiceFails = true;
@@ -189,7 +194,7 @@ private:
         const int nDocument = bByTab ? pick(static_cast<int>(m_model.documents.size())) : m_model.nActive;
         const bool bCloses = answerClosing(m_model.documents[nDocument]);
         act([&] {
-            const FolderGone gone(m_strFolder, m_bSaveFails);
+            const auto gone = takeAway(m_strFolder, m_bSaveFails);
             if (bByTab)
                 emit m_program.tabs()->tabCloseRequested(nDocument);
             else
@@ -223,7 +228,8 @@ private:
             return !m_bChoiceFails;
         }
         if (m_bSaveFails)
-            expect(QString("Could not save project %1.").arg(document.name()), QMessageBox::Ok);
+            expect(QString("Could not save project %1.\nNo such file or directory").arg(document.name()),
+                QMessageBox::Ok);
         else
             m_model.saved(document);
         return !m_bSaveFails;
@@ -274,7 +280,10 @@ private:
         if (bExists)
             load(strPath);
         else
-            expect(QString("The project [%1] no longer exists.").arg(strPath), answer);
+            expect(QString("The project [%1] no longer exists.\n"
+                           "Do you want to remove this entry from history?\n")
+                       .arg(strPath),
+                answer);
         if (!bExists && answer == QMessageBox::Yes)
             m_model.recent.removeOne(strPath);
         act([&] { WalkCheck::recentCommand(nEntry)->trigger(); });
@@ -322,9 +331,13 @@ private:
         if (nShown >= 0) {
             m_model.activate(nShown);
         } else if (!strPath.endsWith(".kelpa")) {
-            expect("Cannot open this file type.", QMessageBox::Ok);
+            expect("Cannot open this file type.\n" + strPath, QMessageBox::Ok);
         } else if (m_model.disk.value(strPath, -1) < 0) {
-            expect(QString("Could not open project %1.").arg(strPath), QMessageBox::Ok);
+            const bool bExists = m_model.disk.contains(strPath);
+            expect(
+                QString("Could not open project %1.\n%2")
+                    .arg(strPath, bExists ? "line 1, column 2: not valid JSON" : "the file does not exist"),
+                QMessageBox::Ok);
         } else {
             m_model.addRecent(strPath);
             m_model.attach({strPath, false, false, {{m_model.disk.value(strPath)}}});
@@ -370,9 +383,10 @@ private:
     {
         log.append(QLatin1String(pStep) + QLatin1Char(' ') + details.join(' '));
     }
-    void expect(const QString &strBox, QMessageBox::StandardButton answer)
+    void expect(
+        const QString &strBox, QMessageBox::StandardButton answer, const char *pTitle = "Kelpa Studio")
     {
-        m_expected.append(strBox);
+        m_expected.append(pTitle + (": " + strBox));
         m_answers.append(answer);
     }
 
@@ -382,8 +396,12 @@ private:
         const BoxAnswers boxes(m_answers);
         const FileAnswer place(&m_strChosen);
         step();
-        // Long words have places to break at.
-        m_said = boxes.texts().replaceInStrings(QString(QChar(0x200B)), QString());
+        for (const BoxAnswers::Box &box : boxes.boxes) {
+            m_said.append(box.title + ": " + box.text + '\n' + box.informative);
+            m_said.last().remove(QChar(0x200B)); // a place where a long word may break
+            if (box.title == "Kelpa Studio" && box.buttons & QMessageBox::Yes)
+                QCOMPARE(box.defaultButton, QMessageBox::Yes);
+        }
     }
 
     WalkProgram m_program;

@@ -30,17 +30,6 @@ struct Program : StageProgram
     QStringList fired;
 };
 
-// The server has names of its own for modifiers and letters.
-void press(const QString &strKeys)
-{
-    QString strNames = strKeys;
-    for (const char *pName : {"Ctrl", "Shift", "Alt"})
-        strNames.replace(QLatin1String(pName), QString::fromLatin1(pName).toLower());
-    if (strNames.size() > 1 && strNames.at(strNames.size() - 2) == QLatin1Char('+'))
-        strNames = strNames.toLower();
-    QCOMPARE(QProcess::execute("xdotool", {"key", strNames}), 0);
-}
-
 } // namespace
 
 class tst_WindowKeys : public QObject
@@ -75,9 +64,9 @@ private slots:
         QTRY_VERIFY(pView->hasFocus());
         QVERIFY(program.command(command)->isEnabled());
         program.countOnly();
-        press(keys);
+        pressOnServer(keys);
         QTRY_COMPARE(program.fired, QStringList(command));
-        press("F1"); // whatever else the keys did has arrived before this
+        pressOnServer("F1"); // whatever else the keys did has arrived before this
         QTRY_COMPARE(program.fired.size(), 2);
         QCOMPARE(program.fired, QStringList({command, "Help.Help_Contents"}));
     }
@@ -87,7 +76,7 @@ private slots:
     {
         Program program;
         QVERIFY(program.show());
-        press("Ctrl+Shift+S");
+        pressOnServer("Ctrl+Shift+S");
         QTRY_VERIFY(!program.window->isVisible());
     }
 };

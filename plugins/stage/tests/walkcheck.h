@@ -36,11 +36,13 @@ public:
         ModelDocument *pActive = m_model.active();
         same("save", m_program.command("File.Save")->isEnabled(), pActive && pActive->canSave());
         same("save as", m_program.command("File.SaveAs.Project")->isEnabled(), pActive != nullptr);
+        same("menu of save as", ActionManager::getActionContainer("File.SaveAs")->getMenu()->isEnabled(),
+            pActive != nullptr);
         same("close", m_program.command("File.Close")->isEnabled(), pActive != nullptr);
         same("undo", m_program.command("Edit.Undo")->isEnabled(), pActive && pActive->nIndex > 0);
         same("redo", m_program.command("Edit.Redo")->isEnabled(),
             pActive && pActive->nIndex + 1 < pActive->history.size());
-        same("title", m_program.window->windowTitle(), m_model.title());
+        same("title", m_program.window->windowTitle().replace("[*][*]", "[*]"), m_model.title());
         same("welcome", m_program.welcome.isVisible(), m_model.documents.isEmpty());
         same("documents", DocumentManager::getDocuments().size(), m_model.documents.size());
         same("editors", EditorManager::getEditors().size(), m_model.documents.size());
@@ -73,10 +75,11 @@ private:
             same("elements", pDocument->getModel()->elementCount(), document.elements());
             same("history", pDocument->getUndoStack()->index(), document.nIndex);
             same("mark", pEditor->getSubWindow()->isWindowModified(), document.isModified());
-            const QString strName = document.name() + "[*]";
-            const QStringList ends = // of a long name
-                pEditor->getSubWindow()->windowTitle().replace("&&", "&").split(QChar(0x2026));
-            same("tab title", strName.startsWith(ends.first()) && strName.endsWith(ends.last()), true);
+            const QString strName = document.name().replace('&', "&&") + (document.isModified() ? "*" : "");
+            const QString strTab = m_program.tabs()->tabText(i).remove(QChar(0x2060));
+            const QStringList ends = strTab.split(QChar(0x2026)); // of a long name
+            const bool bEnds = strName.startsWith(ends.first()) && strName.endsWith(ends.last());
+            same("tab", ends.size() > 1 && bEnds ? strName : strTab, strName);
             same("tab path", pEditor->getSubWindow()->windowFilePath(), document.path);
         }
     }
@@ -86,6 +89,7 @@ private:
         same("recent list", IRecentFilesManager::getInstance()->getRecentFiles(), m_model.recent);
         const ActionContainer *pMenu = ActionManager::getActionContainer("File.Recent_Projects");
         same("recent menu", pMenu->getMenu()->isEnabled(), !m_model.recent.isEmpty());
+        same("recent entries", pMenu->getMenu()->actions().size(), 10);
         for (int i = 0; i < 10; ++i) {
             const QAction *pAction = recentCommand(i);
             same("recent entry shown", pAction->isVisible(), i < m_model.recent.size());

@@ -17,6 +17,7 @@ struct ModelDocument
     {
         int nElements;
         int nStepped = 0;
+        int nElement = 0; ///< that was stepped
     };
 
     QString path;
@@ -38,18 +39,18 @@ struct ModelDocument
         if (nClean > nIndex)
             nClean = -1;
     }
-    void push(int nElements, int nStepped = 0)
+    void push(const State &state)
     {
         dropRedo();
-        history.append(State {nElements, nStepped});
+        history.append(state);
         goTo(nIndex + 1);
     }
-    void step(int nDistance)
+    void step(int nElement, int nDistance)
     {
         dropRedo();
-        const int nBefore = history.last().nStepped;
+        const int nBefore = history.last().nElement == nElement ? history.last().nStepped : 0;
         if (nBefore == 0 || nIndex == nClean) {
-            push(elements(), nDistance);
+            push({elements(), nDistance, nElement});
         } else if (nBefore + nDistance == 0) { // back where it was: the command goes
             history.removeLast();
             goTo(nIndex - 1);

@@ -16,17 +16,7 @@ public:
     }
     ICreateDocumentDlg *createNewDocumentDialog() override
     {
-        struct Dialog : FakeNewDialog
-        {
-            Dialog(const WalkFactory &factory)
-                : FakeNewDialog(factory.strPath, factory.nResult)
-                , m_nWidth(factory.nWidth)
-            {
-            }
-            int getFirstValue() override { return m_nWidth; }
-            const int m_nWidth;
-        };
-        pDialog = new Dialog(*this);
+        pDialog = new FakeNewDialog(strPath, nResult, nWidth);
         return pDialog;
     }
     QString getOpenFileName() override { return strPath; }
@@ -64,23 +54,9 @@ struct WalkProgram : StageProgramWith<WalkFactory>
     QWidget welcome;
 };
 
-/// Takes away the folder of the projects while it lives: nothing can be written there.
-class FolderGone
+/// Takes away the folder of the projects while the result lives: nothing can be written there.
+inline auto takeAway(const QString &strFolder, bool bGone)
 {
-public:
-    FolderGone(const QString &strFolder, bool bGone)
-        : m_strFolder(strFolder)
-        , m_bGone(bGone && QDir().rename(strFolder, strFolder + ".gone"))
-    {
-    }
-    ~FolderGone()
-    {
-        if (m_bGone)
-            QDir().rename(m_strFolder + ".gone", m_strFolder);
-    }
-    Q_DISABLE_COPY_MOVE(FolderGone)
-
-private:
-    const QString m_strFolder;
-    const bool m_bGone;
-};
+    const bool bTaken = bGone && QDir().rename(strFolder, strFolder + ".gone");
+    return qScopeGuard([=] { bTaken &&QDir().rename(strFolder + ".gone", strFolder); });
+}
