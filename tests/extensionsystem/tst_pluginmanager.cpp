@@ -143,14 +143,16 @@ private slots:
         QCOMPARE(host.errors().isEmpty(), err.isEmpty());
     }
 
-    // Where there is no display, two of them need none.
+    // Where there is no display, two of them need none; also in a language that is read from the right.
     void theRealProgramEndsInGoodOrderWhenItHasNothingToRun()
     {
+        QTemporaryDir folder;
+        write(folder.filePath("KelpaStudio.ini"), "[Kelpa]\nLanguage=ar_EG\n");
         const std::pair<const char *, int> ends[] = {{"--version", 0}, {"--help", 0}, {"--shallow", 1}};
         for (const auto &[pOption, nExitCode] : ends) {
             const QString strPlatform = nExitCode ? "offscreen" : "xcb";
-            ChildProcess program(
-                QStringLiteral(KELPASTUDIO), {pOption}, {{"QT_QPA_PLATFORM", strPlatform}, {"DISPLAY", ""}});
+            ChildProcess program(QStringLiteral(KELPASTUDIO), {"--settings-path", folder.path(), pOption},
+                {{"QT_QPA_PLATFORM", strPlatform}, {"DISPLAY", ""}});
             QCOMPARE(program.finish(), nExitCode);
         }
     }
