@@ -40,10 +40,11 @@ public:
         ConsoleReporter::ReportRuns(runs);
     }
 
-    /// False if a benchmark that ran exceeds its bound times `fSlack`; with zero only prints.
+    /// False if a benchmark that ran exceeds its bound times `fSlack`, or none ran; with zero only prints.
     bool check(const std::vector<Bound> &bounds, double fSlack) const
     {
         bool bGood = true;
+        int nCompared = 0;
         for (const Bound &bound : bounds) {
             const double fBase = bound.comparedTo.empty() ? 1 : time(bound.comparedTo, fSlack != 1);
             const double fValue = time(bound.name, fSlack != 1);
@@ -51,11 +52,12 @@ public:
                 continue;
             const bool bHolds = fSlack == 0 || fValue / fBase <= bound.fLimit * fSlack;
             bGood = bGood && bHolds;
+            ++nCompared;
             std::printf("%s %s: %.4g, bound %.4g%s%s\n", bHolds ? "ok  " : "FAIL", bound.name.c_str(),
                 fValue / fBase, bound.fLimit, bound.comparedTo.empty() ? " ns" : " times ",
                 bound.comparedTo.c_str());
         }
-        return bGood;
+        return bGood && nCompared > 0;
     }
 
 private:

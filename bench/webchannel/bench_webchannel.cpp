@@ -6,10 +6,8 @@
 #include <webchannel/websockettransport.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTcpSocket>
 #include <QThread>
 #include <QWebChannel>
@@ -17,7 +15,6 @@
 #include <QWebSocketServer>
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -210,58 +207,6 @@ std::vector<Bound> bounds()
     return result;
 }
 
-double residentKiB()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() * 4 : 0;
-}
-
-constexpr int Clients = 50;
-
-// The other side of the memory figure, in a process of its own.
-int holdClients(const QUrl &url)
-{
-    std::vector<std::unique_ptr<QWebSocket>> sockets(Clients);
-    int nGone = 0;
-    for (auto &socket : sockets) {
-        socket = std::make_unique<QWebSocket>();
-        QObject::connect(socket.get(), &QWebSocket::connected, socket.get(),
-            [pSocket = socket.get()] { pSocket->sendTextMessage(messageOf(10000)); });
-        QObject::connect(socket.get(), &QWebSocket::textMessageReceived, socket.get(), [] {
-            std::puts("answered");
-            std::fflush(stdout);
-        });
-        QObject::connect(socket.get(), &QWebSocket::disconnected, qApp, [&nGone] {
-            if (++nGone == Clients)
-                QCoreApplication::quit();
-        });
-        socket->open(url);
-    }
-    return QCoreApplication::exec();
-}
-
-// Each client has had one answer of 10 kB.
-double memoryPerClient(Kind kind)
-{
-    const EchoServer server(kind);
-    const double before = residentKiB();
-    QProcess clients;
-    QByteArray answers;
-    QEventLoop loop;
-    QObject::connect(&clients, &QProcess::readyReadStandardOutput, &loop, [&] {
-        answers += clients.readAllStandardOutput();
-        if (answers.count('\n') >= Clients)
-            loop.quit();
-    });
-    clients.start(
-        QCoreApplication::applicationFilePath(), {QStringLiteral("--clients"), server.url().toString()});
-    loop.exec();
-    const double result = (residentKiB() - before) / Clients;
-    clients.kill();
-    clients.waitForFinished();
-    return result;
-}
-
 // Whether the allocator hands large blocks back to the system between two messages is chance, and costs more
 // than what is measured here.
 void keepMemory()
@@ -276,15 +221,12 @@ void keepMemory()
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    if (app.arguments().value(1) == QLatin1String("--clients"))
-        return holdClients(QUrl(app.arguments().value(2)));
+    const QCoreApplication app(argc, argv);
     for (const auto &[size, nSize] : s_sizes)
         for (const auto &[name, kind] : s_kinds)
             benchmark::RegisterBenchmark((name + ", " + size).c_str(), measure, kind, nSize)
                 ->UseRealTime()
                 ->Unit(benchmark::kMillisecond);
-    std::printf("Memory per client at %d clients: %.1f KiB\n", Clients, memoryPerClient(Kind::Channel));
     keepMemory();
     return runBenchmarks(argc, argv, bounds());
 }
