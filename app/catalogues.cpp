@@ -29,7 +29,7 @@ bool install(Load load)
     auto pTranslator = std::make_unique<QTranslator>();
     if (!load(*pTranslator))
         return false;
-    pTranslator->setParent(qApp);
+    pTranslator->setParent(QCoreApplication::instance());
     return QCoreApplication::installTranslator(pTranslator.release());
 }
 
@@ -52,5 +52,7 @@ void installCatalogues()
     install([&](QTranslator &translator) {
         return translator.load(QStringLiteral("app_%1.qm").arg(locale.name()), strFolder);
     });
-    QGuiApplication::setLayoutDirection(locale.textDirection());
+    // What only prints its help has nothing to lay out, and Qt would tell an object that is not there.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        QGuiApplication::setLayoutDirection(locale.textDirection());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Commands and contexts: the change of focus, the look-up of a context, registering.
-#include "bounds.h"
+#include <bench/bounds.h>
 
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
@@ -14,8 +14,6 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
-
-#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -194,12 +192,12 @@ void RegisterPlain(benchmark::State &state)
 }
 
 const std::vector<Bound> s_bounds = {
-    {"Focus/2000", 1e6, nullptr},
+    {"Focus/2000", 1e6, {}},
     {"Focus/500", 1.5, "FocusPlain/500"},
     {"Focus/5000", 1.5, "FocusPlain/5000"},
     {"Focus/50000", 1.5, "FocusPlain/50000"},
-    {"ActiveContext", 2e4, nullptr},
-    {"Register", 1e8, nullptr},
+    {"ActiveContext", 2e4, {}},
+    {"Register", 1e8, {}},
     {"Register", 2, "RegisterPlain"},
 };
 
@@ -224,9 +222,6 @@ void setUp()
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
     const QTemporaryDir dir;
     ExtensionSystem::PluginManager plugins;
     plugins.setSettings(
@@ -235,8 +230,5 @@ int main(int argc, char *argv[])
     s_pWindow = pWindow.get();
     s_pWindow->show();
     setUp();
-    BoundsReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    const char *pSlack = std::getenv("KELPA_BENCH_SLACK");
-    return reporter.check(s_bounds, pSlack ? std::atof(pSlack) : 1) ? 0 : 1;
+    return runBenchmarks(argc, argv, s_bounds);
 }

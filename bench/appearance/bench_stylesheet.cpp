@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Sizes in style sheets: a sheet of one megabyte, and of 64.
-#include "../bounds.h"
+#include <bench/bounds.h>
 
 #include <appearance/stylesheettokens.h>
-
-#include <cstdlib>
 
 namespace {
 
@@ -40,7 +38,7 @@ void Copy(benchmark::State &state, qsizetype nMegabytes)
 
 // 100 megabytes a second are 10 ms for one.
 const std::vector<Bound> s_bounds = {
-    {"Resolve/1", 1e7, nullptr},
+    {"Resolve/1", 1e7, {}},
     {"Resolve/1", 1.5, "Copy/1"},
     {"Resolve/64", 1.5, "Copy/64"},
     {"Resolve/64", 64 * 1.5, "Resolve/1"},
@@ -50,16 +48,12 @@ const std::vector<Bound> s_bounds = {
 
 int main(int argc, char *argv[])
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    using benchmark::RegisterBenchmark;
-    RegisterBenchmark("Resolve/1", Resolve, 1)->Unit(benchmark::kMillisecond);
-    RegisterBenchmark("Resolve/64", Resolve, 64)->Unit(benchmark::kMillisecond);
-    RegisterBenchmark("Copy/1", Copy, 1)->Unit(benchmark::kMillisecond);
-    RegisterBenchmark("Copy/64", Copy, 64)->Unit(benchmark::kMillisecond);
-    BoundsReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    const char *pSlack = std::getenv("KELPA_BENCH_SLACK");
-    return reporter.check(s_bounds, pSlack ? std::atof(pSlack) : 1) ? 0 : 1;
+    for (const int nMegabytes : {1, 64}) {
+        const std::string size = std::to_string(nMegabytes);
+        benchmark::RegisterBenchmark(("Resolve/" + size).c_str(), Resolve, nMegabytes)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark(("Copy/" + size).c_str(), Copy, nMegabytes)
+            ->Unit(benchmark::kMillisecond);
+    }
+    return runBenchmarks(argc, argv, s_bounds);
 }

@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: MIT
 // What the transport costs beside the least that could do its work: messages there and back over a real
 // socket, the client in a thread of its own.
+#include <bench/bounds.h>
 #include <webchannel/websocketclientwrapper.h>
 #include <webchannel/websockettransport.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTcpSocket>
 #include <QThread>
 #include <QWebChannel>
 #include <QWebSocket>
 #include <QWebSocketServer>
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
-#include <cstdio>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -200,117 +195,15 @@ const std::vector<std::pair<std::string, Kind>> s_kinds {
     {"channel on the transport", Kind::Channel},
 };
 
-/// Keeps the time of each repetition for the comparison of the medians.
-class Ratios : public benchmark::ConsoleReporter
+// At least 0.95 of the throughput.
+std::vector<Bound> bounds()
 {
-public:
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs)
-            if (run.run_type == Run::RT_Iteration && run.iterations > 0 && !run.error_occurred)
-                m_times[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
-        ConsoleReporter::ReportRuns(runs);
-    }
-
-    /// The throughput of the first as a part of the second's, by the medians or the fastest repetitions; 0 if
-    /// one did not run.
-    [[nodiscard]] double ratio(const std::string &first, const std::string &second, bool bFastest)
-    {
-        return m_times.count(first) && m_times.count(second) ? time(second, bFastest) / time(first, bFastest)
-                                                             : 0;
-    }
-
-private:
-    double time(const std::string &name, bool bFastest)
-    {
-        std::vector<double> &times = m_times[name];
-        std::sort(times.begin(), times.end());
-        return times[bFastest ? 0 : times.size() / 2];
-    }
-
-    std::map<std::string, std::vector<double>> m_times;
-};
-
-struct Comparison
-{
-    int nKind;
-    int nBase;
-    bool bBound;
-};
-constexpr Comparison s_comparisons[] {{1, 0, true}, {3, 2, true}, {3, 0, false}};
-
-// The bound divided by the slack; no slack, no bound. In a short run the fastest repetitions tell most: what
-// else the machine does slows the others. What did not run is only right if it was left out.
-bool check(Ratios &ratios, double slack, bool bAllRan)
-{
-    constexpr double Bound = 0.95;
-    bool bGood = true;
-    int nCompared = 0;
+    std::vector<Bound> result;
     for (const auto &[size, nSize] : s_sizes) {
-        for (const Comparison &pair : s_comparisons) {
-            const std::string &kind = s_kinds[pair.nKind].first, &base = s_kinds[pair.nBase].first;
-            const double ratio = ratios.ratio(kind + ", " + size, base + ", " + size, slack != 1);
-            if (ratio <= 0 && !bAllRan)
-                continue;
-            ++nCompared;
-            const bool bHolds = ratio > 0 && (!pair.bBound || slack == 0 || ratio >= Bound / slack);
-            std::printf("%s %s: %.3f of the throughput of %s at %s\n", bHolds ? "ok  " : "FAIL", kind.c_str(),
-                ratio, base.c_str(), size.c_str());
-            bGood = bGood && bHolds;
-        }
+        for (const auto &[nKind, nBase] : {std::pair(1, 0), std::pair(3, 2)})
+            result.push_back(
+                {s_kinds[nKind].first + ", " + size, 1 / 0.95, s_kinds[nBase].first + ", " + size});
     }
-    return bGood && nCompared > 0;
-}
-
-double residentKiB()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() * 4 : 0;
-}
-
-constexpr int Clients = 50;
-
-// The other side of the memory figure, in a process of its own.
-int holdClients(const QUrl &url)
-{
-    std::vector<std::unique_ptr<QWebSocket>> sockets(Clients);
-    int nGone = 0;
-    for (auto &socket : sockets) {
-        socket = std::make_unique<QWebSocket>();
-        QObject::connect(socket.get(), &QWebSocket::connected, socket.get(),
-            [pSocket = socket.get()] { pSocket->sendTextMessage(messageOf(10000)); });
-        QObject::connect(socket.get(), &QWebSocket::textMessageReceived, socket.get(), [] {
-            std::puts("answered");
-            std::fflush(stdout);
-        });
-        QObject::connect(socket.get(), &QWebSocket::disconnected, qApp, [&nGone] {
-            if (++nGone == Clients)
-                QCoreApplication::quit();
-        });
-        socket->open(url);
-    }
-    return QCoreApplication::exec();
-}
-
-// Each client has had one answer of 10 kB.
-double memoryPerClient(Kind kind)
-{
-    const EchoServer server(kind);
-    const double before = residentKiB();
-    QProcess clients;
-    QByteArray answers;
-    QEventLoop loop;
-    QObject::connect(&clients, &QProcess::readyReadStandardOutput, &loop, [&] {
-        answers += clients.readAllStandardOutput();
-        if (answers.count('\n') >= Clients)
-            loop.quit();
-    });
-    clients.start(
-        QCoreApplication::applicationFilePath(), {QStringLiteral("--clients"), server.url().toString()});
-    loop.exec();
-    const double result = (residentKiB() - before) / Clients;
-    clients.kill();
-    clients.waitForFinished();
     return result;
 }
 
@@ -328,22 +221,14 @@ void keepMemory()
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    if (app.arguments().value(1) == QLatin1String("--clients"))
-        return holdClients(QUrl(app.arguments().value(2)));
-    benchmark::Initialize(&argc, argv);
+    const QCoreApplication app(argc, argv);
     for (const auto &[size, nSize] : s_sizes)
         for (const auto &[name, kind] : s_kinds)
             benchmark::RegisterBenchmark((name + ", " + size).c_str(), measure, kind, nSize)
                 ->UseRealTime()
                 ->Unit(benchmark::kMillisecond);
-    const double memory = memoryPerClient(Kind::Channel);
     keepMemory();
-    Ratios ratios;
-    const bool bAllRan = benchmark::RunSpecifiedBenchmarks(&ratios) == s_sizes.size() * s_kinds.size();
-    std::printf("Memory per client at %d clients: %.1f KiB\n", Clients, memory);
-    const bool bGood = check(ratios, qEnvironmentVariable("KELPA_BENCH_SLACK", "1").toDouble(), bAllRan);
-    return bGood ? 0 : 1;
+    return runBenchmarks(argc, argv, bounds());
 }
 
 #include "bench_webchannel.moc"

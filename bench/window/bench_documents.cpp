@@ -47,20 +47,6 @@ double msOf(const Step &step)
     return static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
 }
 
-// Microseconds more for each document than for the one before, by least squares.
-double slope(const std::vector<double> &ms)
-{
-    const double fMiddle = (static_cast<double>(ms.size()) - 1) / 2;
-    double fProducts = 0;
-    double fSquares = 0;
-    for (std::size_t i = 0; i < ms.size(); ++i) {
-        const double fDistance = static_cast<double>(i) - fMiddle;
-        fProducts += fDistance * ms[i];
-        fSquares += fDistance * fDistance;
-    }
-    return fProducts / fSquares * 1000;
-}
-
 // The medians: other programs on the machine disturb single steps.
 double median(std::vector<double>::const_iterator begin, std::vector<double>::const_iterator end)
 {
@@ -75,9 +61,8 @@ bool report(const char *pWhat, const std::vector<double> &ms, double fLimit)
     const double fFirst = median(ms.begin(), ms.begin() + nQuarter);
     const double fLast = median(ms.end() - nQuarter, ms.end());
     const bool bGood = s_fSlack == 0 || fLast / fFirst <= fLimit * s_fSlack;
-    std::printf("%s %s: %.2f ms each in the first quarter, %.2f ms in the last: %.2f times, bound %.1f; "
-                "slope %.3f us per document\n",
-        bGood ? "ok  " : "FAIL", pWhat, fFirst, fLast, fLast / fFirst, fLimit, slope(ms));
+    std::printf("%s %s: %.2f ms each in the first quarter, %.2f ms in the last: %.2f times, bound %.1f\n",
+        bGood ? "ok  " : "FAIL", pWhat, fFirst, fLast, fLast / fFirst, fLimit);
     return bGood;
 }
 

@@ -3,7 +3,6 @@
 // a bare main window of the same size; the time with all plug-ins beside it: bench_start PROGRAM [RUNS].
 // Needs an X display with a window manager.
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMainWindow>
@@ -88,20 +87,6 @@ QByteArray processFile(const QProcess &process, const char *pName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Of all threads; what it says does not depend on how busy the machine is.
-double processorMs(const QProcess &process)
-{
-    const QDir tasks(QStringLiteral("/proc/%1/task").arg(process.processId()));
-    double fNs = 0;
-    const auto threads = tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &strThread : threads) {
-        QFile file(tasks.filePath(strThread + QStringLiteral("/schedstat")));
-        if (file.open(QIODevice::ReadOnly))
-            fNs += file.readAll().split(' ').first().toDouble();
-    }
-    return fNs / 1e6;
-}
-
 double residentMiB(const QProcess &process)
 {
     static const QRegularExpression s_line(QStringLiteral("VmRSS:\\s*(\\d+) kB"));
@@ -122,7 +107,6 @@ void waitUntilIdle(const QProcess &process)
 struct Start
 {
     double fMs = 0;
-    double fProcessorMs = 0;
     double fMiB = 0;
     QSize size;
     bool bWebEngine = false;
@@ -140,7 +124,6 @@ Start start(MapWatch &display, const QString &strProgram, const QStringList &arg
     process.start(strProgram, arguments);
     result.size = display.waitForWindow();
     result.fMs = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-    result.fProcessorMs = processorMs(process);
     const QByteArray maps = processFile(process, "maps");
     result.bWebEngine = maps.contains("WebEngine"); // comes after the first paint
     result.bImageFormats = maps.contains("/imageformats/");
@@ -198,7 +181,7 @@ int main(int argc, char *argv[])
     const QStringList common {
         QStringLiteral("--new-instance"), QStringLiteral("--settings-path"), settings.path()};
     const QStringList coreAndStage = common + QStringList {QStringLiteral("--load"), QStringLiteral("stage")};
-    std::vector<double> ms, allMs, bareMs, processor, bareProcessor, mib, bareMiB;
+    std::vector<double> ms, allMs, bareMs, mib, bareMiB;
     for (int i = -1; i < nRuns; ++i) {
         const Start own = start(display, strProgram, coreAndStage);
         const Start all = start(display, strProgram, common);
@@ -219,13 +202,9 @@ int main(int argc, char *argv[])
         ms.push_back(own.fMs);
         allMs.push_back(all.fMs);
         bareMs.push_back(bare.fMs);
-        processor.push_back(own.fProcessorMs);
-        bareProcessor.push_back(bare.fProcessorMs);
         mib.push_back(own.fMiB);
         bareMiB.push_back(bare.fMiB);
     }
-    std::printf("     processor time until then: %.1f ms, bare %.1f ms: %.2f times\n", median(processor),
-        median(bareProcessor), median(processor) / median(bareProcessor));
     std::printf(
         "     with all plug-ins: %.1f ms, %.2f times\n", median(allMs), median(allMs) / median(bareMs));
     const bool bTime = holds("start to the mapped window", "ms", ms, bareMs, s_fMostTime);

@@ -5,8 +5,6 @@
 #include <appearance/kpappstyle.h>
 #include <mainwindow.h>
 
-#include <QScreen>
-
 using ExtensionSystem::PluginManager;
 
 // The manager lives as long as the process: it lists everything again at each initialize() and keeps the
@@ -49,7 +47,7 @@ private slots:
         install("app_dark.qss", "dark");
         install("app_light.qss", "a{b:$10px$}");
         install("win_app_light.qss", "never");
-        showOn("192");
+        showOn(192);
         settings()->setValue("Kelpa/Theme", "Light");
         QVERIFY(manager().initialize());
         QCOMPARE(qApp->styleSheet(), "a{b:$10px$}");
@@ -66,14 +64,14 @@ private slots:
     {
         install("app_dark.qss", "base{a:$10px$}\xc3\xa4");
         install("win_app_dark.qss", "platform{b:$1px$}\r\n");
-        showOn("192");
+        showOn(192);
         QVERIFY(manager().initialize());
         QCOMPARE(qApp->styleSheet(), QString::fromUtf8("platform{b:2px}\nbase{a:20px}\xc3\xa4"));
         QCOMPARE(settings()->value("Kelpa/Theme").toString(), "Dark");
         QCOMPARE(manager().getCurrentThemeId(), "Dark");
         QVERIFY(hasAppStyle());
 
-        showOn("120");
+        showOn(120);
         QCOMPARE(qApp->styleSheet(), QString::fromUtf8("platform{b:2px}\nbase{a:20px}\xc3\xa4"));
         manager().processDPIChange();
         QCOMPARE(qApp->styleSheet(), QString::fromUtf8("platform{b:1px}\nbase{a:12px}\xc3\xa4"));
@@ -165,16 +163,11 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(sheet) == sheet.size());
     }
 
-    // The main window on the screen of that name.
-    void showOn(const char *pScreen)
+    void showOn(int nDPI)
     {
         if (!m_pWindow)
             m_pWindow = std::make_unique<MainWindow>(nullptr);
-        const auto screens = QGuiApplication::screens();
-        for (QScreen *pCandidate : screens) {
-            if (pCandidate->name() == QLatin1String(pScreen))
-                m_pWindow->setScreen(pCandidate);
-        }
+        m_pWindow->setScreen(screenOf(nDPI));
     }
 
     std::unique_ptr<TestProgram> m_pProgram;

@@ -4,13 +4,6 @@
 #include <appearance/kpappstyle.h>
 #include <mainwindow.h>
 
-#include <QDockWidget>
-#include <QPainter>
-#include <QScreen>
-#include <QSlider>
-#include <QStyleOptionSlider>
-#include <QStyleOptionTitleBar>
-
 namespace {
 
 constexpr int s_nThickness = 10;
@@ -37,17 +30,9 @@ public:
 };
 
 using Metric = QStyle::PixelMetric;
+using enum QStyle::PixelMetric;
 
 const QList<int> s_dpis = {72, 96, 120, 143, 144, 192};
-
-void moveTo(QWidget &widget, int nDPI)
-{
-    const auto screens = QGuiApplication::screens();
-    for (QScreen *pScreen : screens) {
-        if (pScreen->name() == QString::number(nDPI))
-            widget.setScreen(pScreen);
-    }
-}
 
 } // namespace
 
@@ -56,63 +41,73 @@ class tst_KPAppStyle : public QObject
     Q_OBJECT
 
 private slots:
-    // Several metrics of one rule; values at 72, 96, 120, 143, 144 and 192 DPI, of a widget in a window.
-    void metrics_data()
+    // Of a widget in a window, at each density.
+    void rules_data()
     {
-        const auto row = columns<QList<Metric>, QList<int>>("metrics", "expected");
-        row("proportional 6", {QStyle::PM_ButtonMargin, QStyle::PM_LayoutVerticalSpacing},
-            {4, 6, 7, 8, 9, 12});
-        row("proportional 10", {QStyle::PM_MenuScrollerHeight, QStyle::PM_MenuButtonIndicator},
-            {7, 10, 12, 14, 15, 20});
-        row("proportional 9",
-            {QStyle::PM_ScrollBarSliderMin, QStyle::PM_LayoutLeftMargin, QStyle::PM_LayoutBottomMargin},
-            {6, 9, 11, 13, 13, 18});
-        row("proportional 16", {QStyle::PM_SliderThickness, QStyle::PM_TitleBarButtonSize},
-            {12, 16, 20, 23, 24, 32});
-        row("proportional 8", {QStyle::PM_DockWidgetHandleExtent}, {6, 8, 10, 11, 12, 16});
-        row("proportional 18", {QStyle::PM_TitleBarHeight}, {13, 18, 22, 26, 27, 36});
-        row("proportional 13", {QStyle::PM_IndicatorWidth, QStyle::PM_SizeGripSize}, {9, 13, 16, 19, 19, 26});
-        row("proportional 12", {QStyle::PM_ExclusiveIndicatorHeight, QStyle::PM_ExclusiveIndicatorWidth},
-            {9, 12, 15, 17, 18, 24});
-        row("proportional 5", {QStyle::PM_DialogButtonsSeparator}, {3, 5, 6, 7, 7, 10});
-        row("proportional 70", {QStyle::PM_DialogButtonsButtonWidth}, {52, 70, 87, 104, 105, 140});
-        row("proportional 30",
-            {QStyle::PM_HeaderDefaultSectionSizeVertical, QStyle::PM_DialogButtonsButtonHeight},
-            {22, 30, 37, 44, 45, 60});
-        row("proportional 4", {QStyle::PM_MdiSubWindowFrameWidth, QStyle::PM_HeaderMargin},
-            {3, 4, 5, 5, 6, 8});
-        row("proportional 196", {QStyle::PM_MdiSubWindowMinimizedWidth}, {147, 196, 245, 291, 294, 392});
-        row("proportional 2", {QStyle::PM_DockWidgetTitleBarButtonMargin}, {1, 2, 2, 2, 3, 4});
-        row("proportional 20", {QStyle::PM_TreeViewIndentation}, {15, 20, 25, 29, 30, 40});
-        row("proportional 100", {QStyle::PM_HeaderDefaultSectionSizeHorizontal},
-            {75, 100, 125, 148, 150, 200});
-        row("whole 12", {QStyle::PM_ScrollBarExtent}, {12, 12, 12, 12, 24, 24});
-        row("whole 24", {QStyle::PM_ToolBarIconSize}, {24, 24, 24, 24, 48, 48});
-        row("whole 32", {QStyle::PM_LargeIconSize, QStyle::PM_MessageBoxIconSize}, {32, 32, 32, 32, 64, 64});
-        row("whole 16", {QStyle::PM_SmallIconSize, QStyle::PM_TitleBarButtonIconSize},
-            {16, 16, 16, 16, 32, 32});
-        row("none", {QStyle::PM_DefaultFrameWidth, QStyle::PM_TabBar_ScrollButtonOverlap},
-            {0, 0, 0, 0, 0, 0});
-        row("always 1", {QStyle::PM_DockWidgetFrameWidth, QStyle::PM_ToolTipLabelFrameWidth},
-            {1, 1, 1, 1, 1, 1});
-        row("always 3", {QStyle::PM_TabBarTabOverlap}, {3, 3, 3, 3, 3, 3});
-        row("always 9", {QStyle::PM_ProgressBarChunkWidth}, {9, 9, 9, 9, 9, 9});
-        row("always 2", {QStyle::PM_MenuBarPanelWidth, QStyle::PM_FocusFrameHMargin}, {2, 2, 2, 2, 2, 2});
-        row("less than the menu's panel", {QStyle::PM_SubMenuOverlap}, QList<int>(6, -s_nPanel));
+        const auto row = columns<Metric, QList<int>>("metric", "expected");
+        row("proportional", PM_IndicatorWidth, {9, 13, 16, 19, 19, 26});
+        row("by whole factors", PM_ScrollBarExtent, {12, 12, 12, 12, 24, 24});
+        row("not at all", PM_ProgressBarChunkWidth, {9, 9, 9, 9, 9, 9});
+        row("less than the menu's panel", PM_SubMenuOverlap, QList<int>(6, -s_nPanel));
     }
+    void rules()
+    {
+        QFETCH(Metric, metric);
+        QWidget window;
+        QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
+    }
+
+    // At 144 DPI, where the rules give different values.
     void metrics()
     {
-        QFETCH(QList<Metric>, metrics);
+        const std::pair<int, QList<Metric>> values[] = {
+            {0,
+                {PM_ButtonDefaultIndicator, PM_ButtonShiftHorizontal, PM_ButtonShiftVertical,
+                    PM_DefaultFrameWidth, PM_MenuHMargin, PM_MenuVMargin, PM_MenuDesktopFrameWidth,
+                    PM_MenuBarItemSpacing, PM_MenuBarVMargin, PM_MenuBarHMargin, PM_TabBarTabShiftHorizontal,
+                    PM_TabBarTabShiftVertical, PM_ToolBarItemSpacing, PM_ToolBarItemMargin,
+                    PM_DockWidgetTitleMargin, PM_TabBar_ScrollButtonOverlap}},
+            {1, {PM_DockWidgetFrameWidth, PM_ToolTipLabelFrameWidth}},
+            {2, {PM_MenuBarPanelWidth, PM_SpinBoxSliderHeight, PM_FocusFrameVMargin, PM_FocusFrameHMargin}},
+            {3, {PM_TabBarTabOverlap, PM_DockWidgetTitleBarButtonMargin}},
+            {6, {PM_MdiSubWindowFrameWidth, PM_HeaderMargin, PM_HeaderGripMargin}},
+            {7, {PM_DialogButtonsSeparator}},
+            {9,
+                {PM_ButtonMargin, PM_DockWidgetSeparatorExtent, PM_CheckBoxLabelSpacing,
+                    PM_RadioButtonLabelSpacing, PM_LayoutHorizontalSpacing, PM_LayoutVerticalSpacing}},
+            {12, {PM_DockWidgetHandleExtent}},
+            {13, {PM_ScrollBarSliderMin, PM_LayoutLeftMargin, PM_LayoutBottomMargin}},
+            {15, {PM_MenuButtonIndicator, PM_MenuScrollerHeight, PM_MenuTearoffHeight}},
+            {18, {PM_ExclusiveIndicatorWidth, PM_ExclusiveIndicatorHeight}},
+            {19, {PM_IndicatorHeight, PM_SizeGripSize}},
+            {24,
+                {PM_SliderThickness, PM_HeaderMarkSize, PM_TabBarScrollButtonWidth, PM_TabCloseIndicatorWidth,
+                    PM_TabCloseIndicatorHeight, PM_TitleBarButtonSize}},
+            {27, {PM_TitleBarHeight}},
+            {30, {PM_TreeViewIndentation}},
+            {32, {PM_SmallIconSize, PM_TabBarIconSize, PM_ButtonIconSize, PM_TitleBarButtonIconSize}},
+            {45, {PM_DialogButtonsButtonHeight, PM_HeaderDefaultSectionSizeVertical}},
+            {48, {PM_ToolBarIconSize}},
+            {64, {PM_IconViewIconSize, PM_LargeIconSize, PM_MessageBoxIconSize}},
+            {105, {PM_DialogButtonsButtonWidth}},
+            {150, {PM_HeaderDefaultSectionSizeHorizontal}},
+            {294, {PM_MdiSubWindowMinimizedWidth}},
+        };
         QWidget window;
-        for (const Metric metric : std::as_const(metrics))
-            QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
+        window.setScreen(screenOf(144));
+        const QWidget child(&window);
+        for (const auto &[nExpected, metrics] : values) {
+            for (const Metric metric : metrics)
+                QCOMPARE(std::pair(metric, m_style.pixelMetric(metric, nullptr, &child)),
+                    std::pair(metric, nExpected));
+        }
     }
 
     void othersAreThoseOfThePlatform()
     {
         const QProxyStyle platform;
-        for (const Metric metric : {QStyle::PM_MaximumDragDistance, QStyle::PM_SplitterWidth,
-                 QStyle::PM_TabBarTabHSpace, QStyle::PM_CustomBase})
+        for (const Metric metric :
+            {PM_MaximumDragDistance, PM_SplitterWidth, PM_TabBarTabHSpace, PM_CustomBase})
             QCOMPARE(m_style.pixelMetric(metric, nullptr, nullptr),
                 platform.pixelMetric(metric, nullptr, nullptr));
     }
@@ -123,12 +118,11 @@ private slots:
         QWidget window;
         QStyleOption option;
         const QList<int> larger = {8, 11, 13, 16, 16, 22};
-        for (const Metric metric : {QStyle::PM_LayoutTopMargin, QStyle::PM_LayoutRightMargin})
+        for (const Metric metric : {PM_LayoutTopMargin, PM_LayoutRightMargin})
             QCOMPARE(valuesOf(metric, window, nullptr, &window), larger);
-        QCOMPARE(valuesOf(QStyle::PM_LayoutTopMargin, window, &option, &window),
-            QList<int>({6, 9, 11, 13, 13, 18}));
+        QCOMPARE(valuesOf(PM_LayoutTopMargin, window, &option, &window), QList<int>({6, 9, 11, 13, 13, 18}));
         option.state = QStyle::State_Window;
-        QCOMPARE(valuesOf(QStyle::PM_LayoutBottomMargin, window, &option, new QWidget(&window)), larger);
+        QCOMPARE(valuesOf(PM_LayoutBottomMargin, window, &option, new QWidget(&window)), larger);
     }
 
     void toolBarExtensionIsMeasuredOnTheMainWindow()
@@ -136,10 +130,10 @@ private slots:
         const TestProgram program;
         MainWindow main(nullptr);
         const QWidget other;
-        QCOMPARE(valuesOf(QStyle::PM_ToolBarExtensionExtent, main, nullptr, &other),
-            QList<int>({26, 26, 26, 26, 52, 52}));
-        QCOMPARE(valuesOf(QStyle::PM_ToolBarIconSize, main, nullptr, &other), QList<int>(6, 24));
-        QCOMPARE(m_style.pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, nullptr), 48);
+        QCOMPARE(
+            valuesOf(PM_ToolBarExtensionExtent, main, nullptr, &other), QList<int>({26, 26, 26, 26, 52, 52}));
+        QCOMPARE(valuesOf(PM_ToolBarIconSize, main, nullptr, &other), QList<int>(6, 24));
+        QCOMPARE(m_style.pixelMetric(PM_ToolBarIconSize, nullptr, nullptr), 48);
     }
 
     void titleBarHoldsItsText_data()
@@ -159,12 +153,12 @@ private slots:
         QStyleOptionTitleBar option;
         option.titleBarFlags = Qt::WindowFlags(flags);
         const auto height = [&](const QWidget *pWidget) {
-            return m_style.pixelMetric(QStyle::PM_TitleBarHeight, &option, pWidget);
+            return m_style.pixelMetric(PM_TitleBarHeight, &option, pWidget);
         };
         QFont font = widget.font();
         font.setPixelSize(3);
         widget.setFont(font);
-        QTEST(valuesOf(QStyle::PM_TitleBarHeight, widget, &option, &widget), "expected");
+        QTEST(valuesOf(PM_TitleBarHeight, widget, &option, &widget), "expected");
         font.setPixelSize(60);
         widget.setFont(font);
         QCOMPARE(height(&widget), QFontMetrics(font).height());
@@ -177,7 +171,7 @@ private slots:
     void sliders_data()
     {
         const auto row = columns<Qt::Orientation, int, int, int>("orientation", "ticks", "offset", "space");
-        const int nPlatform = QProxyStyle().pixelMetric(QStyle::PM_SliderTickmarkOffset, nullptr, nullptr);
+        const int nPlatform = QProxyStyle().pixelMetric(PM_SliderTickmarkOffset, nullptr, nullptr);
         row("lying, ticks on both sides", Qt::Horizontal, QSlider::TicksBothSides, 5, 70);
         row("lying, ticks above", Qt::Horizontal, QSlider::TicksAbove, 11, 70);
         row("lying, ticks below: the platform decides", Qt::Horizontal, QSlider::TicksBelow, nPlatform, 70);
@@ -192,11 +186,11 @@ private slots:
         option.rect = QRect(0, 0, 100, 21);
         option.orientation = orientation;
         option.tickPosition = QSlider::TickPosition(ticks);
-        QTEST(m_style.pixelMetric(QStyle::PM_SliderTickmarkOffset, &option, nullptr), "offset");
-        QTEST(m_style.pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, nullptr), "space");
+        QTEST(m_style.pixelMetric(PM_SliderTickmarkOffset, &option, nullptr), "offset");
+        QTEST(m_style.pixelMetric(PM_SliderSpaceAvailable, &option, nullptr), "space");
         const QProxyStyle platform;
         const QStyleOption none;
-        for (const Metric metric : {QStyle::PM_SliderTickmarkOffset, QStyle::PM_SliderSpaceAvailable})
+        for (const Metric metric : {PM_SliderTickmarkOffset, PM_SliderSpaceAvailable})
             QCOMPARE(
                 m_style.pixelMetric(metric, &none, nullptr), platform.pixelMetric(metric, &none, nullptr));
     }
@@ -246,19 +240,6 @@ private slots:
         }
     }
 
-    void painterIsLeftAsItWas()
-    {
-        QImage image(20, 20, QImage::Format_RGB32);
-        QPainter painter(&image);
-        painter.setPen(QPen(Qt::red, 7));
-        QStyleOption option;
-        option.rect = image.rect();
-        option.state = QStyle::State_On | QStyle::State_Enabled;
-        m_style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, nullptr);
-        QCOMPARE(painter.pen(), QPen(Qt::red, 7));
-        QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
-    }
-
 private:
     // While `moved` goes from screen to screen.
     [[nodiscard]] QList<int> valuesOf(
@@ -266,7 +247,7 @@ private:
     {
         QList<int> values;
         for (const int nDPI : s_dpis) {
-            moveTo(moved, nDPI);
+            moved.setScreen(screenOf(nDPI));
             values.append(m_style.pixelMetric(metric, pOption, pWidget));
         }
         return values;
@@ -274,11 +255,11 @@ private:
 
     const QColor s_text = QColor(0x12, 0xfe, 0x34);
 
-    // On white.
+    // On white; null when the painter is not left as it was.
     [[nodiscard]] QImage drawn(int nDPI, int nState) const
     {
         QWidget widget;
-        moveTo(widget, nDPI);
+        widget.setScreen(screenOf(nDPI));
         QImage image(60, 60, QImage::Format_RGB32);
         image.fill(Qt::white);
         QStyleOption option;
@@ -286,21 +267,18 @@ private:
         option.state = QStyle::State(nState);
         option.palette.setColor(QPalette::Text, s_text);
         QPainter painter(&image);
+        const QPen pen(Qt::red, 7);
+        painter.setPen(pen);
         m_style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, &widget);
-        return image;
+        const bool bAsBefore = painter.pen() == pen && !painter.testRenderHint(QPainter::Antialiasing);
+        return bAsBefore ? image : QImage();
     }
 
     // The rectangle around all pixels of a colour, or of all others.
     static QRect areaOf(const QImage &image, const QColor &colour, bool bOthers = false)
     {
-        QRect area;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if ((image.pixelColor(x, y) == colour) != bOthers)
-                    area |= QRect(x, y, 1, 1);
-            }
-        }
-        return area;
+        const auto mode = bOthers ? Qt::MaskInColor : Qt::MaskOutColor; // of what becomes transparent
+        return QRegion(QPixmap::fromImage(image).createMaskFromColor(colour, mode)).boundingRect();
     }
 
     const Proxy m_style;

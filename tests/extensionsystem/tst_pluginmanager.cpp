@@ -18,18 +18,19 @@ namespace {
 // The test host with plug-in folders and settings of its own.
 struct Host : ChildProcess
 {
-    Host(const QList<const char *> &folders, const QStringList &arguments,
+    Host(const QList<const char *> &folders, const QString &strSettings, const QStringList &arguments = {},
         const QList<QPair<QString, QString>> &environment = {})
-        : ChildProcess(testPath("testhost"), commandLine(folders, arguments), environment, "/tmp")
+        : ChildProcess(
+            testPath("testhost"), commandLine(folders, strSettings) + arguments, environment, "/tmp")
     {
     }
 
-    static QStringList commandLine(const QList<const char *> &folders, const QStringList &arguments)
+    static QStringList commandLine(const QList<const char *> &folders, const QString &strSettings)
     {
-        QStringList line = {"--new-instance"};
+        QStringList line = {"--new-instance", "--settings-path", strSettings};
         for (const char *pFolder : folders)
             line << QStringLiteral("--plugin-path") << testPath(pFolder);
-        return line + arguments;
+        return line;
     }
 };
 
@@ -55,16 +56,10 @@ class tst_PluginManager : public QObject
 private:
     QTemporaryDir m_settings;
 
-    QStringList withSettings(const QString &strFolder, const QStringList &arguments = {}) const
-    {
-        return QStringList({"--settings-path", strFolder}) + arguments;
-    }
-
 private slots:
     void theLifeOfRealLibraries()
     {
-        Host host({"good"},
-            withSettings(m_settings.path(), {"--depth", "20", "a.kelpa", "--rusty", "/b/../c.kelpa"}));
+        Host host({"good"}, m_settings.path(), {"--depth", "20", "a.kelpa", "--rusty", "/b/../c.kelpa"});
         QCOMPARE(host.finish(), 0);
         const QStringList expected = {"catalogues", "base construct", "anchor construct", "base initialize",
             "anchor initialize --depth 20 --rusty", "anchor extensionsInitialized",
@@ -77,14 +72,14 @@ private slots:
 
     void theGuidesMinimalPluginWorks()
     {
-        Host host({"minimal"}, withSettings(m_settings.path(), {"--greet=sea"}));
+        Host host({"minimal"}, m_settings.path(), {"--greet=sea"});
         QCOMPARE(host.finish(), 0);
         QCOMPARE(host.errors(), "Hello, sea\n");
     }
 
     void badLibrariesHarmNobodyElse()
     {
-        Host host({"good", "bad"}, withSettings(m_settings.path()));
+        Host host({"good", "bad"}, m_settings.path());
         QCOMPARE(host.finish(), 0);
         QVERIFY(host.lines().contains("anchor delayedInitialize"));
         QVERIFY(!host.lines().contains("behind initialize"));
@@ -135,7 +130,7 @@ private slots:
         QFETCH(int, exitCode);
         QFETCH(QString, out);
         QFETCH(QString, err);
-        Host host({"good"}, withSettings(m_settings.path(), options.split(' ')));
+        Host host({"good"}, m_settings.path(), options.split(' '));
         QCOMPARE(host.finish(), exitCode);
         const QString strLines = host.lines().join('\n');
         QVERIFY2(strLines.contains(out), qPrintable(strLines));
@@ -143,14 +138,16 @@ private slots:
         QCOMPARE(host.errors().isEmpty(), err.isEmpty());
     }
 
-    // Where there is no display, two of them need none.
+    // Where there is no display, two of them need none; also in a language that is read from the right.
     void theRealProgramEndsInGoodOrderWhenItHasNothingToRun()
     {
+        QTemporaryDir folder;
+        write(folder.filePath("KelpaStudio.ini"), "[Kelpa]\nLanguage=ar_EG\n");
         const std::pair<const char *, int> ends[] = {{"--version", 0}, {"--help", 0}, {"--shallow", 1}};
         for (const auto &[pOption, nExitCode] : ends) {
             const QString strPlatform = nExitCode ? "offscreen" : "xcb";
-            ChildProcess program(
-                QStringLiteral(KELPASTUDIO), {pOption}, {{"QT_QPA_PLATFORM", strPlatform}, {"DISPLAY", ""}});
+            ChildProcess program(QStringLiteral(KELPASTUDIO), {"--settings-path", folder.path(), pOption},
+                {{"QT_QPA_PLATFORM", strPlatform}, {"DISPLAY", ""}});
             QCOMPARE(program.finish(), nExitCode);
         }
     }
@@ -173,7 +170,7 @@ private slots:
         QFETCH(QString, folder);
         QFETCH(QString, needs);
         QFETCH(QString, message);
-        Host host({"good", qPrintable(folder)}, withSettings(m_settings.path()), {{"HOST_NEEDS", needs}});
+        Host host({"good", qPrintable(folder)}, m_settings.path(), {}, {{"HOST_NEEDS", needs}});
         QCOMPARE(host.finish(), 1);
         QVERIFY2(host.errors().contains("Host cannot start.\n"), qPrintable(host.errors()));
         QVERIFY2(host.errors().endsWith(message + '\n'), qPrintable(host.errors()));
@@ -214,7 +211,7 @@ private slots:
         ::chmod(qPrintable(folder.path()), folderMode);
 
         const bool bFull = QByteArray(QTest::currentDataTag()) == "a full disk";
-        Host host({"good"}, withSettings(folder.path()),
+        Host host({"good"}, folder.path(), {},
             {{bFull ? "HOST_DISK_FULL" : "HOST_DROPS_ROOT", "1"}, {"HOST_WRITES", "1"}});
         QCOMPARE(host.finish(), 0);
         const QString strFault = "fault " + strStore + ": " + reason;

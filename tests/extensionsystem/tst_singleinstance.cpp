@@ -221,8 +221,8 @@ private slots:
         const auto pNext = connected();
         const QByteArray good = framed(command.toJson());
         pNext->write(good.left(9));
-        pNext->flush();
-        QTest::qWait(1);
+        QVERIFY(pNext->waitForBytesWritten());
+        QCoreApplication::processEvents();
         pNext->write(good.mid(9));
         QTRY_COMPARE(commands.size(), 1);
         QCOMPARE(commands.at(0).at(0).value<RemoteCommand>().arguments, command.arguments);

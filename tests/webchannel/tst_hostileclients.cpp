@@ -145,103 +145,37 @@ class tst_HostileClients : public QObject
     Q_OBJECT
 
 private slots:
-    void refusedHandshakeReachesNoObject_data()
+    // Some Qt drops; those that it lets through are refused and logged.
+    void badHandshakeReachesNoObject_data()
     {
-        const auto row = columns<QByteArray>("request");
+        const auto row = columns<QByteArray, int>("request", "logged");
         const auto origin = [&](const char *pName, const QByteArray &value, const QByteArray &path = "/") {
-            row(pName, handshake("127.0.0.1:PORT", "Origin: " + value + "\r\n", path));
+            row(pName, handshake("127.0.0.1:PORT", "Origin:" + value + "\r\n", path), 1);
         };
-        origin("a page of the web", "http://evil.example");
-        origin("a sandboxed page or a data URL", "null");
-        origin("a page of a server on this machine", "http://127.0.0.1:8080");
-        origin("a page that has our own address", "http://127.0.0.1:PORT");
-        origin("a page from a file", "file://");
-        origin("ours with a look-alike letter", "qr\xD1\x81:");
-        origin("ours and another in one line", "qrc: http://evil.example");
-        origin("ours first, then another line", "qrc:\r\nOrigin: http://evil.example");
-        origin("another, then ours in a second line", "http://evil.example\r\nOrigin: qrc:");
-        origin("a wrong key", "http://evil.example", "/?key=AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA");
-        origin("the key as the path", "http://evil.example", "/KEY");
-        origin("the key behind a hash", "http://evil.example", "/?#key=KEY");
-        origin("the key in a header", "http://evil.example\r\nkey: KEY");
-        row("a rebound name without an origin", handshake("evil.example:PORT"));
-        row("a rebound name with our own origin", handshake("evil.example:PORT", "Origin: qrc:\r\n"));
-        row("a rebound name with the key",
-            handshake("evil.example:PORT", "Origin: http://evil.example\r\n", "/?key=KEY"));
-        row("a foreign host behind the right one", handshake("127.0.0.1:PORT\r\nHost: evil.example:PORT"));
-        row("an origin of 4000 letters",
-            handshake("127.0.0.1:PORT", "Origin: http://" + QByteArray(4000, 'e') + "\r\n"));
+        origin("a page of the web", " http://evil.example");
+        origin("ours with a look-alike letter", " qr\xD1\x81:");
+        origin("ours first, then another line", " qrc:\r\nOrigin: http://evil.example");
+        origin("another, then ours in a second line", " http://evil.example\r\nOrigin: qrc:");
+        origin("none in the first line, then another", "\r\nOrigin: http://evil.example");
+        origin("the key as the path", " http://evil.example", "/KEY");
+        origin("the key behind a hash", " http://evil.example", "/?#key=KEY");
+        origin("an origin of 4000 letters", " http://" + QByteArray(4000, 'e'));
+        row("a rebound name without an origin", handshake("evil.example:PORT"), 1);
+        row("a rebound name with a blank origin", handshake("evil.example:PORT", "Origin:  \t\r\n"), 1);
+        row("a foreign host behind the right one", handshake("127.0.0.1:PORT\r\nHost: evil.example:PORT"), 1);
+        row("a page is asked for", "GET / HTTP/1.1\r\nHost: 127.0.0.1:PORT\r\n\r\n", 0);
+        row("headers of one MiB", handshake("127.0.0.1:PORT", "X: " + QByteArray(1 << 20, 'x') + "\r\n"), 0);
+        row("headers without an end", "GET / HTTP/1.1\r\nX: " + QByteArray(2 << 20, 'x'), 0);
+        row("one letter and no more", "G", 0);
+        row("nothing at all", "", 0);
+        row("no HTTP", QByteArray("\x16\x03\x01\x02\x00\x01\x00\x01\xfc\x03\x03\r\n\r\n", 15), 0);
     }
 
-    void refusedHandshakeReachesNoObject()
+    void badHandshakeReachesNoObject()
     {
         QFETCH(const QByteArray, request);
         ChannelServer program;
         const ChannelLog log;
-        RawClient client(program);
-        client.send(request);
-        QTRY_VERIFY(client.isAnswered());
-        client.send(frame(call("add", "[1]")));
-        QTRY_VERIFY(client.isGone());
-        QCOMPARE(program.clients.size(), 0);
-        QCOMPARE(program.counter.total(), 0);
-        QCOMPARE(log.lines().size(), 1);
-        QVERIFY(log.lines().constFirst().startsWith("Refused a web channel client:"));
-        QVERIFY(log.lines().constFirst().size() < 1500);
-        QVERIFY(!log.lines().constFirst().contains(program.wrapper.getKey()));
-    }
-
-    // Qt does not show it. No browser sends it, and a program that does could as well leave it out.
-    void originWithoutAValueCountsAsNone_data()
-    {
-        const auto row = columns<QByteArray>("line");
-        row("an empty origin", QByteArray("Origin:\r\n"));
-        row("a blank origin", QByteArray("Origin:  \t\r\n"));
-    }
-
-    void originWithoutAValueCountsAsNone()
-    {
-        QFETCH(const QByteArray, line);
-        ChannelServer program;
-        const ChannelLog log;
-        RawClient client(program);
-        client.send(handshake("127.0.0.1:PORT", line));
-        QTRY_COMPARE(program.clients.size(), 1);
-        RawClient rebound(program);
-        rebound.send(handshake("evil.example:PORT", line));
-        QTRY_VERIFY(rebound.isGone());
-        RawClient second(program);
-        second.send(handshake("127.0.0.1:PORT", line + "Origin: http://evil.example\r\n"));
-        QTRY_VERIFY(second.isGone());
-        QCOMPARE(program.clients.size(), 1);
-        QCOMPARE(log.lines().size(), 2);
-    }
-
-    void brokenHandshakeIsDropped_data()
-    {
-        const auto row = columns<QByteArray>("request");
-        const QByteArray good = handshake("127.0.0.1:PORT");
-        const auto without = [&](const QByteArray &part, const QByteArray &by = {}) {
-            return QByteArray(good).replace(part, by);
-        };
-        row("a page is asked for", QByteArray("GET / HTTP/1.1\r\nHost: 127.0.0.1:PORT\r\n\r\n"));
-        row("a form is posted", without("GET ", "POST "));
-        row("no host", without("Host: 127.0.0.1:PORT\r\n"));
-        row("no key of the protocol", without("Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n"));
-        row("no version", without("Sec-WebSocket-Version: 13\r\n"));
-        row("another protocol", without("Upgrade: websocket", "Upgrade: h2c"));
-        row("headers of one MiB", handshake("127.0.0.1:PORT", "X: " + QByteArray(1024 * 1024, 'x') + "\r\n"));
-        row("headers without an end", "GET / HTTP/1.1\r\nX: " + QByteArray(2 * 1024 * 1024, 'x'));
-        row("one letter and no more", QByteArray("G"));
-        row("all but the last letter", good.chopped(1));
-        row("nothing at all", QByteArray());
-        row("no HTTP", QByteArray("\x16\x03\x01\x02\x00\x01\x00\x01\xfc\x03\x03\r\n\r\n", 15));
-    }
-
-    void brokenHandshakeIsDropped()
-    {
-        QFETCH(const QByteArray, request);
-        ChannelServer program;
         QCOMPARE(program.server.handshakeTimeoutMS(), ClientPolicy::HandshakeTimeoutMs);
         program.server.setHandshakeTimeout(300);
         RawClient client(program);
@@ -252,6 +186,22 @@ private slots:
         QCOMPARE(program.clients.size(), 0);
         QCOMPARE(program.counter.total(), 0);
         QTRY_VERIFY(program.server.findChildren<QTcpSocket *>().isEmpty());
+        QTEST(static_cast<int>(log.lines().size()), "logged");
+        for (const QString &strLine : log.lines()) {
+            QVERIFY(strLine.startsWith("Refused a web channel client:") && strLine.size() < 1500);
+            QVERIFY(!strLine.contains(program.wrapper.getKey()));
+        }
+    }
+
+    // Qt does not show it. No browser sends it, and a program that does could as well leave it out.
+    void originWithoutAValueCountsAsNone()
+    {
+        ChannelServer program;
+        RawClient empty(program);
+        RawClient blank(program);
+        empty.send(handshake("127.0.0.1:PORT", "Origin:\r\n"));
+        blank.send(handshake("127.0.0.1:PORT", "Origin:  \t\r\n"));
+        QTRY_COMPARE(program.clients.size(), 2);
     }
 
     // The last frame of each row, an honest call, shows whether the client was still heard.
@@ -261,20 +211,10 @@ private slots:
         const QByteArray add = call("add", "[1]");
         row("an honest client", {}, true);
         row("a binary frame", frame(add, Binary), true);
-        row("a binary frame in pieces", frame(add.left(9), Binary, false) + frame(add.mid(9), Continuation),
-            true);
-        row("the call inside a ping", frame(add.left(120), Ping), true);
         row("the end of a message without its beginning", frame(add, Continuation), false);
-        row("a message within the pieces of another", frame("{", Text, false) + frame(add), false);
-        row("pieces of a ping", frame(add.left(9), Ping, false), false);
-        row("a ping of 126 bytes", frame(QByteArray(126, 'x'), Ping), false);
-        row("an unknown kind of frame", frame(add, 3), false);
-        row("reserved bits", QByteArray(frame(add)).replace(0, 1, "\xF1"), false);
         row("a call that is not UTF-8", frame(QByteArray(add).replace("add", "ad\xFF")), false);
         row("a call behind a goodbye", frame(QByteArray("\x03\xE8", 2), Close) + frame(add), false);
         row("a frame of one exabyte", QByteArray("\x81\xFF\x0F\xFF\xFF\xFF\xFF\xFF\xFF\xFF\0\0\0\0", 14),
-            false);
-        row("a frame of a negative size", QByteArray("\x81\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\0\0\0\0", 14),
             false);
         row("a frame of 16 MiB and a byte", frame(QByteArray(ClientPolicy::MessageSize + 1, ' ')), false);
         QByteArray pieces = frame(QByteArray(1024 * 1024, ' '), Text, false);
@@ -304,33 +244,18 @@ private slots:
         QCOMPARE(program.counter.total(), 0);
     }
 
-    // The big one is parsed beside the event loop; what follows it must not overtake it.
-    void messagesOf16MiBArriveInTheirOrder()
-    {
-        ChannelServer program;
-        QSignalSpy totals(&program.counter, &Counter::totalChanged);
-        RawClient client(program);
-        client.send(handshake("127.0.0.1:PORT"));
-        QTRY_VERIFY(client.isAnswered());
-        QByteArray message = call("add", "[1]");
-        message += QByteArray(ClientPolicy::MessageSize - message.size(), ' ');
-        client.socket.write(frame(message) + frame(call("add", "[10]")) + frame(message)
-            + frame(call("add", "[100]")) + frame(call("add", "[1000]")));
-        QTRY_COMPARE(totals.size(), 5);
-        for (const int nTotal : {1, 11, 12, 112, 1112})
-            QCOMPARE(totals.takeFirst().constFirst().toInt(), nTotal);
-    }
-
+    // The big ones are parsed beside the event loop; what follows must not overtake them.
     void whatAClientSentBeforeItLeftIsHandled_data()
     {
-        const auto row = columns<int>("clients");
-        row("one client", 1);
-        row("thirty clients at once", 30);
+        const auto row = columns<int, int>("clients", "size");
+        row("one client, messages of 16 MiB", 1, ClientPolicy::MessageSize);
+        row("thirty clients at once", 30, 2 * ClientPolicy::CharactersParsedAtOnce);
     }
 
     void whatAClientSentBeforeItLeftIsHandled()
     {
         QFETCH(const int, clients);
+        QFETCH(const int, size);
         ChannelServer program;
         QMap<QObject *, QList<int>> sent;
         int nGone = 0;
@@ -343,7 +268,7 @@ private slots:
                 connect(pClient->parent(), &QObject::destroyed, &program.wrapper, [&] { ++nGone; });
             });
         QByteArray big = call("add", "[1]");
-        big += QByteArray(2 * ClientPolicy::CharactersParsedAtOnce - big.size(), ' ');
+        big += QByteArray(size - big.size(), ' ');
         const QByteArray frames =
             frame(big) + frame(call("add", "[2]")) + frame(big) + frame(call("add", "[3]"));
         std::vector<std::thread> threads;
@@ -357,39 +282,6 @@ private slots:
         QVERIFY2(!IsMeasured || load.turnMs < limitMs, "a turn serves some clients");
         QCOMPARE(sent.values(), QList<QList<int>>(clients, {1, 2, 1, 3}));
         QTRY_VERIFY(!program.server.findChild<QTcpSocket *>());
-    }
-
-    void garbageForEverCostsLittle_data()
-    {
-        QTest::addColumn<QByteArray>("garbage");
-        QTest::addColumn<int>("sizeMiB");
-        QTest::addColumn<bool>("staysConnected");
-        QTest::addColumn<int>("memoryMiB");
-        const auto row = [](const char *pName, const QByteArray &bytes, int nMiB, bool bStays, int nMemory) {
-            const int nTimes = std::max<int>(1, (1 << 20) / static_cast<int>(bytes.size()));
-            QTest::newRow(pName) << bytes.repeated(nTimes) << nMiB << bStays << nMemory;
-        };
-        const auto brokenAtItsEnd = [](int nSize) {
-            return frame('[' + QByteArray("1,").repeated(nSize / 2) + 'x');
-        };
-        row("pings whose answers are not read", frame(QByteArray(125, 'x'), Ping), 200, false, 160);
-        row("pieces of a message that never ends",
-            frame(" ", Text, false) + frame(QByteArray(1000, ' '), Continuation, false).repeated(33 << 10),
-            33, false, 80);
-        row("texts of one letter", frame("x"), 10, true, 24);
-        row("arrays", frame("[[[[[[]]]]]]"), 10, true, 24);
-        row("empty binary frames", frame("", Binary), 10, true, 24);
-        row("texts of 100 kB", frame(QByteArray(100000, 'x')), 50, true, 24);
-        row("broken JSON of 100 kB", brokenAtItsEnd(100000), 20, true, 24);
-        row("broken JSON of 1 MB", brokenAtItsEnd(1000000), 20, true, 40);
-        row("broken JSON of 16 MB", brokenAtItsEnd(16000000), 60, true, 300);
-        row("objects without a type", frame(R"({"a":1})"), 2, true, 24);
-        row("a request without an id and 16 MB of numbers",
-            frame(
-                QByteArray(R"({"type":3,"a":[MORE1]})").replace("MORE", QByteArray("1,").repeated(8000000))),
-            16, true, 600);
-        row("a call to an object with a name of 16 MB",
-            frame(call("add").replace("counter", QByteArray(16000000, 'x'))), 16, true, 300);
     }
 
     // Each client takes a handle of the system and may show a dialog within another's; each refusal is
@@ -417,6 +309,37 @@ private slots:
         }
         QVERIFY(log.lines().size() > ClientPolicy::WarningsPerSecond && log.lines().size() < 100);
         QVERIFY(log.lines().constLast().endsWith("refused web channel clients were not logged."));
+    }
+
+    void garbageForEverCostsLittle_data()
+    {
+        QTest::addColumn<QByteArray>("garbage");
+        QTest::addColumn<int>("sizeMiB");
+        QTest::addColumn<bool>("staysConnected");
+        QTest::addColumn<int>("memoryMiB");
+        const auto row = [](const char *pName, const QByteArray &bytes, int nMiB, bool bStays, int nMemory) {
+            const int nTimes = std::max<int>(1, (1 << 20) / static_cast<int>(bytes.size()));
+            QTest::newRow(pName) << bytes.repeated(nTimes) << nMiB << bStays << nMemory;
+        };
+        const auto brokenAtItsEnd = [](int nSize) {
+            return frame('[' + QByteArray("1,").repeated(nSize / 2) + 'x');
+        };
+        row("pings whose answers are not read", frame(QByteArray(125, 'x'), Ping), 200, false, 160);
+        row("pieces of a message that never ends",
+            frame(" ", Text, false) + frame(QByteArray(1000, ' '), Continuation, false).repeated(33 << 10),
+            33, false, 80);
+        row("texts of one letter", frame("x"), 10, true, 24);
+        row("empty binary frames", frame("", Binary), 10, true, 24);
+        row("texts of 100 kB", frame(QByteArray(100000, 'x')), 50, true, 24);
+        row("broken JSON of 100 kB", brokenAtItsEnd(100000), 20, true, 24);
+        row("broken JSON of 1 MB", brokenAtItsEnd(1000000), 20, true, 40);
+        row("broken JSON of 16 MB", brokenAtItsEnd(16000000), 60, true, 300);
+        row("a request without an id and 16 MB of numbers",
+            frame(
+                QByteArray(R"({"type":3,"a":[MORE1]})").replace("MORE", QByteArray("1,").repeated(8000000))),
+            16, true, 600);
+        row("a call to an object with a name of 16 MB",
+            frame(call("add").replace("counter", QByteArray(16000000, 'x'))), 16, true, 300);
     }
 
     // What costs too much does so each time; a machine that is busy otherwise does not.

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Real pages in a real browser engine.
-#include <support/rows.h>
+#include <updater/testserver.h>
 #include <webchannel/channelserver.h>
 
+#include <support/rows.h>
+
 #include <QApplication>
-#include <QFile>
-#include <QTcpServer>
-#include <QTemporaryDir>
 #include <QWebEnginePage>
 
 namespace {
@@ -17,33 +16,6 @@ QByteArray read(const QString &strName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Gives out the page and its script over HTTP.
-class PageServer : public QTcpServer
-{
-public:
-    PageServer()
-    {
-        listen(QHostAddress::LocalHost);
-        connect(this, &QTcpServer::newConnection, this, [this] { serve(nextPendingConnection()); });
-    }
-
-private:
-    void serve(QTcpSocket *pSocket)
-    {
-        connect(pSocket, &QTcpSocket::disconnected, pSocket, &QObject::deleteLater);
-        connect(pSocket, &QTcpSocket::readyRead, pSocket, [pSocket] {
-            if (!pSocket->peek(65536).contains("\r\n\r\n"))
-                return;
-            const bool bScript = pSocket->readAll().startsWith("GET /qwebchannel.js");
-            const QByteArray body = read(bScript ? "qwebchannel.js" : "page.html");
-            pSocket->write("HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Type: text/"
-                + QByteArray(bScript ? "javascript" : "html")
-                + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
-            pSocket->disconnectFromHost();
-        });
-    }
-};
-
 } // namespace
 
 class tst_WebPage : public QObject
@@ -51,7 +23,14 @@ class tst_WebPage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(m_pages.isListening()); }
+    void initTestCase()
+    {
+        for (const char *pFile : {"page.html", "qwebchannel.js"}) {
+            QFile file(m_folder.filePath(pFile));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(read(pFile)) > 0);
+            m_pages.body(QStringLiteral("/") + pFile, read(pFile));
+        }
+    }
 
     void ownPageCallsAnObjectAndHearsOfItsSignalsAndProperties()
     {
@@ -63,14 +42,9 @@ private slots:
     void pageOfAnotherOriginIsRefusedWithoutTheKey_data()
     {
         const auto row = columns<QString>("page");
-        const QString strPort = QString::number(m_pages.serverPort());
-        row("another server", QStringLiteral("http://127.0.0.1:%1/").arg(strPort));
-        row("another server by name", QStringLiteral("http://localhost:%1/").arg(strPort));
+        row("another server", m_pages.url("/page.html"));
+        row("another server by name", m_pages.url("/page.html").replace("127.0.0.1", "localhost"));
         row("a file", "file://" + m_folder.filePath("page.html"));
-        for (const char *strFile : {"page.html", "qwebchannel.js"}) {
-            QFile file(m_folder.filePath(strFile));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(read(strFile)) > 0);
-        }
     }
 
     void pageOfAnotherOriginIsRefusedWithoutTheKey()
@@ -94,7 +68,7 @@ private:
     static QString titleOf(const QString &strPage, const QUrl &server)
     {
         QWebEnginePage page;
-        page.load(QUrl(strPage + QLatin1Char('?')
+        page.load(QUrl(strPage + QLatin1Char('#')
             + QString::fromLatin1(QUrl::toPercentEncoding(server.toString(QUrl::FullyEncoded)))));
         const auto isDone = [&] {
             return page.title().contains("closed") || page.title().contains("property");
@@ -103,7 +77,7 @@ private:
     }
 
     static inline const QString s_served = "change 5, result 5, signal, property 5";
-    PageServer m_pages;
+    TestServer m_pages;
     QTemporaryDir m_folder;
 };
 

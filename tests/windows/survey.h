@@ -29,6 +29,7 @@ public:
     void look(QWidget *pWindow, const QString &strWhat)
     {
         m_strWhat = strWhat;
+        QCoreApplication::sendPostedEvents(); // layouts may be waiting
         if (pWindow->isWindow())
             checkText(pWindow, pWindow->windowTitle());
         checkWidget(pWindow);

@@ -73,7 +73,6 @@ private slots:
         const double dScale = QGuiApplication::primaryScreen()->logicalDotsPerInchX() / 96;
         window()->resize(QSize(1280, 800) * dScale);
         QTRY_COMPARE(EditorManager::getEditors().size(), 1);
-        QTest::qWait(1); // one turn for the layouts
         QCOMPARE(QGuiApplication::layoutDirection(), QLocale().textDirection());
     }
 
@@ -110,7 +109,6 @@ private slots:
         const QString strText = "[text~]";
         for (const auto type : {KPNotificationBar::Info, KPNotificationBar::Warning}) {
             window()->showNotification(strText, type, strText, true);
-            QTest::qWait(1);
             m_survey.look(window(), QString("notification-%1").arg(type));
         }
         window()->hideNotification();
@@ -126,7 +124,6 @@ private slots:
             auto *pOk = pDialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
             inDialog([&] { pOk->click(); }, look("message-replace"));
             pDialog->findChild<QLineEdit *>("path")->setText("/no/such/folder/a.kelpa");
-            QTest::qWait(1);
             m_survey.look(pDialog, "new-problem");
         };
         inDialog([] { command("File.New")->trigger(); }, replace);
@@ -146,7 +143,6 @@ private slots:
         QVERIFY(pPages);
         for (int i = 0; i < pPages->count(); ++i) {
             pPages->setCurrentRow(i);
-            QTest::qWait(1);
             m_survey.look(pDialog, QString("preferences-%1").arg(i));
             auto *pList = pDialog->findChild<QListWidget *>("horizontal");
             if (!pList->isVisible())
@@ -204,7 +200,6 @@ private slots:
         auto *pStop = pWindow->findChild<QPushButton *>("stopButton");
         inDialog([&] { pStop->click(); }, look("message-stop"));
         inDialog([&] { pSocket->write(part); }, look("message-install"));
-        QTest::qWait(1);
         m_survey.look(pWindow, "download-complete");
         QVERIFY(QFile::remove(Downloader::downloadFolder() + "setup.bin"));
         const Step install = {[](QDialog *pBox) { pBox->findChild<QPushButton *>()->click(); }};
@@ -292,7 +287,7 @@ private slots:
     void notificationBarGoesInTheDirectionOfReading()
     {
         window()->showNotification("[text~]", KPNotificationBar::Warning, "[button~]", true);
-        QTest::qWait(1);
+        QCoreApplication::sendPostedEvents(); // of the layouts
         KPNotificationBar *pBar = window()->getNotificationBar();
         QList<QRect> row;
         for (const char *pName : {"m_pIconLabel", "m_pMessageLabel", "m_pButton", "m_pCloseButton"})
@@ -327,9 +322,7 @@ private slots:
     void startPageWithoutAnEngine()
     {
         command("File.Close")->trigger();
-        QTRY_VERIFY(listOfProjects());
-        QTest::qWait(1);
-        QVERIFY(listOfProjects()->findChild<QListWidget *>()->count() > 0);
+        QTRY_VERIFY(listOfProjects() && listOfProjects()->findChild<QListWidget *>()->count() > 0);
         m_survey.look(window(), "start");
         window()->setVisibleWelcomeWidget(false);
         const QWidget *pArea = window()->centralWidget();
@@ -431,13 +424,11 @@ private:
     void lookAtMenu(QMenu *pMenu, const QString &strName)
     {
         pMenu->popup(window()->mapToGlobal(QPoint(20, 60)));
-        QTest::qWait(1);
         m_survey.look(pMenu, strName);
         const auto actions = pMenu->actions();
         for (QAction *pAction : actions) {
             if (pAction->menu() && pAction->isEnabled() && !pAction->menu()->isEmpty()) {
                 pAction->menu()->popup(window()->mapToGlobal(QPoint(20, 60)));
-                QTest::qWait(1);
                 m_survey.look(pAction->menu(), strName + '-' + pAction->menu()->objectName());
                 pAction->menu()->close();
             }
@@ -455,7 +446,6 @@ private:
                 return;
             timer.stop();
             m_pLast = pDialog;
-            QCoreApplication::sendPostedEvents(); // the layout may be waiting
             const Step step = steps.takeFirst();
             step.look(pDialog);
             timer.start();

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <support/coretest.h>
+#include <support/windowtest.h>
 
 #include <actionmanager/actioncontainer.h>
 #include <actionmanager/actionmanager.h>
 #include <appearance/ithemesmanager.h>
 #include <extensionsystem/iplugin.h>
-#include <mainwindow.h>
-
-#include <QMenu>
-#include <QPluginLoader>
-#include <QScreen>
 
 using ExtensionSystem::IPlugin;
 using ExtensionSystem::PluginManager;
@@ -43,15 +38,14 @@ public:
 } // namespace
 
 // The themes manager lives as long as the process and lists the themes again with each case.
-class tst_AppearancePlugin : public QObject
+class tst_AppearancePlugin : public WindowTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
+        WindowTest::init();
         m_loader.setFileName(KELPA_APPEARANCE_PLUGIN);
     }
 
@@ -60,17 +54,16 @@ private slots:
         delete m_pPlugin;
         m_pPlugin = nullptr;
         qApp->setStyleSheet(QString());
-        m_pWindow.reset();
-        m_pProgram.reset();
+        WindowTest::cleanup();
     }
 
-    void nothingIsDressedTwiceAtTheStart_data()
+    void nothingIsDressedTwiceAndTheDarkThemeFollowsTheDensity_data()
     {
-        const auto row = columns<QString>("theme");
-        row("in the dark theme", "Dark");
-        row("in the light theme", "Light");
+        const auto row = columns<QString, bool>("theme", "follows");
+        row("dark", "Dark", true);
+        row("light", "Light", false);
     }
-    void nothingIsDressedTwiceAtTheStart()
+    void nothingIsDressedTwiceAndTheDarkThemeFollowsTheDensity()
     {
         QFETCH(QString, theme);
         PluginManager::settings()->setValue("Kelpa/Theme", theme);
@@ -80,30 +73,13 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
         emit m_pWindow->dpiChanged(100); // as it tells the scale that it starts with
         QCOMPARE(restyled.names.join("; "), QString());
-        QVERIFY(!qApp->styleSheet().isEmpty());
         QCOMPARE(IThemesManager::getInstance().getCurrentThemeId(), theme);
-    }
-
-    void densityIsFollowedInTheDarkThemeOnly_data()
-    {
-        const auto row = columns<QString, bool>("theme", "follows");
-        row("dark", "Dark", true);
-        row("light", "Light", false);
-    }
-    void densityIsFollowedInTheDarkThemeOnly()
-    {
-        QFETCH(QString, theme);
-        PluginManager::settings()->setValue("Kelpa/Theme", theme);
-        start();
         const QString strBefore = qApp->styleSheet();
         QVERIFY(!strBefore.isEmpty());
-        moveTo("192");
+        m_pWindow->setScreen(screenOf(192));
         emit m_pWindow->dpiChanged(200);
         QVERIFY(!qApp->styleSheet().isEmpty());
         QTEST(qApp->styleSheet() != strBefore, "follows");
-        moveTo("120");
-        emit m_pWindow->dpiChanged(125);
-        QVERIFY(!qApp->styleSheet().isEmpty());
     }
 
     void menuShowsTheThemeInForceAndSavesTheChoice()
@@ -136,8 +112,7 @@ private slots:
 
     void withoutAMenuViewThereIsNone()
     {
-        if (ActionManager::getActionContainer("MenuBar.View"))
-            delete ActionManager::getActionContainer("MenuBar.View");
+        delete ActionManager::getActionContainer("MenuBar.View");
         QVERIFY(!ActionManager::getActionContainer("MenuBar.View"));
         QString strError;
         QVERIFY(load()->initialize({}, &strError));
@@ -180,17 +155,6 @@ private:
         qFatal("no theme %s", pName);
     }
 
-    void moveTo(const char *pScreen)
-    {
-        const auto screens = QGuiApplication::screens();
-        for (QScreen *pCandidate : screens) {
-            if (pCandidate->name() == QLatin1String(pScreen))
-                m_pWindow->setScreen(pCandidate);
-        }
-    }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
     QPluginLoader m_loader;
     IPlugin *m_pPlugin = nullptr;
 };

@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The home page in the real browser engine, with the real main window behind it.
-#include <support/coretest.h>
+#include "welcometest.h"
 
 #include <actionmanager/actionmanager.h>
 #include <actionmanager/contextaction.h>
 #include <appearance/ilanguagemanager.h>
 #include <icore.h>
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
-#include <recentlist.h>
-#include <ui/imainmdiarea.h>
-#include <ui/webview.h>
 #include <welcomepage.h>
-#include <welcomewidget.h>
 
-#include <QDesktopServices>
-#include <QListWidget>
 #include <QTcpSocket>
-#include <QTranslator>
 #include <QWebChannel>
 #include <QWebEnginePage>
 #include <QWebEngineView>
@@ -87,7 +78,7 @@ public:
 
 } // namespace
 
-class tst_WelcomePage : public QObject
+class tst_WelcomePage : public WelcomeTest
 {
     Q_OBJECT
 
@@ -108,16 +99,11 @@ private slots:
 
     void init()
     {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-        m_pFactory = std::make_unique<FakeFactory>();
+        WelcomeTest::init();
         m_pDesktop = std::make_unique<Desktop>();
-        for (const char *pName : {"/p/c.kelpa", "/gone/b.kelpa"})
-            IRecentFilesManager::getInstance()->addFile(pName);
         m_strFirst = m_pProgram->write("a b.kelpa");
-        IRecentFilesManager::getInstance()->addFile(m_strFirst);
-        m_pWidget = new WelcomeWidget(m_pWindow->getMdiArea());
-        m_pWindow->setWelcomeWidget(m_pWidget);
+        for (const QString &strFile : {QString("/p/c.kelpa"), QString("/gone/b.kelpa"), m_strFirst})
+            addRecent(strFile);
         m_pWindow->resize(1100, 800);
         m_pWindow->show();
         m_pWindow->activateWindow();
@@ -127,15 +113,9 @@ private slots:
 
     void cleanup()
     {
-        for (const auto &pDocument : std::as_const(m_pFactory->documents))
-            delete pDocument;
-        for (const auto &pEditor : std::as_const(m_pFactory->editors))
-            delete pEditor;
         delete m_pFactory->pDialog;
-        m_pWindow.reset();
-        m_pFactory.reset();
         m_pDesktop.reset();
-        m_pProgram.reset();
+        WelcomeTest::cleanup();
     }
 
     void listOfThePageMenuAndSettingsAgree()
@@ -147,21 +127,19 @@ private slots:
         QCOMPARE(recent(), QStringList({m_strFirst, "/p/c.kelpa"}));
         QCOMPARE(
             ActionManager::getAction("File.Recent_Projects.Project_2")->getAction()->text(), "2. /p/c.kelpa");
-        QCOMPARE(js("document.getElementById('status').textContent"), "b was removed from the list.");
     }
 
     void namesAreTextWhateverIsInThem()
     {
         for (const QString &strName : {s_hostile, s_unicode})
-            IRecentFilesManager::getInstance()->addFile("/x/" + strName + ".kelpa");
-        IRecentFilesManager::getInstance()->addFile("C:\\Projects\\w.KELPAPACK");
+            addRecent("/x/" + strName + ".kelpa");
+        addRecent("C:\\Projects\\w.KELPAPACK");
         m_pWindow->setVisibleWelcomeWidget(true);
         QTRY_COMPARE(names(), QStringList({"w", s_unicode, s_hostile, "a b", "b", "c"}));
-        QCOMPARE(js("document.querySelectorAll('#recent img').length").toInt(), 0);
+        QCOMPARE(count("#recent img"), 0);
         click("#recent li:nth-child(3) .small:last-child");
         QTRY_COMPARE(names(), QStringList({"w", s_unicode, "a b", "b", "c"}));
-        QCOMPARE(js("document.getElementById('status').textContent").toString(),
-            s_hostile + " was removed from the list.");
+        QCOMPARE(status(), s_hostile + " was removed from the list.");
         QCOMPARE(view()->title(), WelcomePage::title());
     }
 
@@ -171,7 +149,7 @@ private slots:
         QTRY_COMPARE(m_pFactory->documents.size(), 1);
         QCOMPARE(m_pFactory->documents.first()->getFileName(), m_strFirst);
         QVERIFY(m_pWidget->isHidden());
-        IRecentFilesManager::getInstance()->addFile("/p/later.kelpa");
+        addRecent("/p/later.kelpa");
         emit m_pFactory->documents.first()->requestClosing(false);
         QVERIFY(!m_pWidget->isHidden());
         QTRY_COMPARE(names(), QStringList({"later", "a b", "b", "c"}));
@@ -179,7 +157,7 @@ private slots:
 
     void exampleOpens()
     {
-        QCOMPARE(js("document.querySelectorAll('#examples li').length").toInt(), 2);
+        QCOMPARE(count("#examples li"), 2);
         QTRY_VERIFY(js("[...document.images].every(i => i.complete && i.naturalWidth > 0)").toBool());
         click("#examples li:first-child button");
         QTRY_COMPARE(m_pFactory->documents.size(), 1);
@@ -220,7 +198,7 @@ private slots:
 
     void linksGoToTheBrowser()
     {
-        QTRY_COMPARE(js("document.querySelectorAll('nav a').length").toInt(), 5);
+        QTRY_COMPARE(count("nav a"), 5);
         click("nav a:nth-child(2)");
         QTRY_COMPARE(m_pDesktop->opened, QStringList("https://community.kelpa.example/"));
         QCOMPARE(view()->url(), WelcomePage::url());
@@ -230,7 +208,7 @@ private slots:
     void keyboardReachesEverything()
     {
         QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
-        const int nStops = js("document.querySelectorAll('button, a').length").toInt();
+        const int nStops = count("button, a");
         QSet<int> seen;
         for (int i = 0; i < nStops; ++i) {
             press(Qt::Key_Tab);
@@ -269,7 +247,7 @@ private slots:
     {
         QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
         js("document.querySelector('#recent li:nth-child(2) .open').focus()");
-        IRecentFilesManager::getInstance()->addFile("/p/later.kelpa");
+        addRecent("/p/later.kelpa");
         emit m_pWindow->getMdiArea()->resetRecentFiles();
         QTRY_COMPARE(names(), QStringList({"later", "a b", "b", "c"}));
         QCOMPARE(js("document.activeElement.title"), "/gone/b.kelpa");
@@ -293,7 +271,7 @@ private slots:
     void focusStaysWhenTheColoursChange()
     {
         QFETCH(const QString, selector);
-        QTRY_COMPARE(js("document.querySelectorAll('nav a').length").toInt(), 5);
+        QTRY_COMPARE(count("nav a"), 5);
         js("window.old = document.querySelector('" + selector + "'); old.focus()");
         QPalette palette = m_pWidget->palette();
         palette.setColor(QPalette::Window, QColor("#102030"));
@@ -437,38 +415,26 @@ private slots:
         QCOMPARE(view()->url(), WelcomePage::url());
     }
 
+    // At first without what the page calls there.
     void pageFindsTheProgramAgain()
     {
-        js("window.seen = []; new MutationObserver(() => window.seen.push("
-           "document.getElementById('status').textContent)).observe(document.getElementById('status'), "
-           "{childList: true})");
-        IRecentFilesManager::getInstance()->addFile("/p/meanwhile.kelpa");
-        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
-            pSocket->abort();
-        QTRY_COMPARE(names(), QStringList({"meanwhile", "a b", "b", "c"}));
-        QCOMPARE(js("window.seen.join(' ')"),
-            "The page has lost the program and is trying to reach it again. "
-            "The page has reached the program again.");
-        QCOMPARE(js("document.querySelector('.action').getAttribute('aria-disabled')"), "false");
-    }
-
-    void programWithoutTheObjectIsLost()
-    {
-        QTRY_COMPARE(js("document.querySelectorAll('nav a').length").toInt(), 5);
+        QTRY_COMPARE(count("nav a"), 5);
         QWebChannel *pChannel = m_pWindow->getChannel();
         QObject *pObject = pChannel->registeredObjects().value("kpwelcome");
         QVERIFY(pObject);
         pChannel->deregisterObject(pObject);
-        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
-            pSocket->abort();
-        const QString strEnabled = "document.querySelectorAll('button:not([aria-disabled=true]), "
-                                   "a:not([aria-disabled=true])').length";
-        QTRY_COMPARE(js(strEnabled).toInt(), 0);
-        QVERIFY(js("document.getElementById('status').textContent").toString().contains("lost"));
+        addRecent("/p/meanwhile.kelpa");
+        breakConnections();
+        const char *pEnabled = ":is(button, a):not([aria-disabled=true])";
+        const QString strLost = "The page has lost the program and is trying to reach it again.";
+        QTRY_COMPARE(count(pEnabled), 0);
+        QCOMPARE(status(), strLost);
         js("document.getElementById('status').textContent = ''");
-        QTRY_VERIFY(js("document.getElementById('status').textContent").toString().contains("lost"));
+        QTRY_COMPARE(status(), strLost);
         pChannel->registerObject("kpwelcome", pObject);
-        QTRY_VERIFY_WITH_TIMEOUT(js(strEnabled).toInt() > 0, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList({"meanwhile", "a b", "b", "c"}), 10000);
+        QCOMPARE(status(), "The page has reached the program again.");
+        QVERIFY(count(pEnabled) > 0);
     }
 
     void lostPageSaysSoAndWaitsLongerEachTime()
@@ -476,15 +442,14 @@ private slots:
         js("window.starts = []; const Real = WebSocket; WebSocket = function(url) { "
            "window.starts.push(performance.now()); return new Real(url); }");
         m_pWindow->getServer()->close();
-        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
-            pSocket->abort();
+        breakConnections();
         QTRY_COMPARE(js("document.querySelector('.action').getAttribute('aria-disabled')"), "true");
         click("[data-command=newProject]");
         QTRY_VERIFY(js("window.starts.length").toInt() >= 3);
         QVERIFY(js("starts[2] - starts[1] > 1.5 * (starts[1] - starts[0])").toBool()
             || js("starts[2] - starts[1] >= 450").toBool());
         QVERIFY(m_pFactory->documents.isEmpty());
-        QVERIFY(js("document.getElementById('status').textContent").toString().contains("lost"));
+        QVERIFY(status().contains("lost"));
     }
 
     void pageThatDiesIsLoadedOnceMoreThenListedWithout()
@@ -522,6 +487,23 @@ private:
         js(QStringLiteral("document.querySelector('%1').click()").arg(QLatin1String(pSelector)));
     }
 
+    [[nodiscard]] QString status() const
+    {
+        return js("document.getElementById('status').textContent").toString();
+    }
+
+    [[nodiscard]] int count(const char *pSelector) const
+    {
+        return js(QStringLiteral("document.querySelectorAll('%1').length").arg(QLatin1String(pSelector)))
+            .toInt();
+    }
+
+    void breakConnections() const
+    {
+        for (QTcpSocket *pSocket : m_pWindow->getServer()->findChildren<QTcpSocket *>())
+            pSocket->abort();
+    }
+
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
     [[nodiscard]] int focused() const
@@ -553,11 +535,7 @@ private:
 
     static QStringList recent() { return IRecentFilesManager::getInstance()->getRecentFiles(); }
 
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
-    std::unique_ptr<FakeFactory> m_pFactory;
     std::unique_ptr<Desktop> m_pDesktop;
-    QPointer<WelcomeWidget> m_pWidget;
     QString m_strFirst;
 };
 

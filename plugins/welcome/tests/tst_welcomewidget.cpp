@@ -1,45 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The home page where there is no browser engine, and its place in the preferences.
-#include <support/coretest.h>
+#include "welcometest.h"
 
-#include <irecentfilesmanager.h>
-#include <mainwindow.h>
-#include <recentlist.h>
-#include <ui/imainmdiarea.h>
-#include <ui/webview.h>
 #include <welcomeoptionpage.h>
 #include <welcomeplugin.h>
-#include <welcomewidget.h>
 
-#include <QCheckBox>
-#include <QDialog>
-#include <QListWidget>
-
-class tst_WelcomeWidget : public QObject
+class tst_WelcomeWidget : public WelcomeTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pProgram = std::make_unique<TestProgram>();
-        m_pWindow = std::make_unique<MainWindow>(nullptr);
-        m_pFactory = std::make_unique<FakeFactory>();
-        m_pWidget = new WelcomeWidget(m_pWindow->getMdiArea());
-        m_pWindow->setWelcomeWidget(m_pWidget);
-    }
-
-    void cleanup()
-    {
-        for (const auto &pDocument : std::as_const(m_pFactory->documents))
-            delete pDocument;
-        for (const auto &pEditor : std::as_const(m_pFactory->editors))
-            delete pEditor;
-        m_pWindow.reset();
-        m_pFactory.reset();
-        m_pProgram.reset();
-    }
-
     void nothingIsLoadedForAPageThatIsNotShown()
     {
         m_pWindow->setVisibleWelcomeWidget(true);
@@ -54,8 +24,8 @@ private slots:
     void projectsAreListedWithoutAnEngine()
     {
         const QString strLast = m_pProgram->write("last & best.kelpa");
-        IRecentFilesManager::getInstance()->addFile("/gone/a.kelpa");
-        IRecentFilesManager::getInstance()->addFile(strLast);
+        addRecent("/gone/a.kelpa");
+        addRecent(strLast);
         QListWidget *pList = showList();
         QCOMPARE(m_pWidget->geometry(), m_pWindow->getMdiArea()->rect());
         QCOMPARE(textsOf(pList), QStringList({QDir::toNativeSeparators(strLast), "/gone/a.kelpa"}));
@@ -73,7 +43,7 @@ private slots:
 
     void listedProjectThatIsGoneIsTold()
     {
-        IRecentFilesManager::getInstance()->addFile("/gone/a.kelpa");
+        addRecent("/gone/a.kelpa");
         QListWidget *pList = showList();
         BoxAnswers boxes({QMessageBox::Ok});
         QTest::keyClick(pList, Qt::Key_Return);
@@ -137,11 +107,6 @@ private:
             texts.append(pList->item(i)->text());
         return texts;
     }
-
-    std::unique_ptr<TestProgram> m_pProgram;
-    std::unique_ptr<MainWindow> m_pWindow;
-    std::unique_ptr<FakeFactory> m_pFactory;
-    QPointer<WelcomeWidget> m_pWidget;
 };
 
 QTEST_MAIN(tst_WelcomeWidget)
