@@ -111,16 +111,13 @@ QMessageBox::StandardButton runBox(QWidget *pParent, const QString &strIcon, con
     const QString &strText, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton,
     const QString &strInformative = {})
 {
-    // Not on the stack: its parent may die while it runs.
-    const QPointer<QMessageBox> pBox = new QMessageBox(pParent ? pParent : ICore::getMainWindow());
-    pBox->setTextFormat(Qt::PlainText);
-    pBox->setText(strText);
-    pBox->setInformativeText(strInformative);
-    pBox->setStandardButtons(buttons);
-    pBox->setDefaultButton(defaultButton);
-    const QMessageBox::StandardButton answer = IUi::run(pBox, strIcon, strTitle);
-    delete pBox;
-    return answer;
+    return IUi::run(pParent, strIcon, strTitle, [&](QMessageBox *pBox) {
+        pBox->setTextFormat(Qt::PlainText);
+        pBox->setText(strText);
+        pBox->setInformativeText(strInformative);
+        pBox->setStandardButtons(buttons);
+        pBox->setDefaultButton(defaultButton);
+    });
 }
 
 } // namespace
@@ -156,6 +153,17 @@ QMessageBox::StandardButton IUi::run(QMessageBox *pBox, const QString &strIcon, 
     if (pBox->exec() == -1 || !pAlive || !pBox->clickedButton())
         return QMessageBox::Cancel;
     return pBox->standardButton(pBox->clickedButton());
+}
+
+QMessageBox::StandardButton IUi::run(QWidget *pParent, const QString &strIcon, const QString &strTitle,
+    const std::function<void(QMessageBox *)> &fill)
+{
+    // Not on the stack: its parent may die while it runs.
+    const QPointer<QMessageBox> pBox = new QMessageBox(pParent ? pParent : ICore::getMainWindow());
+    fill(pBox);
+    const QMessageBox::StandardButton answer = run(pBox, strIcon, strTitle);
+    delete pBox;
+    return answer;
 }
 
 QMessageBox::StandardButton IUi::information(QWidget *pParent, const QString &strTitle,

@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QPixmap>
 
+#include <functional>
+
 class IUi;
 extern template class CORE_EXPORT ISingleton<IUi>;
 
@@ -50,6 +52,10 @@ public:
     /// and the answer is Cancel then.
     static QMessageBox::StandardButton run(
         QMessageBox *pBox, const QString &strIcon, const QString &strTitle);
+
+    /// Makes a box that `fill` fills, runs it as above, and deletes it. A null parent means the main window.
+    static QMessageBox::StandardButton run(QWidget *pParent, const QString &strIcon, const QString &strTitle,
+        const std::function<void(QMessageBox *)> &fill);
 
 private:
     friend class ISingleton<IUi>;

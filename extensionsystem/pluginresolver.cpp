@@ -11,15 +11,6 @@ namespace ExtensionSystem {
 
 namespace {
 
-// Versions are kept without trailing zeros, but people write them.
-QString text(const QVersionNumber &version)
-{
-    QList<int> segments = version.segments();
-    while (segments.size() < 3)
-        segments.append(0);
-    return QVersionNumber(segments).toString();
-}
-
 // Does `spec` say by itself why it cannot be used?
 QString ownReason(const PluginSpec &spec)
 {
@@ -163,7 +154,7 @@ void Resolver::checkDependencies()
 // Why a required dependency cannot be had as far as one look tells.
 QString Resolver::check(const PluginDependency &dependency) const
 {
-    const QString strWanted = text(dependency.version);
+    const QString strWanted = versionText(dependency.version);
     const auto it = m_byName.constFind(dependency.name);
     if (it == m_byName.constEnd())
         return QStringLiteral("needs %1 %2, which is missing").arg(dependency.name, strWanted);
@@ -174,10 +165,11 @@ QString Resolver::check(const PluginDependency &dependency) const
         return dependencyReason(needed, ownReason(needed));
     if (needed.version < dependency.version)
         return QStringLiteral("needs %1 %2, but version %3 is too old (%4)")
-            .arg(dependency.name, strWanted, text(needed.version), needed.file);
+            .arg(dependency.name, strWanted, versionText(needed.version), needed.file);
     if (!needed.provides(dependency.version))
         return QStringLiteral("needs %1 %2, but version %3 is compatible only down to %4 (%5)")
-            .arg(dependency.name, strWanted, text(needed.version), text(needed.compatVersion), needed.file);
+            .arg(dependency.name, strWanted, versionText(needed.version), versionText(needed.compatVersion),
+                needed.file);
     return QString();
 }
 
@@ -322,7 +314,8 @@ PluginResolution resolvePlugins(const QList<PluginSpec> &specs, const PluginSele
 
 QString dependencyReason(const PluginSpec &needed, const QString &strReason)
 {
-    return QStringLiteral("needs %1 %2, which failed: ").arg(needed.name, text(needed.version)) + strReason;
+    return QStringLiteral("needs %1 %2, which failed: ").arg(needed.name, versionText(needed.version))
+        + strReason;
 }
 
 } // namespace ExtensionSystem

@@ -125,6 +125,14 @@ QStringList readLicense(Reader &reader)
 
 } // namespace
 
+QString versionText(const QVersionNumber &version)
+{
+    QList<int> segments = version.segments();
+    while (segments.size() < 3)
+        segments.append(0);
+    return QVersionNumber(segments).toString();
+}
+
 PluginSpec PluginSpec::fromJson(const QJsonObject &object, const QString &strFile)
 {
     PluginSpec spec;

@@ -11,6 +11,9 @@
 
 namespace ExtensionSystem {
 
+/// A version as people write it: with at least three numbers, though it is kept without zeros at the end.
+[[nodiscard]] EXTENSIONSYSTEM_EXPORT QString versionText(const QVersionNumber &version);
+
 /// Another plug-in that one needs, or uses when it is there.
 struct PluginDependency
 {

@@ -306,14 +306,6 @@
         <translation>eine Weiterleitung von einer sicheren Adresse zu &quot;%1&quot;, die es nicht ist</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>dort liegt ein Ordner</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>die Datei lässt sich nicht in den Papierkorb verschieben</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>Es gibt kein Programm, mit dem sich %1 öffnen lässt.</translation>
     </message>

@@ -306,14 +306,6 @@
         <translation>una redirección de una dirección segura a &quot;%1&quot;, que no lo es</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>es una carpeta</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>no se puede mover a la papelera</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>No hay ningún programa con el que abrir %1.</translation>
     </message>

@@ -306,14 +306,6 @@
         <translation>une redirection d&apos;une adresse sécurisée vers &quot;%1&quot;, qui ne l&apos;est pas</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>c&apos;est un dossier</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>impossible de le mettre à la corbeille</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>Aucun programme ne permet d&apos;ouvrir %1.</translation>
     </message>

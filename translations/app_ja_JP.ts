@@ -306,14 +306,6 @@
         <translation>安全なアドレスから、安全でない &quot;%1&quot; にリダイレクトされました</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>フォルダーです</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>ごみ箱に移動できません</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>%1 を開くプログラムがありません。</translation>
     </message>

@@ -306,14 +306,6 @@
         <translation>um redirecionamento de um endereço seguro para &quot;%1&quot;, que não é seguro</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>é uma pasta</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>não é possível movê-lo para a lixeira</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>Não há nenhum programa para abrir %1.</translation>
     </message>

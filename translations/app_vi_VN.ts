@@ -306,14 +306,6 @@
         <translation>bị chuyển hướng từ một địa chỉ an toàn tới &quot;%1&quot;, vốn không an toàn</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>đó là một thư mục</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>không thể chuyển vào thùng rác</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>Không có chương trình nào để mở %1.</translation>
     </message>

@@ -306,14 +306,6 @@
         <translation>从安全地址被重定向到不安全的 &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>它是一个文件夹</translation>
-    </message>
-    <message>
-        <source>it cannot be moved to the trash</source>
-        <translation>无法移到回收站</translation>
-    </message>
-    <message>
         <source>There is no program to open %1 with.</source>
         <translation>没有可以打开 %1 的程序。</translation>
     </message>

@@ -14,7 +14,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLoggingCategory>
 #include <QMimeDatabase>
@@ -23,6 +22,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QThread>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -35,38 +35,19 @@ constexpr int s_nHandlerTimeoutMs = 3000;
 constexpr qint64 s_nReadBuffer = 1024 * 1024;
 constexpr qint64 s_nLargestPage = 1024 * 1024; ///< of an error
 
+// Asks for each type in turn. That none is known is an answer too.
+constexpr char s_pHandlerQuery[] =
+    "for type; do \"$0\" query default \"$type\" || [ $? = 4 ] || exit 1; done";
+
+QStringList typesOf(const QString &strFileName)
+{
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(strFileName);
+    return QStringList(type.name()) + type.allAncestors();
+}
+
 QString inQuotes(const QString &strPath)
 {
-    return QLatin1Char('"') + QDir::toNativeSeparators(strPath) + QLatin1Char('"');
-}
-
-// What starts programs on a Unix desktop says yes before it has found one, so what knows them is asked. A
-// system without it, such as Windows, tells when it starts one.
-bool hasHandler(const QString &strFileName)
-{
-    const QString strTool = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
-    if (strTool.isEmpty())
-        return true;
-    const QString strType = QMimeDatabase().mimeTypeForFile(strFileName).name();
-    QProcess tool;
-    tool.start(strTool, {QStringLiteral("query"), QStringLiteral("default"), strType});
-    constexpr int nNothingFound = 4;
-    const bool bAnswered = tool.waitForFinished(s_nHandlerTimeoutMs)
-        && (tool.exitCode() == 0 || tool.exitCode() == nNothingFound);
-    return !bAnswered || !tool.readAllStandardOutput().trimmed().isEmpty();
-}
-
-// A full disk may take a beginning first; only the next attempt names the reason.
-bool writeAll(QFile *pFile, const QByteArray &content)
-{
-    qint64 nDone = 0;
-    while (nDone < content.size()) {
-        const qint64 nWritten = pFile->write(content.constData() + nDone, content.size() - nDone);
-        if (nWritten <= 0)
-            return false;
-        nDone += nWritten;
-    }
-    return true;
+    return PartFile::inQuotes(strPath);
 }
 
 } // namespace
@@ -100,29 +81,10 @@ QString Downloader::downloadFolder()
     return QDir::homePath() + QStringLiteral("/Downloads/");
 }
 
-QString Downloader::partPath() const
-{
-    return filePath() + QStringLiteral(".part");
-}
-
-void Downloader::setUrlId(const QString &url)
-{
-    m_strUrlId = url;
-}
-
 void Downloader::setFileName(const QString &file)
 {
     m_strFileName = UpdateTexts::safeFileName(file);
-}
-
-void Downloader::setUserAgentString(const QString &agent)
-{
-    m_strUserAgentString = agent;
-}
-
-void Downloader::setUseCustomInstallProcedures(bool custom)
-{
-    m_bUseCustomInstallProcedures = custom;
+    m_file = PartFile(downloadFolder() + m_strFileName);
 }
 
 void Downloader::startDownload(const QUrl &url)
@@ -135,23 +97,19 @@ void Downloader::startDownload(const QUrl &url)
 void Downloader::begin(const QUrl &url)
 {
     releaseReply();
-    forgetCheck();
     requireKey();
+    m_state = State::Idle;
     m_url = url;
-    m_nWritten = 0;
     m_nSkipped = 0;
-    ++m_nDownload;
-    m_bCanceled = false;
     resetTexts();
-    if (m_strFileName.isEmpty())
-        setFileName(QString());
+    setFileName(m_strFileName);
     if (!UpdateTexts::isWebUrl(url))
-        return refuse(tr("Cannot download update: %1.")
-                          .arg(tr("\"%1\" is no address of the web").arg(url.toDisplayString())));
+        return fail(tr("Cannot download update: %1.")
+                        .arg(tr("\"%1\" is no address of the web").arg(UpdateTexts::shown(url))));
     if (const QString strObjection = m_check.objection(); !strObjection.isEmpty())
-        return refuse(tr("The update is not installed: %1.").arg(strObjection));
-    if (const QString strReason = prepareFolder(); !strReason.isEmpty())
-        return refuse(strReason);
+        return fail(tr("The update is not installed: %1.").arg(strObjection));
+    if (const QString strReason = m_file.create(); !strReason.isEmpty())
+        return fail(strReason);
     request(url);
     // In front of the main window, yet not its child, which would go with it.
     winId();
@@ -185,35 +143,6 @@ void Downloader::resetTexts()
     m_pUi->timeLabel->setText(tr("Time Remaining") + QStringLiteral(": ") + tr("Unknown"));
 }
 
-// Makes room for the partial file and finds out whether it can be written. The result says why not. A file
-// with the name of the installer stays until makeWay().
-QString Downloader::prepareFolder() const
-{
-    if (!QDir().mkpath(downloadFolder()))
-        return tr("Cannot download update: the folder %1 cannot be made.").arg(inQuotes(downloadFolder()));
-    if (QFileInfo(filePath()).isDir())
-        return tr("Cannot replace %1: %2.").arg(inQuotes(filePath()), tr("it is a folder"));
-    QFile part(partPath());
-    if ((part.exists() || QFileInfo(partPath()).isSymLink()) && !part.remove())
-        return tr("Cannot replace %1: %2.").arg(inQuotes(partPath()), part.errorString());
-    if (!part.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return tr("Cannot write %1: %2.").arg(inQuotes(partPath()), part.errorString());
-    return {};
-}
-
-// Of a link only the link goes. Where the folder that holds the trash is missing, Qt 6.4 would take the
-// current folder for the trash.
-bool Downloader::makeWay() const
-{
-    const QFileInfo old(filePath());
-    if (old.isSymLink())
-        return QFile::remove(filePath());
-    if (!old.exists())
-        return true;
-    const QString strData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return !old.isDir() && QDir().mkpath(strData) && QFile::moveToTrash(filePath());
-}
-
 // Compressed transfers are declined: their sizes are not those of the file.
 void Downloader::request(const QUrl &url)
 {
@@ -224,10 +153,11 @@ void Downloader::request(const QUrl &url)
     if (!m_strUserAgentString.isEmpty())
         request.setRawHeader("User-Agent", m_strUserAgentString.toUtf8());
     m_nStartTime = QDateTime::currentSecsSinceEpoch();
+    m_state = State::Loading;
     m_pReply = m_pManager->get(request);
     m_pReply->setReadBufferSize(s_nReadBuffer);
     connect(m_pReply, &QNetworkReply::downloadProgress, this, &Downloader::updateProgress);
-    connect(m_pReply, &QNetworkReply::readyRead, this, &Downloader::onReadyRead);
+    connect(m_pReply, &QNetworkReply::readyRead, this, &Downloader::takeData);
     connect(m_pReply, &QNetworkReply::redirected, this, &Downloader::onRedirected);
     connect(m_pReply, &QNetworkReply::errorOccurred, this, &Downloader::onError);
     connect(m_pReply, &QNetworkReply::finished, this, &Downloader::onFinished);
@@ -294,13 +224,8 @@ void Downloader::saveFile(qint64 received, qint64 total)
     const QUrl target = m_pReply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     if (target.isValid())
         return onRedirected(target);
-    if (takeData() && received >= total && total >= 1 && m_nWritten >= total)
+    if (takeData() && received >= total && total >= 1 && m_file.size() >= total)
         completeLater();
-}
-
-void Downloader::onReadyRead()
-{
-    (void)takeData();
 }
 
 // Appends what has arrived to the partial file. The page of an error is not part of the installer. False
@@ -315,18 +240,10 @@ bool Downloader::takeData()
     const QByteArray arrived = m_pReply->readAll();
     if (arrived.isEmpty())
         return true;
-    QFile file(partPath());
-    const bool bOpen = file.open(QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
-    if (bOpen && file.size() != m_nWritten) {
-        fail(tr("Cannot write %1: another program has changed it.").arg(inQuotes(partPath())));
-        return false;
-    }
-    if (!bOpen || !writeAll(&file, arrived)) {
-        fail(tr("Cannot write %1: %2.").arg(inQuotes(partPath()), file.errorString()));
-        return false;
-    }
-    m_nWritten += arrived.size();
-    return true;
+    const QString strReason = m_file.append(arrived);
+    if (!strReason.isEmpty())
+        fail(strReason);
+    return strReason.isEmpty();
 }
 
 // Unread it would fill the buffer, and the reply would never end.
@@ -354,8 +271,9 @@ void Downloader::onFinished()
             failWithStatus(nStatus);
         return;
     }
-    if (length.isValid() && length.toLongLong() != m_nWritten)
-        return fail(tr("Cannot download update: %1.").arg(tr("%1 is incomplete").arg(inQuotes(filePath()))));
+    if (length.isValid() && length.toLongLong() != m_file.size())
+        return fail(
+            tr("Cannot download update: %1.").arg(tr("%1 is incomplete").arg(inQuotes(m_file.path()))));
     completeLater();
 }
 
@@ -363,9 +281,9 @@ void Downloader::onFinished()
 void Downloader::completeLater()
 {
     releaseReply();
-    forgetCheck();
-    const auto goOn = [this, nCheck = m_nCheck] {
-        if (nCheck == m_nCheck)
+    m_state = State::Received;
+    const auto goOn = [this] {
+        if (m_state == State::Received)
             complete();
     };
     QMetaObject::invokeMethod(this, goOn, Qt::QueuedConnection);
@@ -373,29 +291,23 @@ void Downloader::completeLater()
 
 void Downloader::complete()
 {
-    if (m_nWritten == 0)
-        return fail(tr("Cannot download update: %1.").arg(tr("%1 is empty").arg(inQuotes(filePath()))));
-    checkThen(partPath(), &Downloader::finish);
+    if (m_file.size() == 0)
+        return fail(tr("Cannot download update: %1.").arg(tr("%1 is empty").arg(inQuotes(m_file.path()))));
+    checkThen(m_file.partPath(), &Downloader::finish);
 }
 
 void Downloader::finish()
 {
-    QFile part(partPath());
-    if (part.size() != m_nWritten)
-        return fail(tr("Cannot write %1: another program has changed it.").arg(inQuotes(partPath())));
-    if (!makeWay())
-        return fail(
-            tr("Cannot replace %1: %2.").arg(inQuotes(filePath()), tr("it cannot be moved to the trash")));
-    if (!part.rename(filePath()))
-        return fail(tr("Cannot rename %1 to %2: %3.")
-                        .arg(inQuotes(partPath()), inQuotes(filePath()), part.errorString()));
+    if (const QString strReason = m_file.complete(); !strReason.isEmpty())
+        return fail(strReason);
+    m_state = State::Ready;
     // The box shall not run inside a signal of the network, nor for an installer that another one replaces.
-    const auto offer = [this, nDownload = m_nDownload] {
-        if (nDownload == m_nDownload)
+    const auto offer = [this] {
+        if (m_state == State::Ready)
             installUpdate();
     };
     QMetaObject::invokeMethod(this, offer, Qt::QueuedConnection);
-    emit downloadFinished(m_strUrlId, filePath());
+    emit downloadFinished(m_strUrlId, m_file.path());
 }
 
 // No caller can leave the key out.
@@ -409,6 +321,7 @@ void Downloader::requireKey()
 void Downloader::checkThen(const QString &strFileName, Continuation next)
 {
     requireKey();
+    m_state = State::Checking;
     if (!m_check.isNeeded())
         return (this->*next)();
     m_pUi->timeLabel->setText(tr("Checking the signature") + QStringLiteral("..."));
@@ -416,17 +329,22 @@ void Downloader::checkThen(const QString &strFileName, Continuation next)
     QThread *pThread =
         QThread::create([check = m_check, strFileName, pReason] { *pReason = check.check(strFileName); });
     pThread->setParent(this);
-    forgetCheck();
-    connect(
-        pThread, &QThread::finished, this, [this, pThread, nCheck = m_nCheck, strFileName, pReason, next] {
-            pThread->deleteLater();
-            if (m_nCheck != nCheck)
-                return;
-            if (pReason->isEmpty())
-                return (this->*next)();
-            discard(strFileName, *pReason);
-        });
+    m_pWorker = pThread;
+    connect(pThread, &QThread::finished, this, [this, pThread, strFileName, pReason, next] {
+        pThread->deleteLater();
+        if (!isAwaited(pThread))
+            return;
+        if (pReason->isEmpty())
+            return (this->*next)();
+        discard(strFileName, *pReason);
+    });
     pThread->start();
+}
+
+// Not when the window was closed meanwhile, or something else begun.
+bool Downloader::isAwaited(const QObject *pWorker) const
+{
+    return m_state == State::Checking && m_pWorker == pWorker;
 }
 
 // What cannot be deleted shall at least not look like an installer.
@@ -434,10 +352,10 @@ void Downloader::discard(const QString &strFileName, const QString &strReason)
 {
     m_pUi->openButton->setEnabled(false);
     const bool bDeleted = QFile::remove(strFileName);
-    if (!bDeleted && strFileName != partPath())
-        QFile::rename(strFileName, partPath());
+    if (!bDeleted && strFileName != m_file.partPath())
+        QFile::rename(strFileName, m_file.partPath());
     fail(tr("The update is not installed: %1.")
-             .arg(bDeleted ? tr("%1 was deleted, because %2").arg(inQuotes(filePath()), strReason)
+             .arg(bDeleted ? tr("%1 was deleted, because %2").arg(inQuotes(m_file.path()), strReason)
                            : strReason));
 }
 
@@ -448,18 +366,21 @@ void Downloader::installUpdate()
     m_pUi->stopButton->setText(tr("Close"));
     m_pUi->downloadLabel->setText(tr("Download complete!"));
     m_pUi->timeLabel->setText(tr("The installer will open separately") + QStringLiteral("..."));
-    QMessageBox box(ICore::getMainWindow());
-    box.setTextFormat(Qt::RichText);
-    box.setText(QStringLiteral("<h3>")
-        + tr("In order to install the update, you need to quit the application.") + QStringLiteral("</h3>"));
-    box.setInformativeText(tr("Click OK to begin installing the update.") + QStringLiteral("<br>")
-        + QDir::toNativeSeparators(filePath()).toHtmlEscaped());
-    box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-    box.setDefaultButton(QMessageBox::Cancel); // a Return that was meant for something else installs nothing
     const QPointer<Downloader> pThis = this;
-    const int nDownload = m_nDownload;
-    const auto answer = IUi::run(&box, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"));
-    if (!pThis || nDownload != m_nDownload)
+    const State state = m_state;
+    const auto ask = [this](QMessageBox *pBox) {
+        pBox->setTextFormat(Qt::RichText);
+        pBox->setText(QStringLiteral("<h3>")
+            + tr("In order to install the update, you need to quit the application.")
+            + QStringLiteral("</h3>"));
+        pBox->setInformativeText(tr("Click OK to begin installing the update."));
+        pBox->setDetailedText(QDir::toNativeSeparators(m_file.path()));
+        pBox->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        // A Return that was meant for something else installs nothing.
+        pBox->setDefaultButton(QMessageBox::Cancel);
+    };
+    const auto answer = IUi::run(nullptr, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"), ask);
+    if (!pThis || m_state != state)
         return;
     if (answer == QMessageBox::Ok)
         return openDownload();
@@ -470,43 +391,65 @@ void Downloader::installUpdate()
 // The file may have waited long for this, so it is checked once more.
 void Downloader::openDownload()
 {
-    if (!m_strFileName.isEmpty() && QFile::exists(filePath()))
-        return checkThen(filePath(), &Downloader::runInstaller);
-    QMessageBox box(ICore::getMainWindow());
-    box.setText(tr("Cannot find downloaded update!"));
-    box.setStandardButtons(QMessageBox::Close);
-    IUi::run(&box, QStringLiteral("critical_32"), QStringLiteral("Kelpa Studio"));
+    if (QFile::exists(m_file.path()))
+        return checkThen(m_file.path(), &Downloader::findHandler);
+    IUi::run(nullptr, QStringLiteral("critical_32"), QStringLiteral("Kelpa Studio"), [](QMessageBox *pBox) {
+        pBox->setText(tr("Cannot find downloaded update!"));
+        pBox->setStandardButtons(QMessageBox::Close);
+    });
 }
 
-void Downloader::runInstaller()
+// What starts programs on a Unix desktop says yes before it has found one, so what knows them is asked. A
+// system without it, such as Windows, tells when it starts one.
+void Downloader::findHandler()
 {
-    const bool bHandler = hasHandler(filePath());
-    if (bHandler && QDesktopServices::openUrl(QUrl::fromLocalFile(filePath())))
+    const QString strTool = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (strTool.isEmpty())
+        return runInstaller(true);
+    m_state = State::Checking;
+    auto *pShell = new QProcess(this);
+    m_pWorker = pShell;
+    const auto onState = [this, pShell](QProcess::ProcessState state) {
+        if (state != QProcess::NotRunning)
+            return;
+        pShell->deleteLater();
+        const bool bAnswered = pShell->error() == QProcess::UnknownError && pShell->exitCode() == 0;
+        if (isAwaited(pShell))
+            runInstaller(!bAnswered || !pShell->readAllStandardOutput().trimmed().isEmpty());
+    };
+    connect(pShell, &QProcess::stateChanged, this, onState, Qt::QueuedConnection);
+    QTimer::singleShot(s_nHandlerTimeoutMs, pShell, &QProcess::kill);
+    pShell->start(QStringLiteral("sh"),
+        QStringList {QStringLiteral("-c"), QLatin1String(s_pHandlerQuery), strTool} + typesOf(m_file.path()));
+}
+
+void Downloader::runInstaller(bool bHandler)
+{
+    m_state = State::Ready;
+    if (bHandler && QDesktopServices::openUrl(QUrl::fromLocalFile(m_file.path())))
         return QCoreApplication::quit();
     m_pUi->openButton->setEnabled(true);
     m_pUi->timeLabel->setText(tr("Click Open to apply the update."));
     IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
         (bHandler ? tr("%1 could not be opened.") : tr("There is no program to open %1 with."))
-            .arg(inQuotes(filePath())));
+            .arg(inQuotes(m_file.path())));
 }
 
 void Downloader::cancelDownload()
 {
-    if (!m_pReply || m_pReply->isFinished()) {
-        forgetCheck();
+    if (m_state != State::Loading) {
+        m_state = State::Idle;
         hide();
         return;
     }
     const QPointer<QNetworkReply> pReply = m_pReply;
     const auto answer = IUi::question(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
         tr("Are you sure you want to cancel the download?"));
-    if (answer != QMessageBox::Yes || !pReply)
-        return;
     // It may have ended while the question stood there.
-    if (pReply != m_pReply || pReply->isFinished())
+    if (answer != QMessageBox::Yes || !pReply || pReply != m_pReply)
         return;
     hide();
-    m_bCanceled = true;
+    m_state = State::Canceled;
     pReply->abort();
 }
 
@@ -516,9 +459,9 @@ void Downloader::onError()
     QNetworkReply::NetworkError code = m_pReply->error();
     if (code == QNetworkReply::NoError)
         return;
-    if (code == QNetworkReply::OperationCanceledError && !m_bCanceled)
+    if (code == QNetworkReply::OperationCanceledError && m_state != State::Canceled)
         code = QNetworkReply::TimeoutError;
-    qCInfo(lcUpdater).noquote().nospace() << "Error downloading update: " << m_url.toDisplayString()
+    qCInfo(lcUpdater).noquote().nospace() << "Error downloading update: " << UpdateTexts::shown(m_url)
                                           << ". Error code: " << static_cast<int>(code);
     if (code != QNetworkReply::OperationCanceledError)
         return fail(tr("Cannot download update: %1.").arg(static_cast<int>(code)));
@@ -526,18 +469,14 @@ void Downloader::onError()
     close();
 }
 
-// The end of a download that failed, with its one message.
+// The end of a download that failed, with its one message, which shall not run inside a signal of the
+// network.
 void Downloader::fail(const QString &strReason)
-{
-    releaseReply();
-    refuse(strReason);
-}
-
-// The box shall not run inside a signal of the network.
-void Downloader::refuse(const QString &strReason)
 {
     const QString strShown = UpdateTexts::shortened(strReason, s_nLongestReason);
     qCWarning(lcUpdater) << "No update:" << strShown;
+    releaseReply();
+    m_state = State::Idle;
     close();
     const auto tell = [strShown] {
         IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strShown);
@@ -550,14 +489,14 @@ void Downloader::refuse(const QString &strReason)
 void Downloader::closeEvent(QCloseEvent *pEvent)
 {
     const MainWindow *pMainWindow = ICore::getMainWindow();
-    if (pMainWindow && !pMainWindow->isVisible())
-        releaseReply();
-    const bool bUnderWay = m_pReply && !m_pReply->isFinished();
-    if (bUnderWay)
+    const bool bUnderWay = m_state == State::Loading && !(pMainWindow && !pMainWindow->isVisible());
+    if (bUnderWay) {
         cancelDownload();
+    } else {
+        releaseReply();
+        m_state = State::Idle;
+    }
     pEvent->setAccepted(!bUnderWay || !isVisible());
-    if (!bUnderWay)
-        forgetCheck();
 }
 
 void Downloader::keyPressEvent(QKeyEvent *pEvent)

@@ -3,6 +3,7 @@
 
 #include <core_global.h>
 #include <updater/installercheck.h>
+#include <updater/partfile.h>
 
 #include <QPointer>
 #include <QUrl>
@@ -19,7 +20,8 @@ class Downloader;
 
 /// The small window that downloads an installer into the user's folder of downloads, shows how far it is, and
 /// then offers to run it. Each Updater owns one. Until the installer is complete, and checked if there is a
-/// key, its file has the suffix ".part"; what had its name before then goes to the trash. The window stays in
+/// key, its file has the suffix ".part"; what had its name before then goes to the trash, or stays if that
+/// cannot be, and the installer gets a free name. The window stays in
 /// front of the main window, and goes without a question when that is closed. GUI thread only; it must not
 /// outlive the application object.
 class CORE_EXPORT Downloader : public QWidget
@@ -43,17 +45,17 @@ public:
     [[nodiscard]] static QString downloadFolder();
 
 public slots:
-    void setUrlId(const QString &url);
+    void setUrlId(const QString &url) { m_strUrlId = url; }
 
     /// Ends a download under way and starts this one. Every way it can fail ends in one message.
     void startDownload(const QUrl &url);
 
     /// An empty name, and one that could lead elsewhere, becomes "Kelpa_Update.bin".
     void setFileName(const QString &file);
-    void setUserAgentString(const QString &agent);
+    void setUserAgentString(const QString &agent) { m_strUserAgentString = agent; }
 
     /// The window then offers nothing: whoever hears downloadFinished() installs.
-    void setUseCustomInstallProcedures(bool custom);
+    void setUseCustomInstallProcedures(bool custom) { m_bUseCustomInstallProcedures = custom; }
 
 signals:
     /// `url` is the id that was set, `filepath` the finished installer. Whoever hears it may delete this.
@@ -72,15 +74,14 @@ private slots:
     void updateProgress(qint64 received, qint64 total);
     void calculateTimeRemaining(qint64 received, qint64 total);
     void onRedirected(const QUrl &url);
-    void onReadyRead();
     void onError();
     void onFinished();
 
 private:
+    enum class State { Idle, Loading, Canceled, Received, Checking, Ready };
+
     void begin(const QUrl &url);
     void resetTexts();
-    [[nodiscard]] QString prepareFolder() const;
-    [[nodiscard]] bool makeWay() const;
     void request(const QUrl &url);
     [[nodiscard]] bool takeData();
     void skipPage(int nStatus);
@@ -92,13 +93,11 @@ private:
     void checkThen(const QString &strFileName, Continuation next);
     void requireKey();
     void discard(const QString &strFileName, const QString &strReason);
-    void forgetCheck() { ++m_nCheck; }
-    void runInstaller();
+    [[nodiscard]] bool isAwaited(const QObject *pWorker) const;
+    void findHandler();
+    void runInstaller(bool bHandler);
     void releaseReply();
     void fail(const QString &strReason);
-    void refuse(const QString &strReason);
-    [[nodiscard]] QString filePath() const { return downloadFolder() + m_strFileName; }
-    [[nodiscard]] QString partPath() const;
 
     QString m_strUrlId;
     qint64 m_nStartTime = 0; ///< seconds since the epoch
@@ -112,9 +111,8 @@ private:
     InstallerCheck m_check;
     QUrl m_url; ///< of the request under way
     int m_nRedirects = 0;
-    qint64 m_nWritten = 0;
+    PartFile m_file;
     qint64 m_nSkipped = 0; ///< bytes of an error's page
-    int m_nDownload = 0; ///< the number of the download whose installer may be offered
-    bool m_bCanceled = false;
-    int m_nCheck = 0; ///< the number of the check whose result counts
+    State m_state = State::Idle;
+    QPointer<QObject> m_pWorker; ///< the thread or process whose result counts
 };

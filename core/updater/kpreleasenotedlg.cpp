@@ -5,6 +5,7 @@
 #include "iui.h"
 #include "ui/webviewloader.h"
 #include "ui_kpreleasenotedlg.h"
+#include "updater/updatetexts.h"
 
 #include <QScreen>
 #include <QTimer>
@@ -12,12 +13,6 @@
 namespace {
 
 constexpr int s_nTimeoutMs = 30000;
-
-bool isWebAddress(const QString &strText)
-{
-    return strText.startsWith(QLatin1String("http://"), Qt::CaseInsensitive)
-        || strText.startsWith(QLatin1String("https://"), Qt::CaseInsensitive);
-}
 
 } // namespace
 
@@ -59,7 +54,7 @@ void KPReleaseNoteDlg::setReleaseNotes(const QString &strNotes)
         m_pView = WebViewLoader::createView(WebAccess::Web, m_pUi->m_pWebViewRL);
         connect(m_pView, &WebView::loadFinished, this, &KPReleaseNoteDlg::onLoadFinished);
     }
-    m_bLoading = isWebAddress(strNotes);
+    m_bLoading = UpdateTexts::isWebAddress(strNotes);
     if (!m_bLoading)
         return m_pView->setHtml(strNotes);
     m_pUi->m_pBtnUpdate->setEnabled(false);

@@ -17,21 +17,16 @@
 
 #include <utility>
 
+using UpdateTexts::shown;
+
 namespace {
 
 Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
 
 constexpr int s_nTimeoutMs = 30000;
-constexpr int s_nLongestLog = 200; ///< characters of what came from outside
 constexpr int s_nLongestError = 500;
 constexpr auto s_hops = QNetworkRequest::User; ///< redirects that led to a request
 constexpr char s_pReason[] = "reason"; ///< why a reply was aborted
-
-QString shown(const QString &strUrl)
-{
-    const QString strShown = QUrl(strUrl).toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery);
-    return UpdateTexts::shortened(strShown, s_nLongestLog);
-}
 
 // Only what the configuration or a person names may be fetched by other means than the web's.
 bool openInBrowser(const QString &strUrl)
@@ -77,50 +72,10 @@ bool Updater::useCustomInstallProcedures() const
     return m_pDownloader->useCustomInstallProcedures();
 }
 
-void Updater::setUrl(const QString &url)
-{
-    m_strUrl = url;
-}
-
-void Updater::setModuleName(const QString &name)
-{
-    m_strModuleName = name;
-}
-
-void Updater::setNotifyOnUpdate(bool notify)
-{
-    m_bNotifyOnUpdate = notify;
-}
-
-void Updater::setNotifyOnFinish(bool notify)
-{
-    m_bNotifyOnFinish = notify;
-}
-
 void Updater::setUserAgentString(const QString &agent)
 {
     m_strUserAgentString = agent;
     m_pDownloader->setUserAgentString(agent);
-}
-
-void Updater::setModuleVersion(const QString &version)
-{
-    m_strModuleVersion = version;
-}
-
-void Updater::setDownloaderEnabled(bool enabled)
-{
-    m_bDownloaderEnabled = enabled;
-}
-
-void Updater::setPlatformKey(const QString &platformKey)
-{
-    m_strPlatformKey = platformKey;
-}
-
-void Updater::setUseCustomAppcast(bool customAppcast)
-{
-    m_bCustomAppcast = customAppcast;
 }
 
 void Updater::setUseCustomInstallProcedures(bool custom)
@@ -226,7 +181,7 @@ void Updater::failToReach(const QNetworkReply *pReply)
 void Updater::endWithout(const QString &strError)
 {
     m_strLastError = UpdateTexts::shortened(strError, s_nLongestError);
-    qCInfo(lcUpdater) << strError.left(s_nLongestLog);
+    qCInfo(lcUpdater) << strError.left(UpdateTexts::LongestLog);
     end(false);
 }
 
@@ -254,7 +209,8 @@ void Updater::setUpdateAvailable(bool available)
 {
     m_bUpdateAvailable = available;
     if (available)
-        qCInfo(lcUpdater, "New version: %s", qUtf8Printable(m_appcast.strLatestVersion.left(s_nLongestLog)));
+        qCInfo(lcUpdater, "New version: %s",
+            qUtf8Printable(m_appcast.strLatestVersion.left(UpdateTexts::LongestLog)));
     else
         qCInfo(lcUpdater, "No updates available.");
     if (available && (m_bNotifyOnUpdate || m_bNotifyOnFinish))
@@ -294,25 +250,23 @@ void Updater::accept(const Appcast &appcast)
         openInBrowser(strPage);
         return;
     }
-    const QUrl url(appcast.strDownloadUrl);
-    if (!UpdateTexts::isWebUrl(url))
-        qCWarning(lcUpdater) << "Not fetched, since it is no address of the web:"
-                             << shown(appcast.strDownloadUrl);
     m_pDownloader->setUrlId(m_strUrl);
     m_pDownloader->setFileName(UpdateTexts::fileNameOf(appcast.strDownloadUrl));
     m_pDownloader->setInstallerCheck(
         {InstallerCheck::configuredKey(), appcast.strSha256, appcast.strSignature});
-    m_pDownloader->startDownload(url);
+    m_pDownloader->startDownload(QUrl(appcast.strDownloadUrl));
 }
 
 void Updater::congratulate()
 {
-    QMessageBox box(ICore::getMainWindow());
-    box.setTextFormat(Qt::RichText);
-    box.setText(QStringLiteral("<h3>")
-        + tr("Congratulations! You are running the latest version of %1").arg(m_strModuleName.toHtmlEscaped())
-        + QStringLiteral("</h3>"));
-    box.setInformativeText(tr("No updates are available at the moment."));
-    box.setStandardButtons(QMessageBox::Close);
-    IUi::run(&box, QStringLiteral("information_32"), QStringLiteral("Kelpa Studio"));
+    IUi::run(
+        nullptr, QStringLiteral("information_32"), QStringLiteral("Kelpa Studio"), [this](QMessageBox *pBox) {
+            pBox->setTextFormat(Qt::RichText);
+            pBox->setText(QStringLiteral("<h3>")
+                + tr("Congratulations! You are running the latest version of %1")
+                      .arg(m_strModuleName.toHtmlEscaped())
+                + QStringLiteral("</h3>"));
+            pBox->setInformativeText(tr("No updates are available at the moment."));
+            pBox->setStandardButtons(QMessageBox::Close);
+        });
 }

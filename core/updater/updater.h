@@ -60,15 +60,15 @@ signals:
 
 public slots:
     void checkForUpdates(bool bSilentIfNoUpdate);
-    void setUrl(const QString &url);
-    void setModuleName(const QString &name);
-    void setNotifyOnUpdate(bool notify);
-    void setNotifyOnFinish(bool notify);
+    void setUrl(const QString &url) { m_strUrl = url; }
+    void setModuleName(const QString &name) { m_strModuleName = name; }
+    void setNotifyOnUpdate(bool notify) { m_bNotifyOnUpdate = notify; }
+    void setNotifyOnFinish(bool notify) { m_bNotifyOnFinish = notify; }
     void setUserAgentString(const QString &agent);
-    void setModuleVersion(const QString &version);
-    void setDownloaderEnabled(bool enabled);
-    void setPlatformKey(const QString &platformKey);
-    void setUseCustomAppcast(bool customAppcast);
+    void setModuleVersion(const QString &version) { m_strModuleVersion = version; }
+    void setDownloaderEnabled(bool enabled) { m_bDownloaderEnabled = enabled; }
+    void setPlatformKey(const QString &platformKey) { m_strPlatformKey = platformKey; }
+    void setUseCustomAppcast(bool customAppcast) { m_bCustomAppcast = customAppcast; }
     void setUseCustomInstallProcedures(bool custom);
 
 private slots:

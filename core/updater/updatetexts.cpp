@@ -113,10 +113,20 @@ QString UpdateTexts::shortened(const QString &strText, int nLongest)
     return strText.size() <= nLongest ? strText : strText.left(nLongest) + QStringLiteral("...");
 }
 
+QString UpdateTexts::shown(const QUrl &url)
+{
+    return shortened(url.toDisplayString(QUrl::RemoveUserInfo | QUrl::RemoveQuery), LongestLog);
+}
+
+bool UpdateTexts::isWebAddress(const QString &strText)
+{
+    return strText.startsWith(QLatin1String("http://"), Qt::CaseInsensitive)
+        || strText.startsWith(QLatin1String("https://"), Qt::CaseInsensitive);
+}
+
 bool UpdateTexts::isWebUrl(const QUrl &url)
 {
-    return url.isValid() && !url.host().isEmpty()
-        && (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"));
+    return !url.host().isEmpty() && isWebAddress(url.toString());
 }
 
 QString UpdateTexts::redirectObjection(const QUrl &from, const QUrl &to, int nFollowed)
@@ -124,10 +134,8 @@ QString UpdateTexts::redirectObjection(const QUrl &from, const QUrl &to, int nFo
     if (nFollowed >= MostRedirects)
         return Downloader::tr("more than %1 redirects").arg(MostRedirects);
     if (!isWebUrl(to))
-        return Downloader::tr("a redirect to \"%1\", which is no address of the web")
-            .arg(to.toDisplayString());
+        return Downloader::tr("a redirect to \"%1\", which is no address of the web").arg(shown(to));
     if (from.scheme() == QLatin1String("https") && to.scheme() != QLatin1String("https"))
-        return Downloader::tr("a redirect from a secure address to \"%1\", which is not")
-            .arg(to.toDisplayString());
+        return Downloader::tr("a redirect from a secure address to \"%1\", which is not").arg(shown(to));
     return {};
 }

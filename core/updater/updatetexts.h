@@ -36,7 +36,15 @@ constexpr int LongestVersion = 60; ///< in characters, where one is shown
 /// What of a text from outside is shown: all, or its first `nLongest` characters and three dots.
 [[nodiscard]] CORE_EXPORT QString shortened(const QString &strText, int nLongest);
 
-/// Whether what a feed names may be fetched or opened: http and https.
+constexpr int LongestLog = 200; ///< characters of what came from outside
+
+/// An address as it is told and logged: without user, password and query, and shortened to `LongestLog`.
+[[nodiscard]] CORE_EXPORT QString shown(const QUrl &url);
+
+/// Whether a text begins like an address of the web: http or https.
+[[nodiscard]] CORE_EXPORT bool isWebAddress(const QString &strText);
+
+/// Whether what a feed names may be fetched or opened: an address of the web with a host.
 [[nodiscard]] CORE_EXPORT bool isWebUrl(const QUrl &url);
 
 constexpr int MostRedirects = 10;

@@ -11,7 +11,6 @@
 #include <QSysInfo>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <QVersionNumber>
 #include <displayscale.h>
 #include <extensionsystem/pluginmanager.h>
 #include <iui.h>
@@ -58,15 +57,6 @@ QStringList errorsOf(const QString &strName, const QString &strReason)
             result.append(error.message);
     }
     return result;
-}
-
-// The framework drops zeros at the end; people are used to three numbers.
-QString versionText(const QVersionNumber &version)
-{
-    QList<int> parts = version.segments();
-    while (parts.size() < 3)
-        parts.append(0);
-    return QVersionNumber(parts).toString();
 }
 
 QString versionsText()
@@ -124,7 +114,8 @@ void AboutDialog::fillPlugins()
         names.append(plugin.spec.name);
         const QString strErrors = errorsOf(plugin.spec.name, plugin.reason).join(QLatin1Char('\n'));
         auto *pItem = new QTreeWidgetItem(m_pPlugins,
-            {plugin.spec.name, versionText(plugin.spec.version), stateText(plugin.state), strErrors});
+            {plugin.spec.name, ExtensionSystem::versionText(plugin.spec.version), stateText(plugin.state),
+                strErrors});
         pItem->setToolTip(0, plugin.spec.file);
         pItem->setToolTip(3, strErrors);
     }

@@ -8,6 +8,7 @@
 #include <icore.h>
 #include <iui.h>
 #include <mainwindow.h>
+#include <updater/updatetexts.h>
 
 namespace {
 
@@ -36,8 +37,8 @@ QUrl Feedback::addressWithDetails(const QString &strAddress)
 {
     QUrl url(strAddress);
     const bool bMail = url.scheme() == QLatin1String("mailto");
-    const bool bWeb = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    if (!bMail && (!bWeb || url.host().isEmpty()))
+    const bool bWeb = UpdateTexts::isWebUrl(url);
+    if (!bMail && !bWeb)
         return {};
     QUrlQuery query(url);
     QString strBody;

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QTimer>
-#include <QUrl>
 #include <icore.h>
 #include <iui.h>
 #include <mainwindow.h>
@@ -43,6 +42,7 @@ QString title()
 
 UpdateCheck::UpdateCheck(QObject *pParent)
     : QObject(pParent)
+    , m_strUrl(UpdateSettings::url(UpdateSettings::Feed))
     , m_pDeadline(new QTimer(this))
     , m_pDue(new QTimer(this))
 {
@@ -105,13 +105,16 @@ void UpdateCheck::checkNow()
 {
     if (m_state == State::Manual)
         return;
+    // Also one that began before the user set another feed.
+    for (const QString &strUrl : {m_strUrl, UpdateSettings::url(UpdateSettings::Feed)}) {
+        if (QSimpleUpdater::getInstance()->showDownload(strUrl))
+            return;
+    }
     if (!UpdateSettings::hasFeed()) {
         IUi::information(ICore::getMainWindow(), title(),
             tr("No address to look for updates is set. You can set it in the preferences, under Updates."));
         return;
     }
-    if (QSimpleUpdater::getInstance()->showDownload(UpdateSettings::feedUrl()))
-        return;
     notify(tr("Looking for a new version..."), QString(), nullptr);
     begin(State::Manual);
 }
@@ -123,7 +126,7 @@ void UpdateCheck::begin(State state)
     m_state = state;
     m_bDeadlineMissed = false;
     if (!bUnderWay)
-        m_strUrl = UpdateSettings::feedUrl();
+        m_strUrl = UpdateSettings::url(UpdateSettings::Feed);
     m_pDeadline->start();
     QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();
     pUpdater->setPlatformKey(m_strUrl, platformKey());
@@ -163,7 +166,7 @@ void UpdateCheck::answer()
     if (m_bDeadlineMissed && !strError.isEmpty())
         IUi::warning(ICore::getMainWindow(), title(),
             tr("Cannot reach %1: no answer within %2 seconds.")
-                .arg(QUrl(m_strUrl).toDisplayString(QUrl::RemoveQuery))
+                .arg(UpdateTexts::shown(QUrl(m_strUrl)))
                 .arg(m_pDeadline->interval() / 1000.0));
     else if (!strError.isEmpty())
         IUi::warning(ICore::getMainWindow(), title(), strError);

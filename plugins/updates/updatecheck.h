@@ -39,7 +39,7 @@ private:
     void agree();
 
     State m_state = State::Idle;
-    QString m_strUrl; ///< of the check under way
+    QString m_strUrl; ///< of the last check
     bool m_bDeadlineMissed = false;
     QTimer *m_pDeadline;
     QTimer *m_pDue;

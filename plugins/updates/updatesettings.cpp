@@ -6,17 +6,16 @@
 
 namespace {
 
-struct Address
+// In the order of UpdateSettings::Address.
+const struct
 {
     QString strKey;
     QString strDefault;
+} s_addresses[] = {
+    {QStringLiteral("Updates/FeedUrl"), QStringLiteral("https://updates.kelpa.example/appcast.json")},
+    {QStringLiteral("Updates/ReportUrl"), QStringLiteral("https://kelpa.example/report")},
+    {QStringLiteral("Updates/SuggestUrl"), QStringLiteral("https://kelpa.example/suggest")},
 };
-
-const Address s_feed {
-    QStringLiteral("Updates/FeedUrl"), QStringLiteral("https://updates.kelpa.example/appcast.json")};
-const Address s_report {QStringLiteral("Updates/ReportUrl"), QStringLiteral("https://kelpa.example/report")};
-const Address s_suggestion {
-    QStringLiteral("Updates/SuggestUrl"), QStringLiteral("https://kelpa.example/suggest")};
 
 const QString s_automatic = QStringLiteral("Updates/AutomaticCheck");
 const QString s_asked = QStringLiteral("Updates/Asked");
@@ -37,66 +36,37 @@ void setValue(const QString &strKey, const QVariant &newValue)
 }
 
 // An address with a comma is read as a list unless it is in quotes.
-QString read(const Address &address, QSettings::Scope scope)
+QString read(UpdateSettings::Address address, QSettings::Scope scope)
 {
-    return value(address.strKey, scope).toStringList().join(QLatin1Char(',')).trimmed();
+    return value(s_addresses[address].strKey, scope).toStringList().join(QLatin1Char(',')).trimmed();
 }
 
-QString withoutUser(const Address &address)
+QString withoutUser(UpdateSettings::Address address)
 {
     const QString strMachine = read(address, QSettings::SystemScope);
-    return strMachine.isEmpty() ? address.strDefault : strMachine;
+    return strMachine.isEmpty() ? s_addresses[address].strDefault : strMachine;
 }
 
-QString read(const Address &address)
+} // namespace
+
+QString UpdateSettings::url(Address address)
 {
     const QString strUser = read(address, QSettings::UserScope);
     return strUser.isEmpty() ? withoutUser(address) : strUser;
 }
 
-void write(const Address &address, const QString &strUrl)
+void UpdateSettings::setUrl(Address address, const QString &strUrl)
 {
+    const QString strKey = s_addresses[address].strKey;
     if (!strUrl.trimmed().isEmpty() && strUrl.trimmed() != withoutUser(address))
-        return setValue(address.strKey, strUrl.trimmed());
+        return setValue(strKey, strUrl.trimmed());
     if (QSettings *pSettings = ICore::settings(QSettings::UserScope))
-        pSettings->remove(address.strKey);
-}
-
-} // namespace
-
-QString UpdateSettings::feedUrl()
-{
-    return read(s_feed);
-}
-
-QString UpdateSettings::reportUrl()
-{
-    return read(s_report);
-}
-
-QString UpdateSettings::suggestionUrl()
-{
-    return read(s_suggestion);
-}
-
-void UpdateSettings::setFeedUrl(const QString &strUrl)
-{
-    write(s_feed, strUrl);
-}
-
-void UpdateSettings::setReportUrl(const QString &strUrl)
-{
-    write(s_report, strUrl);
-}
-
-void UpdateSettings::setSuggestionUrl(const QString &strUrl)
-{
-    write(s_suggestion, strUrl);
+        pSettings->remove(strKey);
 }
 
 bool UpdateSettings::hasFeed()
 {
-    return feedUrl() != s_feed.strDefault;
+    return url(Feed) != s_addresses[Feed].strDefault;
 }
 
 bool UpdateSettings::isAutomatic()

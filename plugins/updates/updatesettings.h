@@ -9,16 +9,14 @@
 class UpdateSettings
 {
 public:
-    /// The addresses; one that is not set leads to a domain that nobody can own.
-    [[nodiscard]] static QString feedUrl();
-    [[nodiscard]] static QString reportUrl();
-    [[nodiscard]] static QString suggestionUrl();
+    enum Address { Feed, Report, Suggestion };
+
+    /// One that is not set leads to a domain that nobody can own.
+    [[nodiscard]] static QString url(Address address);
 
     /// Setting nothing, or what counts without the user (the machine's address, else the default), takes the
     /// user's choice away.
-    static void setFeedUrl(const QString &strUrl);
-    static void setReportUrl(const QString &strUrl);
-    static void setSuggestionUrl(const QString &strUrl);
+    static void setUrl(Address address, const QString &strUrl);
 
     /// Whether a feed is set; otherwise nothing must be contacted.
     [[nodiscard]] static bool hasFeed();

@@ -8,17 +8,6 @@
 #include <QLineEdit>
 #include <displayscale.h>
 
-namespace {
-
-// A long one from its beginning.
-void showAddress(QLineEdit *pEdit, const QString &strUrl)
-{
-    pEdit->setText(strUrl);
-    pEdit->setCursorPosition(0);
-}
-
-} // namespace
-
 UpdatesPage::UpdatesPage()
     : m_pAutomatic(new QCheckBox(tr("&Look for a new version once a day"), this))
 {
@@ -28,9 +17,9 @@ UpdatesPage::UpdatesPage()
     pLayout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_pAutomatic->setObjectName(QStringLiteral("m_pAutomatic"));
     pLayout->addRow(m_pAutomatic);
-    m_pFeed = addAddress(tr("&Address of the updates:"), "m_pFeed");
-    m_pReport = addAddress(tr("Address for &problems:"), "m_pReport");
-    m_pSuggestion = addAddress(tr("Address for &suggestions:"), "m_pSuggestion");
+    m_addresses = {addAddress(tr("&Address of the updates:"), "m_pFeed"),
+        addAddress(tr("Address for &problems:"), "m_pReport"),
+        addAddress(tr("Address for &suggestions:"), "m_pSuggestion")};
     connect(m_pAutomatic, &QCheckBox::clicked, this, &UpdatesPage::onEdited);
 }
 
@@ -54,17 +43,17 @@ void UpdatesPage::onEdited()
 void UpdatesPage::initValues()
 {
     m_pAutomatic->setChecked(UpdateSettings::isAutomatic());
-    showAddress(m_pFeed, UpdateSettings::feedUrl());
-    showAddress(m_pReport, UpdateSettings::reportUrl());
-    showAddress(m_pSuggestion, UpdateSettings::suggestionUrl());
+    for (const auto address : {UpdateSettings::Feed, UpdateSettings::Report, UpdateSettings::Suggestion}) {
+        m_addresses[address]->setText(UpdateSettings::url(address));
+        m_addresses[address]->setCursorPosition(0); // a long one from its beginning
+    }
     IOptionPage::initValues();
 }
 
 void UpdatesPage::saveChanges()
 {
-    UpdateSettings::setFeedUrl(m_pFeed->text());
-    UpdateSettings::setReportUrl(m_pReport->text());
-    UpdateSettings::setSuggestionUrl(m_pSuggestion->text());
+    for (const auto address : {UpdateSettings::Feed, UpdateSettings::Report, UpdateSettings::Suggestion})
+        UpdateSettings::setUrl(address, m_addresses[address]->text());
     if (m_pAutomatic->isChecked() != UpdateSettings::isAutomatic())
         UpdateSettings::setAutomatic(m_pAutomatic->isChecked());
     IOptionPage::saveChanges();

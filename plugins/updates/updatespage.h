@@ -3,6 +3,8 @@
 
 #include <ui/ioptionpage.h>
 
+#include <array>
+
 class QCheckBox;
 class QLineEdit;
 
@@ -24,9 +26,7 @@ private:
     void onEdited();
 
     QCheckBox *m_pAutomatic;
-    QLineEdit *m_pFeed;
-    QLineEdit *m_pReport;
-    QLineEdit *m_pSuggestion;
+    std::array<QLineEdit *, 3> m_addresses; ///< in the order of UpdateSettings::Address
 };
 
 /// Hands the page to the preferences dialog.

@@ -34,9 +34,10 @@ bool UpdatesPlugin::initialize(const QStringList &arguments, QString *errorStrin
     PluginManager::addObject(m_pPages.get());
     serve("Help.CheckUpdates", tr("Check Updates..."), [this] { m_pCheck->checkNow(); });
     serve("Help.About", tr("About"), [this] { showAbout(); });
-    serve("Help.ReportProblem", tr("Report a Problem"), [] { Feedback::open(UpdateSettings::reportUrl()); });
+    serve("Help.ReportProblem", tr("Report a Problem"),
+        [] { Feedback::open(UpdateSettings::url(UpdateSettings::Report)); });
     serve("Help.ProvideSuggestion", tr("Provide a Suggestion"),
-        [] { Feedback::open(UpdateSettings::suggestionUrl()); });
+        [] { Feedback::open(UpdateSettings::url(UpdateSettings::Suggestion)); });
     connect(
         PluginManager::instance(), &PluginManager::initializationDone, m_pCheck.get(), &UpdateCheck::start);
     return true;

@@ -100,6 +100,7 @@ public:
         QSize iconSize;
         QWidget *pParent;
         QString parentTitle;
+        QString details;
     };
     QList<Box> boxes;
 
@@ -120,7 +121,7 @@ private:
         m_pAnswered = pBox;
         boxes.append({pBox->windowTitle(), pBox->text(), pBox->informativeText(), pBox->standardButtons(),
             pBox->standardButton(pBox->defaultButton()), pBox->iconPixmap().size(), pBox->parentWidget(),
-            pBox->parentWidget() ? pBox->parentWidget()->windowTitle() : QString()});
+            pBox->parentWidget() ? pBox->parentWidget()->windowTitle() : QString(), pBox->detailedText()});
         const auto button = m_answers.isEmpty() ? QMessageBox::NoButton : m_answers.takeFirst();
         if (QAbstractButton *pButton = pBox->button(button))
             pButton->click();

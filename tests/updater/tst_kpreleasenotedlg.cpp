@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The offer with real pages in the real browser engine, loaded as the program loads it.
-#include "testserver.h"
 #include "updatetest.h"
 
 #include <ui/webviewloader.h>
 
 #include <QFile>
 #include <QGroupBox>
-#include <QSignalSpy>
 
 namespace {
 
@@ -47,6 +45,7 @@ private slots:
         KPReleaseNoteDlg dialog(nullptr);
         dialog.setHeading("<b>News</b>");
         QVERIFY(!hasEngine());
+        QCOMPARE(dialog.focusWidget(), button(dialog, "m_pBtnClose"));
         dialog.setReleaseNotes(QString());
         QVERIFY(button(dialog, "m_pBtnUpdate")->isEnabled());
         dialog.setReleaseNotes(m_server.url("/notes").replace("http", "HTTP"));

@@ -3,6 +3,8 @@
 // answers to the offer.
 #pragma once
 
+#include "testserver.h"
+
 #include <support/coretest.h>
 #include <updater/downloader.h>
 #include <updater/kpreleasenotedlg.h>
@@ -13,6 +15,7 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QNetworkAccessManager>
+#include <QSignalSpy>
 
 /// A home folder without downloads, and an end to everything being opened for real.
 class TestHome : public QObject
@@ -25,10 +28,7 @@ public:
         qputenv("HOME", m_folder.path().toLocal8Bit());
         qputenv("XDG_DATA_HOME", (m_folder.path() + "/share").toLocal8Bit());
         qputenv("PATH", (m_folder.path() + QLatin1Char(':')).toLocal8Bit() + m_oldPath);
-        QFile tool(m_folder.filePath("xdg-mime"));
-        if (tool.open(QIODevice::WriteOnly))
-            tool.write("#!/bin/sh\necho installer.desktop\n");
-        tool.setPermissions(QFile::Permissions(0x7777));
+        setHandlers("[ $3 = application/octet-stream ] || exit 4; echo installer.desktop");
         for (const QString &strScheme : schemes())
             QDesktopServices::setUrlHandler(strScheme, this, "open");
     }
@@ -50,11 +50,13 @@ public:
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
 
-    /// From now on the desktop knows no program for any type.
-    void forgetHandlers() const
+    /// What the desktop says when it is asked for the program of a type: by itself it knows one for files of
+    /// any type, yet none for a type of its own.
+    void setHandlers(const QByteArray &script) const
     {
         QFile tool(m_folder.filePath("xdg-mime"));
-        QVERIFY(tool.open(QIODevice::WriteOnly) && tool.write("#!/bin/sh\n") > 0);
+        QVERIFY(tool.open(QIODevice::WriteOnly) && tool.write("#!/bin/sh\n" + script) > 0);
+        QVERIFY(tool.setPermissions(QFile::Permissions(0x7777)));
     }
 
     [[nodiscard]] QString path() const { return m_folder.path(); }
@@ -85,6 +87,34 @@ private:
     const QByteArray m_oldHome = qgetenv("HOME");
     const QByteArray m_oldData = qgetenv("XDG_DATA_HOME");
     const QByteArray m_oldPath = qgetenv("PATH");
+};
+
+/// A download of "x" with the window of it; the test may go on with what the server answers.
+struct Download
+{
+    explicit Download(const QByteArray &answer = {})
+    {
+        server.on("/x", [this, answer](QTcpSocket *p) {
+            pSocket = p;
+            p->write(answer);
+        });
+        downloader.setFileName("x");
+    }
+
+    void start() { downloader.startDownload(QUrl(server.url("/x"))); }
+    template <typename Widget = QLabel>
+    Widget *child(const char *pName)
+    {
+        return downloader.findChild<Widget *>(QLatin1String(pName));
+    }
+    QPushButton *stopButton() { return child<QPushButton>("stopButton"); }
+    QPushButton *openButton() { return child<QPushButton>("openButton"); }
+
+    TestHome home;
+    TestServer server;
+    QPointer<QTcpSocket> pSocket;
+    Downloader downloader;
+    const QSignalSpy downloaded {&downloader, &Downloader::downloadFinished};
 };
 
 /// Presses one button of each offer that comes up, once it can be pressed.
@@ -128,10 +158,4 @@ inline QByteArray feed(const QString &strVersion, const QString &strDownload, co
         entry[it.key()] = it.value();
     const QJsonObject updates {{"windows", entry}};
     return QJsonDocument(QJsonObject {{"updates", updates}}).toJson();
-}
-
-inline void shortenTimeout(const QObject *pOwner, int nMs)
-{
-    for (auto *pManager : pOwner->findChildren<QNetworkAccessManager *>())
-        pManager->setTransferTimeout(nMs);
 }

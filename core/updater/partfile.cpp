@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "updater/partfile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+
+// The texts stand in the download dialog.
+struct Downloader
+{
+    Q_DECLARE_TR_FUNCTIONS(Downloader)
+};
+
+QString cannotWrite(const QString &strPath, const QString &strReason)
+{
+    return Downloader::tr("Cannot write %1: %2.").arg(PartFile::inQuotes(strPath), strReason);
+}
+
+QString hasChanged(const QString &strPath)
+{
+    return Downloader::tr("Cannot write %1: another program has changed it.")
+        .arg(PartFile::inQuotes(strPath));
+}
+
+// A full disk may take a beginning first; only the next attempt names the reason.
+bool writeAll(QFile *pFile, const QByteArray &content)
+{
+    qint64 nDone = 0;
+    while (nDone < content.size()) {
+        const qint64 nWritten = pFile->write(content.constData() + nDone, content.size() - nDone);
+        if (nWritten <= 0)
+            return false;
+        nDone += nWritten;
+    }
+    return true;
+}
+
+// Of a link only the link goes. Where the folder that holds the trash is missing, Qt 6.4 would take the
+// current folder for the trash.
+bool makeWay(const QFileInfo &old)
+{
+    if (old.isSymLink())
+        return QFile::remove(old.filePath());
+    if (!old.exists())
+        return true;
+    const QString strData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return !old.isDir() && QDir().mkpath(strData) && QFile::moveToTrash(old.filePath());
+}
+
+QString freePath(const QFileInfo &taken)
+{
+    const QString strSuffix = taken.suffix().isEmpty() ? QString() : QLatin1Char('.') + taken.suffix();
+    QString strPath;
+    for (int i = 2; strPath.isEmpty() || QFileInfo::exists(strPath); ++i)
+        strPath = QStringLiteral("%1/%2 (%3)%4")
+                      .arg(taken.path(), taken.completeBaseName(), QString::number(i), strSuffix);
+    return strPath;
+}
+
+} // namespace
+
+QString PartFile::inQuotes(const QString &strPath)
+{
+    return QLatin1Char('"') + QDir::toNativeSeparators(strPath) + QLatin1Char('"');
+}
+
+QString PartFile::create()
+{
+    const QString strFolder = QFileInfo(m_strPath).path() + QLatin1Char('/');
+    if (!QDir().mkpath(strFolder))
+        return Downloader::tr("Cannot download update: the folder %1 cannot be made.")
+            .arg(inQuotes(strFolder));
+    QFile part(partPath());
+    if ((part.exists() || QFileInfo(partPath()).isSymLink()) && !part.remove())
+        return Downloader::tr("Cannot replace %1: %2.").arg(inQuotes(partPath()), part.errorString());
+    if (!part.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return cannotWrite(partPath(), part.errorString());
+    return {};
+}
+
+QString PartFile::append(const QByteArray &data)
+{
+    QFile part(partPath());
+    const bool bOpen = part.open(QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
+    if (bOpen && part.size() != m_nSize)
+        return hasChanged(partPath());
+    if (!bOpen || !writeAll(&part, data))
+        return cannotWrite(partPath(), part.errorString());
+    m_nSize += data.size();
+    return {};
+}
+
+QString PartFile::complete()
+{
+    QFile part(partPath());
+    if (part.size() != m_nSize)
+        return hasChanged(part.fileName());
+    if (!makeWay(QFileInfo(m_strPath)))
+        m_strPath = freePath(QFileInfo(m_strPath));
+    if (part.rename(m_strPath))
+        return {};
+    return Downloader::tr("Cannot rename %1 to %2: %3.")
+        .arg(inQuotes(part.fileName()), inQuotes(m_strPath), part.errorString());
+}
