@@ -219,12 +219,13 @@ void StageDocument::tellFailure(const QString &strFile)
     if (isSavedByClose())
         return;
     const QPointer<StageDocument> pThis = this;
-    QMessageBox box(ICore::getMainWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.setText(tr("Could not save %1: %2").arg(strFile, getSaveError()));
-    box.setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
-    box.button(QMessageBox::Save)->setText(tr("Save &As..."));
-    if (IUi::run(&box, QStringLiteral("information_32"), s_title) == QMessageBox::Save && pThis)
+    const auto answer = IUi::run(nullptr, QStringLiteral("information_32"), s_title, [&](QMessageBox *pBox) {
+        pBox->setTextFormat(Qt::PlainText);
+        pBox->setText(tr("Could not save %1: %2").arg(strFile, getSaveError()));
+        pBox->setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
+        pBox->button(QMessageBox::Save)->setText(tr("Save &As..."));
+    });
+    if (answer == QMessageBox::Save && pThis)
         QMetaObject::invokeMethod(this, &StageDocument::saveElsewhere, Qt::QueuedConnection);
 }
 
