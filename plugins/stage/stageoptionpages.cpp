@@ -104,8 +104,6 @@ StageOptionPage::StageOptionPage(const QString &strTitle)
     setAccessibleName(strTitle);
 }
 
-StageOptionPage::~StageOptionPage() = default;
-
 void StageOptionPage::initValues()
 {
     m_bFilling = true;
@@ -154,8 +152,6 @@ GeneralOptionPage::GeneralOptionPage()
     connect(m_pLanguage, &QComboBox::currentIndexChanged, this, &GeneralOptionPage::markChanged);
 }
 
-GeneralOptionPage::~GeneralOptionPage() = default;
-
 void GeneralOptionPage::fill()
 {
     const QString strSaved = ILanguageManager::getInstance().getSaveLangId();
@@ -192,8 +188,6 @@ BackupOptionPage::BackupOptionPage()
         markChanged();
     });
 }
-
-BackupOptionPage::~BackupOptionPage() = default;
 
 void BackupOptionPage::fill()
 {
@@ -239,8 +233,6 @@ EditingOptionPage::EditingOptionPage()
     connect(m_pPasteSvg, &QCheckBox::toggled, this, &EditingOptionPage::markChanged);
     connect(pReset, &QPushButton::clicked, this, [this] { fillBreakpoints(true); });
 }
-
-EditingOptionPage::~EditingOptionPage() = default;
 
 QListWidget *EditingOptionPage::createList(const QString &strTitle, QWidget **ppPanel)
 {
