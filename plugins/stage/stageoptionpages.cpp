@@ -216,13 +216,8 @@ EditingOptionPage::EditingOptionPage()
 {
     m_pPasteSvg->setObjectName(QStringLiteral("pasteSvg"));
     auto *pLists = new QHBoxLayout;
-    QWidget *pPanel = nullptr;
-    m_pHorizontal = createList(tr("Horizontal breakpoints"), &pPanel);
-    m_pHorizontal->setObjectName(QStringLiteral("horizontal"));
-    pLists->addWidget(pPanel);
-    m_pVertical = createList(tr("Vertical breakpoints"), &pPanel);
-    m_pVertical->setObjectName(QStringLiteral("vertical"));
-    pLists->addWidget(pPanel);
+    m_pHorizontal = createList(pLists, tr("Horizontal breakpoints"), QStringLiteral("horizontal"));
+    m_pVertical = createList(pLists, tr("Vertical breakpoints"), QStringLiteral("vertical"));
     auto *pReset = new QPushButton(tr("Restore &Defaults"), this);
     pReset->setAccessibleName(tr("Restore the default breakpoints"));
     pReset->setAutoDefault(false);
@@ -234,10 +229,12 @@ EditingOptionPage::EditingOptionPage()
     connect(pReset, &QPushButton::clicked, this, [this] { fillBreakpoints(true); });
 }
 
-QListWidget *EditingOptionPage::createList(const QString &strTitle, QWidget **ppPanel)
+QListWidget *EditingOptionPage::createList(QLayout *pPlace, const QString &strTitle, const QString &strName)
 {
     auto *pBox = new QGroupBox(strTitle, this);
+    pPlace->addWidget(pBox);
     auto *pList = new QListWidget(pBox);
+    pList->setObjectName(strName);
     pList->setAccessibleName(tr("%1, in pixels").arg(strTitle));
     pList->setItemDelegate(new PositionDelegate(pList));
     auto *pAdd = new QPushButton(tr("Add"), pBox);
@@ -259,7 +256,6 @@ QListWidget *EditingOptionPage::createList(const QString &strTitle, QWidget **pp
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(pList->model(), signal, this, &EditingOptionPage::markChanged);
     connect(pList, &QListWidget::itemChanged, this, &EditingOptionPage::markChanged);
-    *ppPanel = pBox;
     return pList;
 }
 

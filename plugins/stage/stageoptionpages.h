@@ -77,7 +77,7 @@ public:
 private:
     void fill() override;
     void fillBreakpoints(bool bReset);
-    QListWidget *createList(const QString &strTitle, QWidget **ppPanel);
+    QListWidget *createList(QLayout *pPlace, const QString &strTitle, const QString &strName);
 
     QCheckBox *m_pPasteSvg;
     QListWidget *m_pHorizontal;
