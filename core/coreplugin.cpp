@@ -127,11 +127,6 @@ void CorePlugin::extensionsInitialized()
     tellFaults();
 }
 
-bool CorePlugin::delayedInitialize()
-{
-    return true;
-}
-
 ExtensionSystem::IPlugin::ShutdownFlag CorePlugin::aboutToShutdown()
 {
     m_pMainWindow->aboutToShutdown();

@@ -22,7 +22,7 @@ public:
 
     bool initialize(const QStringList &arguments, QString *errorString) override;
     void extensionsInitialized() override;
-    bool delayedInitialize() override;
+    bool delayedInitialize() override { return true; }
     ShutdownFlag aboutToShutdown() override;
 
     /// Raises the window, then opens `arguments` in order, relative to `workingDirectory` or, when that is

@@ -182,11 +182,6 @@ MainWindow::~MainWindow()
     delete std::exchange(m_pMdiArea, nullptr);
 }
 
-bool MainWindow::init(QString *)
-{
-    return true;
-}
-
 void MainWindow::extensionsInitialized()
 {
     show();
@@ -195,10 +190,6 @@ void MainWindow::extensionsInitialized()
     QTimer::singleShot(0, this, &MainWindow::openFilesPassedAsArguments);
     emit extsInitialized();
 }
-
-void MainWindow::aboutToShutdown() { }
-
-void MainWindow::activationChangeFiltered() { }
 
 bool MainWindow::IsFirstRun()
 {
@@ -242,16 +233,6 @@ IOptionsDlg *MainWindow::getOptionsDialog()
             m_pOptionsDlg = pFactory->createOptionsDialog();
     }
     return m_pOptionsDlg;
-}
-
-void MainWindow::setWindowFilePath(const QString &strFileName)
-{
-    emit updateWindowFilePath(strFileName);
-}
-
-void MainWindow::setWindowModified(bool bModified)
-{
-    emit updateModified(bModified);
 }
 
 void MainWindow::updateActivatedMdiSubFilePath(QMdiSubWindow *mdiSubWindow)

@@ -42,13 +42,13 @@ public:
     explicit MainWindow(QWidget *pParent);
     ~MainWindow() override;
 
-    /// Always true; `pErrorString` stays as it is.
-    bool init(QString *pErrorString);
+    /// The text of an error stays as it is.
+    bool init(QString *) { return true; }
 
     /// Shows the window, maximised on the first run, and opens the projects on the command line in the next
     /// turn of the event loop.
     void extensionsInitialized();
-    void aboutToShutdown();
+    void aboutToShutdown() { }
 
     /// Whether the user's store has no group "Designer", in any case; also without a store.
     [[nodiscard]] static bool IsFirstRun();
@@ -83,8 +83,8 @@ public:
     [[nodiscard]] IOptionsDlg *getOptionsDialog();
 
     /// These two only emit updateWindowFilePath() and updateModified(): the title bar shows them.
-    void setWindowFilePath(const QString &strFileName);
-    void setWindowModified(bool bModified);
+    void setWindowFilePath(const QString &strFileName) { emit updateWindowFilePath(strFileName); }
+    void setWindowModified(bool bModified) { emit updateModified(bModified); }
 
     /// The page to show while no editor is open; not taken over.
     void setWelcomeWidget(QWidget *pWidget);
@@ -147,7 +147,7 @@ public slots:
     void updateActivatedMdiSubFilePath(QMdiSubWindow *mdiSubWindow);
 
     /// Does nothing; plug-ins connect to it by name.
-    void activationChangeFiltered();
+    void activationChangeFiltered() { }
 
     /// The sender, a document, leaves every registry and is deleted, and its editor with it.
     void onDocumentRequestClosing(bool bDeleteLater);

@@ -23,15 +23,12 @@
 #include <QToolButton>
 #include <QUndoGroup>
 
-enum class Entry { Command, SubMenu, Separator };
-
 /// One entry of the menus, or a command without one.
 struct CommandRow
 {
     const char *pMenu; // null: in no menu
-    Entry entry;
-    const char *pId = nullptr;
-    const char *pText = nullptr;
+    const char *pId = nullptr; // null: a separator
+    const char *pText = nullptr; // null: a sub-menu
     QKeySequence::StandardKey standardKey = QKeySequence::UnknownKey;
     const char *pKeys = nullptr; // where the platform has no standard
     const char *pDescription = nullptr;
@@ -76,52 +73,45 @@ constexpr MenuRow s_menus[] = {
 
 // The id of "File.New" can be translated: plug-ins that look the command up pass it through tr() as well.
 constexpr CommandRow s_entries[] = {
-    {"MenuBar.File", Entry::Command, QT_TRANSLATE_NOOP("MainWindow", "File.New"),
-        QT_TRANSLATE_NOOP("MainWindow", "&New"), Key::New, nullptr,
-        QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true, "1fileNew()"},
-    {"MenuBar.File", Entry::Command, "File.Open_Project", QT_TRANSLATE_NOOP("MainWindow", "&Open Project"),
-        Key::Open, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Open an existing project"), "open", true,
-        "1fileOpen()"},
-    {"MenuBar.File", Entry::SubMenu, "File.Recent_Projects"},
-    {"MenuBar.File", Entry::Separator},
-    {"MenuBar.File", Entry::Command, "File.Save", QT_TRANSLATE_NOOP("MainWindow", "&Save"), Key::Save,
-        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project"), "save", false, "1fileSave()"},
-    {"File.SaveAs", Entry::Command, "File.SaveAs.Project", QT_TRANSLATE_NOOP("MainWindow", "Other Project"),
-        Key::SaveAs, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project as a new one"),
-        nullptr, false, "1fileSaveAs()"},
-    {"MenuBar.File", Entry::SubMenu, "File.SaveAs"},
-    {"MenuBar.File", Entry::Command, "File.Close", QT_TRANSLATE_NOOP("MainWindow", "&Close"), Key::Close,
-        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Close the current project"), nullptr, false,
-        "1fileClose()"},
-    {"MenuBar.File", Entry::Separator},
-    {"MenuBar.File", Entry::Command, "File.Preview_Current_Scene_In_Browser",
+    {"MenuBar.File", QT_TRANSLATE_NOOP("MainWindow", "File.New"), QT_TRANSLATE_NOOP("MainWindow", "&New"),
+        Key::New, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true,
+        "1fileNew()"},
+    {"MenuBar.File", "File.Open_Project", QT_TRANSLATE_NOOP("MainWindow", "&Open Project"), Key::Open,
+        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Open an existing project"), "open", true, "1fileOpen()"},
+    {"MenuBar.File", "File.Recent_Projects"},
+    {"MenuBar.File"},
+    {"MenuBar.File", "File.Save", QT_TRANSLATE_NOOP("MainWindow", "&Save"), Key::Save, nullptr,
+        QT_TRANSLATE_NOOP("MainWindow", "Save the current project"), "save", false, "1fileSave()"},
+    {"File.SaveAs", "File.SaveAs.Project", QT_TRANSLATE_NOOP("MainWindow", "Other Project"), Key::SaveAs,
+        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Save the current project as a new one"), nullptr, false,
+        "1fileSaveAs()"},
+    {"MenuBar.File", "File.SaveAs"},
+    {"MenuBar.File", "File.Close", QT_TRANSLATE_NOOP("MainWindow", "&Close"), Key::Close, nullptr,
+        QT_TRANSLATE_NOOP("MainWindow", "Close the current project"), nullptr, false, "1fileClose()"},
+    {"MenuBar.File"},
+    {"MenuBar.File", "File.Preview_Current_Scene_In_Browser",
         QT_TRANSLATE_NOOP("MainWindow", "Preview Current Scene in Browser"), Key::UnknownKey, "Ctrl+F5"},
-    {nullptr, Entry::Command, "File.Preview_Project",
-        QT_TRANSLATE_NOOP("MainWindow", "Preview Project in Browser")},
-    {"MenuBar.File", Entry::Command, "File.Preview_Project_In_Browser",
+    {nullptr, "File.Preview_Project", QT_TRANSLATE_NOOP("MainWindow", "Preview Project in Browser")},
+    {"MenuBar.File", "File.Preview_Project_In_Browser",
         QT_TRANSLATE_NOOP("MainWindow", "Preview Project in Browser"), Key::UnknownKey, "F5"},
-    {"MenuBar.File", Entry::Separator},
-    {"MenuBar.File", Entry::Command, "File.Export_To_HTML5",
-        QT_TRANSLATE_NOOP("MainWindow", "Export to HTML5"), Key::UnknownKey, "Ctrl+Alt+E"},
-    {"MenuBar.File", Entry::Command, "File.Export_To_Video",
-        QT_TRANSLATE_NOOP("MainWindow", "Export to Video")},
-    {"MenuBar.File", Entry::Separator},
+    {"MenuBar.File"},
+    {"MenuBar.File", "File.Export_To_HTML5", QT_TRANSLATE_NOOP("MainWindow", "Export to HTML5"),
+        Key::UnknownKey, "Ctrl+Alt+E"},
+    {"MenuBar.File", "File.Export_To_Video", QT_TRANSLATE_NOOP("MainWindow", "Export to Video")},
+    {"MenuBar.File"},
     // The same default as "File.SaveAs.Project": users of existing shortcut lists expect it here.
-    {"MenuBar.File", Entry::Command, "File.Exit", QT_TRANSLATE_NOOP("MainWindow", "E&xit"), Key::SaveAs,
-        nullptr, QT_TRANSLATE_NOOP("MainWindow", "Quit the program"), nullptr, true, "1fileExit()"},
-    {"MenuBar.Edit", Entry::Command, "Edit.Preferences", QT_TRANSLATE_NOOP("MainWindow", "&Preferences"),
-        Key::Preferences, nullptr, nullptr, "preferences", true, "1onPreferences()"},
-    {"MenuBar.View", Entry::SubMenu, "View.Language"},
-    {"MenuBar.View", Entry::SubMenu, "View.Tool_Bars"},
-    {"MenuBar.Help", Entry::Command, "Help.About", QT_TRANSLATE_NOOP("MainWindow", "About")},
-    {"MenuBar.Help", Entry::Command, "Help.Help_Contents", QT_TRANSLATE_NOOP("MainWindow", "Help Contents"),
-        Key::UnknownKey, "F1", nullptr, nullptr, true, "1onHelpContents()"},
-    {"MenuBar.Help", Entry::Command, "Help.ReportProblem",
-        QT_TRANSLATE_NOOP("MainWindow", "Report a Problem")},
-    {"MenuBar.Help", Entry::Command, "Help.ProvideSuggestion",
-        QT_TRANSLATE_NOOP("MainWindow", "Provide a Suggestion")},
-    {"MenuBar.Help", Entry::Command, "Help.CheckUpdates",
-        QT_TRANSLATE_NOOP("MainWindow", "Check Updates...")},
+    {"MenuBar.File", "File.Exit", QT_TRANSLATE_NOOP("MainWindow", "E&xit"), Key::SaveAs, nullptr,
+        QT_TRANSLATE_NOOP("MainWindow", "Quit the program"), nullptr, true, "1fileExit()"},
+    {"MenuBar.Edit", "Edit.Preferences", QT_TRANSLATE_NOOP("MainWindow", "&Preferences"), Key::Preferences,
+        nullptr, nullptr, "preferences", true, "1onPreferences()"},
+    {"MenuBar.View", "View.Language"},
+    {"MenuBar.View", "View.Tool_Bars"},
+    {"MenuBar.Help", "Help.About", QT_TRANSLATE_NOOP("MainWindow", "About")},
+    {"MenuBar.Help", "Help.Help_Contents", QT_TRANSLATE_NOOP("MainWindow", "Help Contents"), Key::UnknownKey,
+        "F1", nullptr, nullptr, true, "1onHelpContents()"},
+    {"MenuBar.Help", "Help.ReportProblem", QT_TRANSLATE_NOOP("MainWindow", "Report a Problem")},
+    {"MenuBar.Help", "Help.ProvideSuggestion", QT_TRANSLATE_NOOP("MainWindow", "Provide a Suggestion")},
+    {"MenuBar.Help", "Help.CheckUpdates", QT_TRANSLATE_NOOP("MainWindow", "Check Updates...")},
 };
 
 constexpr const char *s_fileToolbar[] = {"File.New", "File.Open_Project", "File.Save", nullptr,
@@ -152,12 +142,12 @@ void MainWindow::initActions()
     createRecentCommands();
     for (const CommandRow &row : s_entries) {
         ActionContainer *pMenu = ActionManager::getActionContainer(QLatin1String(row.pMenu));
-        if (row.entry == Entry::Command)
-            createCommand(row);
-        else if (row.entry == Entry::SubMenu)
+        if (!row.pId)
+            pMenu->insertSeparator(static_cast<ContextAction *>(nullptr));
+        else if (!row.pText)
             insertSubMenu(QLatin1String(row.pId), pMenu);
         else
-            pMenu->insertSeparator(static_cast<ContextAction *>(nullptr));
+            createCommand(row);
     }
     ActionManager::getActionContainer(s_saveAsMenu)->getMenu()->setEnabled(false);
     connect(DocumentManager::getUndoGroup(), &QUndoGroup::cleanChanged, this,
@@ -220,7 +210,6 @@ void MainWindow::createLanguageMenu(ActionContainer *pViewMenu)
     pViewMenu->insertMenu(pContainer);
 
     auto *pGroup = new QActionGroup(this);
-    pGroup->setExclusive(true);
     const QString strCurrent = ILanguageManager::getInstance().getCurrentLangId();
     QAction *pFallback = nullptr;
     for (const LanguageInfo *pInfo : ILanguageManager::getInstance().getLanguages()) {

@@ -93,35 +93,6 @@ QList<PluginError> CommandLine::addPluginOptions(const QList<PluginRecord> &reco
     return clashes;
 }
 
-bool CommandLine::parse()
-{
-    return m_parser.parse(m_line);
-}
-QString CommandLine::errorText() const
-{
-    return m_parser.errorText();
-}
-QString CommandLine::helpText() const
-{
-    return m_parser.helpText();
-}
-bool CommandLine::wantsVersion() const
-{
-    return m_parser.isSet(QStringLiteral("version"));
-}
-bool CommandLine::wantsHelp() const
-{
-    return m_parser.isSet(QStringLiteral("help"));
-}
-bool CommandLine::wantsProfile() const
-{
-    return m_parser.isSet(QStringLiteral("profile"));
-}
-bool CommandLine::wantsNewInstance() const
-{
-    return m_parser.isSet(QStringLiteral("new-instance"));
-}
-
 QStringList CommandLine::pluginFolders() const
 {
     QStringList folders = absolute(m_parser.values(QStringLiteral("plugin-path")));
@@ -169,10 +140,6 @@ QStringList CommandLine::pluginOptions(const QString &strPlugin) const
     return options;
 }
 
-QStringList CommandLine::rawArguments() const
-{
-    return m_parser.positionalArguments();
-}
 QStringList CommandLine::absoluteArguments() const
 {
     return absolute(rawArguments());

@@ -27,14 +27,14 @@ public:
     QList<PluginError> addPluginOptions(const QList<PluginRecord> &records);
 
     /// False: there is an option nobody knows, or one without its value; errorText() tells.
-    [[nodiscard]] bool parse();
-    [[nodiscard]] QString errorText() const;
-    [[nodiscard]] QString helpText() const;
+    [[nodiscard]] bool parse() { return m_parser.parse(m_line); }
+    [[nodiscard]] QString errorText() const { return m_parser.errorText(); }
+    [[nodiscard]] QString helpText() const { return m_parser.helpText(); }
 
-    [[nodiscard]] bool wantsVersion() const;
-    [[nodiscard]] bool wantsHelp() const;
-    [[nodiscard]] bool wantsProfile() const;
-    [[nodiscard]] bool wantsNewInstance() const;
+    [[nodiscard]] bool wantsVersion() const { return m_parser.isSet(QStringLiteral("version")); }
+    [[nodiscard]] bool wantsHelp() const { return m_parser.isSet(QStringLiteral("help")); }
+    [[nodiscard]] bool wantsProfile() const { return m_parser.isSet(QStringLiteral("profile")); }
+    [[nodiscard]] bool wantsNewInstance() const { return m_parser.isSet(QStringLiteral("new-instance")); }
 
     /// Folders to search, absolute; those given come before the program's own, so that they win.
     [[nodiscard]] QStringList pluginFolders() const;
@@ -50,7 +50,7 @@ public:
     [[nodiscard]] QStringList pluginOptions(const QString &strPlugin = QString()) const;
 
     /// The free arguments as they were typed, and made absolute.
-    [[nodiscard]] QStringList rawArguments() const;
+    [[nodiscard]] QStringList rawArguments() const { return m_parser.positionalArguments(); }
     [[nodiscard]] QStringList absoluteArguments() const;
 
 private:

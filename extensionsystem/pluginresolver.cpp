@@ -52,7 +52,6 @@ private:
     [[nodiscard]] QList<int> requiredOf(int nRecord) const;
     void spreadFailures();
     void sort();
-    void connectRequired(QList<QSet<int>> &edges) const;
     void connectOptional(QList<QSet<int>> &edges) const;
 
     [[nodiscard]] PluginVerdict &verdict(int n) { return m_result.verdicts[n]; }
@@ -235,16 +234,6 @@ void Resolver::spreadFailures()
     }
 }
 
-void Resolver::connectRequired(QList<QSet<int>> &edges) const
-{
-    for (int i = 0; i < m_specs.size(); ++i) {
-        if (!isUsed(i))
-            continue;
-        for (const int nNeeded : m_result.verdicts.at(i).required)
-            edges[i].insert(nNeeded);
-    }
-}
-
 // Adds the optional dependencies, one after the other, that can be had and close no circle.
 void Resolver::connectOptional(QList<QSet<int>> &edges) const
 {
@@ -282,7 +271,10 @@ void Resolver::connectOptional(QList<QSet<int>> &edges) const
 void Resolver::sort()
 {
     QList<QSet<int>> edges(m_specs.size());
-    connectRequired(edges);
+    for (int i = 0; i < m_specs.size(); ++i) {
+        if (isUsed(i))
+            edges[i] = {verdict(i).required.cbegin(), verdict(i).required.cend()};
+    }
     connectOptional(edges);
 
     QList<QList<int>> dependents(m_specs.size());

@@ -49,7 +49,6 @@ struct PluginRunner::Private
     }
 
     void resolve(const QList<PluginRecord> &records, const PluginSelection &selection);
-    void noteUnknown(const QStringList &names);
     PluginError note(int n, PluginPhase phase, const QString &strReason);
     void fail(int n, PluginPhase phase, const QString &strReason);
     [[nodiscard]] bool followFailure(int n, PluginPhase phase);
@@ -70,7 +69,7 @@ struct PluginRunner::Private
         return pObject || !strThrown.isEmpty() ? strThrown : QStringLiteral("its object was deleted");
     }
 
-    bool constructAll();
+    bool takeOn(const QList<int> &records, PluginPhase phase, void (Private::*step)(int));
     void construct(int n);
     bool initializeAll();
     void initialize(int n);
@@ -172,12 +171,7 @@ void PluginRunner::Private::resolve(const QList<PluginRecord> &records, const Pl
             fail(
                 i, specs.at(i).problems.isEmpty() ? PluginPhase::Resolve : PluginPhase::Read, verdict.reason);
     }
-    noteUnknown(resolution.unknown);
-}
-
-void PluginRunner::Private::noteUnknown(const QStringList &names)
-{
-    for (const QString &strName : names)
+    for (const QString &strName : resolution.unknown)
         errors.append({strName, QString(), PluginPhase::Resolve,
             QStringLiteral("named on the command line, but there is no such plug-in")});
 }
@@ -226,7 +220,8 @@ QList<int> PluginRunner::Private::inState(PluginState state) const
 
 bool PluginRunner::start(int nLateWorkMs)
 {
-    if (!d->requiredFailure && d->constructAll() && d->initializeAll() && d->extensionsInitializedAll()) {
+    if (!d->requiredFailure && d->takeOn(d->order, PluginPhase::Load, &Private::construct)
+        && d->initializeAll() && d->extensionsInitializedAll()) {
         d->delayed = d->inState(PluginState::Running);
         d->turn.start(nLateWorkMs);
         return true;
@@ -246,15 +241,16 @@ void PluginRunner::setLateWorkLimit(int nMs)
     d->nLateLimitMs = nMs;
 }
 
-bool PluginRunner::Private::constructAll()
+// One step of the start for all of them; false when the start is over.
+bool PluginRunner::Private::takeOn(const QList<int> &records, PluginPhase phase, void (Private::*step)(int))
 {
-    for (const int n : std::as_const(order)) {
-        if (!followFailure(n, PluginPhase::Load))
-            construct(n);
+    for (const int n : records) {
+        if (!followFailure(n, phase))
+            (this->*step)(n);
         if (requiredFailure)
-            break;
+            return false;
     }
-    return !requiredFailure;
+    return true;
 }
 
 void PluginRunner::Private::construct(int n)
@@ -271,16 +267,10 @@ void PluginRunner::Private::construct(int n)
 
 bool PluginRunner::Private::initializeAll()
 {
-    const QList<int> records = inState(PluginState::Constructed);
-    for (const int n : records) {
-        if (!followFailure(n, PluginPhase::Initialize))
-            initialize(n);
-        if (requiredFailure)
-            break;
-    }
-    if (!requiredFailure) // else all go together, in good order
-        destroy(inState(PluginState::Failed));
-    return !requiredFailure;
+    if (!takeOn(inState(PluginState::Constructed), PluginPhase::Initialize, &Private::initialize))
+        return false; // all go together, in good order
+    destroy(inState(PluginState::Failed));
+    return true;
 }
 
 void PluginRunner::Private::initialize(int n)

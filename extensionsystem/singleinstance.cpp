@@ -106,16 +106,12 @@ SingleInstance::Role SingleInstance::claim(const RemoteCommand &command)
         const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
         if (const auto role = listenUnlessConnected(socket, remaining()))
             return *role;
-        switch (deliver(socket, message, remaining())) {
-        case Delivery::Received:
+        const Delivery delivery = deliver(socket, message, remaining());
+        if (delivery == Delivery::Received)
             return Role::HandedOver;
-        case Delivery::PeerGone:
-            QThread::msleep(s_nPauseMs); // it ended before it had the message: take its place
-            continue;
-        case Delivery::Silent:
+        if (delivery == Delivery::Silent)
             break;
-        }
-        break;
+        QThread::msleep(s_nPauseMs); // it ended before it had the message: take its place
     }
     return alone(tr("The running instance does not answer; another one is started."));
 }
@@ -126,27 +122,14 @@ std::optional<SingleInstance::Role> SingleInstance::listenUnlessConnected(QLocal
     QLockFile lock(m_strLockFile);
     if (!lock.tryLock(nMs))
         return alone(tr("The lock file %1 cannot be had; another instance is started.").arg(m_strLockFile));
-    switch (connectTo(socket, nMs)) {
-    case Connection::Made:
-        return std::nullopt;
-    case Connection::NobodyThere:
-        return listen();
-    case Connection::Failed:
-        break;
-    }
-    return alone(
-        tr("The running instance cannot be reached (%1); another one is started.").arg(socket.errorString()));
-}
-
-SingleInstance::Connection SingleInstance::connectTo(QLocalSocket &socket, int nMs)
-{
     socket.connectToServer(m_strName);
     if (socket.waitForConnected(nMs))
-        return Connection::Made;
+        return std::nullopt;
     const auto error = socket.error();
-    return error == QLocalSocket::ServerNotFoundError || error == QLocalSocket::ConnectionRefusedError
-        ? Connection::NobodyThere
-        : Connection::Failed;
+    if (error == QLocalSocket::ServerNotFoundError || error == QLocalSocket::ConnectionRefusedError)
+        return listen();
+    return alone(
+        tr("The running instance cannot be reached (%1); another one is started.").arg(socket.errorString()));
 }
 
 SingleInstance::Delivery SingleInstance::deliver(QLocalSocket &socket, const QByteArray &message, int nMs)

@@ -63,10 +63,8 @@ signals:
     void commandReceived(const ExtensionSystem::RemoteCommand &command);
 
 private:
-    enum class Connection { Made, NobodyThere, Failed };
     enum class Delivery { Received, PeerGone, Silent };
 
-    [[nodiscard]] Connection connectTo(QLocalSocket &socket, int nMs);
     [[nodiscard]] std::optional<Role> listenUnlessConnected(QLocalSocket &socket, int nMs);
     [[nodiscard]] static Delivery deliver(QLocalSocket &socket, const QByteArray &message, int nMs);
     [[nodiscard]] Role listen();

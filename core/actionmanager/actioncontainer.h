@@ -11,6 +11,7 @@ class ContextAction;
 class QAction;
 class QMenu;
 class QMenuBar;
+class QWidget;
 
 /// A menu or a menu bar that is filled with commands and sub-menus. ActionManager makes it and knows it by
 /// its id until it is deleted. Commands and sub-containers are not owned and may go first; nor is the widget.
@@ -27,12 +28,12 @@ public:
     ~ActionContainer() override;
 
     // Plug-ins build on the order of the virtual functions.
-    virtual void setMenu(QMenu *pMenu);
-    virtual void setMenuBar(QMenuBar *pMenuBar);
+    virtual void setMenu(QMenu *) { }
+    virtual void setMenuBar(QMenuBar *) { }
     /// Null for a menu bar.
-    [[nodiscard]] virtual QMenu *getMenu() const;
+    [[nodiscard]] virtual QMenu *getMenu() const { return nullptr; }
     /// Null for a menu.
-    [[nodiscard]] virtual QMenuBar *getMenuBar() const;
+    [[nodiscard]] virtual QMenuBar *getMenuBar() const { return nullptr; }
 
 protected:
     virtual void insertAction(QAction *pBefore, QAction *pAction);
@@ -79,6 +80,7 @@ private slots:
 
 private:
     void update() { }
+    [[nodiscard]] QWidget *shownIn() const;
     void insertMenuBefore(ActionContainer *pMenu, QAction *pBefore);
     ContextAction *insertSeparatorBefore(QAction *pBefore, QAction **ppSeparator);
 
@@ -94,18 +96,11 @@ class CORE_EXPORT MenuActionContainer : public ActionContainer
 public:
     explicit MenuActionContainer(const QString &strId);
 
-    using ActionContainer::insertAction;
-    using ActionContainer::insertMenu;
-
     void setMenu(QMenu *pMenu) override;
     [[nodiscard]] QMenu *getMenu() const override;
 
 protected:
     bool updateInternal() override;
-    void insertAction(QAction *pBefore, QAction *pAction) override;
-    void insertMenu(QAction *pBefore, QMenu *pMenu) override;
-    void removeMenu(QMenu *pMenu) override;
-    void removeAction(QAction *pAction) override;
 
 private:
     QPointer<QMenu> m_pMenu;
@@ -119,18 +114,11 @@ class CORE_EXPORT MenuBarActionContainer : public ActionContainer
 public:
     explicit MenuBarActionContainer(const QString &strId);
 
-    using ActionContainer::insertAction;
-    using ActionContainer::insertMenu;
-
     void setMenuBar(QMenuBar *pMenuBar) override;
     [[nodiscard]] QMenuBar *getMenuBar() const override;
 
 protected:
-    bool updateInternal() override;
-    void insertAction(QAction *pBefore, QAction *pAction) override;
-    void insertMenu(QAction *pBefore, QMenu *pMenu) override;
-    void removeMenu(QMenu *pMenu) override;
-    void removeAction(QAction *pAction) override;
+    bool updateInternal() override { return true; }
 
 private:
     QPointer<QMenuBar> m_pMenuBar;

@@ -115,25 +115,6 @@ void ContextAction::setCurrentContext(QWidget *pContext)
         updateActiveState();
 }
 
-bool ContextAction::hasAttribute(ActionAttribute) const
-{
-    return true;
-}
-
-void ContextAction::setAttribute(ActionAttribute) { }
-
-void ContextAction::removeAttribute(ActionAttribute) { }
-
-bool ContextAction::isScriptable(const QString &) const
-{
-    return true;
-}
-
-QString ContextAction::stringWithAppendedShortcut(const QString &) const
-{
-    return {};
-}
-
 void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool bScriptable)
 {
     const QPointer<ContextAction> pThis = this; // a listener may drop the command

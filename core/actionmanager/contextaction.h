@@ -56,15 +56,15 @@ public:
 
     /// Plug-ins ask these and rely on the answers as they are: attributes and scriptability are taken but
     /// never consulted, and every command calls itself active. Listen to activeStateChanged() instead.
-    [[nodiscard]] bool hasAttribute(ActionAttribute attribute) const;
-    void setAttribute(ActionAttribute attribute);
-    void removeAttribute(ActionAttribute attribute);
+    [[nodiscard]] bool hasAttribute(ActionAttribute) const { return true; }
+    void setAttribute(ActionAttribute) { }
+    void removeAttribute(ActionAttribute) { }
     [[nodiscard]] bool isActive() const { return true; }
     [[nodiscard]] bool isScriptable() const { return true; }
-    [[nodiscard]] bool isScriptable(const QString &strContext) const;
+    [[nodiscard]] bool isScriptable(const QString &) const { return true; }
 
     /// Always empty, which plug-ins rely on; ProxyAction has the one that works.
-    [[nodiscard]] QString stringWithAppendedShortcut(const QString &strText) const;
+    [[nodiscard]] QString stringWithAppendedShortcut(const QString &) const { return {}; }
 
 signals:
     /// The proxy came to be, or ceased to be, enabled, visible and no separator.

@@ -79,48 +79,45 @@ bool ContextManager::isGlobalContext(const Context &context)
 
 Context ContextManager::getActiveContext(QWidget *pWidget)
 {
-    for (QWidget *p = s_pInstance ? pWidget : nullptr; p; p = p->parentWidget()) {
-        if (const Context *pContext = s_pInstance->firstOf(p))
-            return *pContext;
+    for (QWidget *p = pWidget; p; p = p->parentWidget()) {
+        if (const Context context = firstOf(p); context.widget)
+            return context;
     }
     return getGlobalContext();
 }
 
 QString ContextManager::getContextId(QWidget *pWidget)
 {
-    const Context *pContext = s_pInstance ? s_pInstance->firstOf(pWidget) : nullptr;
-    return pContext ? pContext->id : QString();
+    return firstOf(pWidget).id;
 }
 
 QString ContextManager::getContextName(QWidget *pWidget)
 {
-    const Context *pContext = s_pInstance ? s_pInstance->firstOf(pWidget) : nullptr;
-    return pContext ? pContext->name : QString();
+    return firstOf(pWidget).name;
 }
 
 QString ContextManager::getContextName(const QString &strId)
 {
-    const Context *pContext = s_pInstance ? s_pInstance->firstOf(strId) : nullptr;
-    return pContext ? pContext->name : QString();
+    return firstOf(strId).name;
 }
 
 QWidget *ContextManager::getContextWidget(const QString &strId)
 {
-    const Context *pContext = s_pInstance ? s_pInstance->firstOf(strId) : nullptr;
-    return pContext ? pContext->widget : nullptr;
+    return firstOf(strId).widget;
 }
 
-const Context *ContextManager::firstOf(QWidget *pWidget) const
+Context ContextManager::firstOf(QWidget *pWidget)
 {
-    const qsizetype nIndex = m_firstIndex.value(pWidget, -1);
-    return nIndex < 0 ? nullptr : &m_contexts.at(nIndex);
+    const qsizetype nIndex = s_pInstance ? s_pInstance->m_firstIndex.value(pWidget, -1) : -1;
+    return nIndex < 0 ? Context() : s_pInstance->m_contexts.at(nIndex);
 }
 
-const Context *ContextManager::firstOf(const QString &strId) const
+Context ContextManager::firstOf(const QString &strId)
 {
+    const auto contexts = getContexts();
     const auto it = std::find_if(
-        m_contexts.begin(), m_contexts.end(), [&](const Context &context) { return context.id == strId; });
-    return it == m_contexts.end() ? nullptr : &*it;
+        contexts.begin(), contexts.end(), [&](const Context &context) { return context.id == strId; });
+    return it == contexts.end() ? Context() : *it;
 }
 
 qsizetype ContextManager::indexOf(QWidget *pWidget, const QString &strId) const

@@ -50,8 +50,8 @@ public:
     [[nodiscard]] static QWidget *getContextWidget(const QString &strId);
 
 private:
-    [[nodiscard]] const Context *firstOf(QWidget *pWidget) const;
-    [[nodiscard]] const Context *firstOf(const QString &strId) const;
+    [[nodiscard]] static Context firstOf(QWidget *pWidget);
+    [[nodiscard]] static Context firstOf(const QString &strId);
     [[nodiscard]] qsizetype indexOf(QWidget *pWidget, const QString &strId) const;
 
     QList<Context> m_contexts;

@@ -71,12 +71,6 @@ DocumentManager *DocumentManager::getInstance()
     return s_pInstance;
 }
 
-void DocumentManager::setSettings(QSettings *pSettings)
-{
-    if (s_pInstance)
-        s_pInstance->m_pSettings = pSettings;
-}
-
 void DocumentManager::addDocument(IDocument *pDocument)
 {
     if (!s_pInstance || !pDocument || s_pInstance->m_documents.contains(pDocument))
@@ -115,66 +109,6 @@ const QList<IDocument *> &DocumentManager::getDocuments()
 {
     static const QList<IDocument *> s_none;
     return s_pInstance ? s_pInstance->m_documents : s_none;
-}
-
-QUndoGroup *DocumentManager::getUndoGroup()
-{
-    return s_pInstance ? s_pInstance->m_pUndoGroup : nullptr;
-}
-
-bool DocumentManager::isAutobackupEnabled()
-{
-    return s_pInstance && s_pInstance->m_bAutoBackupEnabled;
-}
-
-void DocumentManager::setAutoBackupEnabled(bool bEnabled)
-{
-    if (s_pInstance)
-        s_pInstance->m_bAutoBackupEnabled = bEnabled;
-}
-
-int DocumentManager::getAutobackupTimeout()
-{
-    return s_pInstance ? s_pInstance->m_nAutoBackupInterval : 0;
-}
-
-void DocumentManager::setAutobackupTimeout(int nSeconds)
-{
-    if (s_pInstance)
-        s_pInstance->m_nAutoBackupInterval = nSeconds;
-}
-
-bool DocumentManager::isPasteSvgAsFreeform()
-{
-    return s_pInstance && s_pInstance->m_bPasteSvgAsFreeform;
-}
-
-void DocumentManager::setPasteSvgAsFreeform(bool bFreeform)
-{
-    if (s_pInstance)
-        s_pInstance->m_bPasteSvgAsFreeform = bFreeform;
-}
-
-DocumentManager::Breakpoints DocumentManager::getHBreakpoints()
-{
-    return s_pInstance ? s_pInstance->m_hBreakpoints : Breakpoints();
-}
-
-void DocumentManager::setHBreakpoints(const Breakpoints &breakpoints)
-{
-    if (s_pInstance)
-        s_pInstance->m_hBreakpoints = breakpoints;
-}
-
-DocumentManager::Breakpoints DocumentManager::getVBreakpoints()
-{
-    return s_pInstance ? s_pInstance->m_vBreakpoints : Breakpoints();
-}
-
-void DocumentManager::setVBreakpoints(const Breakpoints &breakpoints)
-{
-    if (s_pInstance)
-        s_pInstance->m_vBreakpoints = breakpoints;
 }
 
 void DocumentManager::initBreakpoints(Breakpoints &horizontal, Breakpoints &vertical, bool bReset)

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] static DocumentManager *getInstance();
 
     /// The store of readSettings() and saveSettings(); not owned.
-    static void setSettings(QSettings *pSettings);
+    static void setSettings(QSettings *pSettings) { set(&DocumentManager::m_pSettings, pSettings); }
 
     /// Null and listed documents are ignored. The backup timer is made but not started.
     static void addDocument(IDocument *pDocument);
@@ -43,23 +43,32 @@ public:
     [[nodiscard]] static const QList<IDocument *> &getDocuments();
 
     /// Null without a manager.
-    [[nodiscard]] static QUndoGroup *getUndoGroup();
+    [[nodiscard]] static QUndoGroup *getUndoGroup() { return get(&DocumentManager::m_pUndoGroup); }
 
     /// A preference that the manager itself does not consult: ask before startWaitingBackup().
-    [[nodiscard]] static bool isAutobackupEnabled();
-    static void setAutoBackupEnabled(bool bEnabled);
+    [[nodiscard]] static bool isAutobackupEnabled() { return get(&DocumentManager::m_bAutoBackupEnabled); }
+    static void setAutoBackupEnabled(bool bEnabled) { set(&DocumentManager::m_bAutoBackupEnabled, bEnabled); }
 
     /// Seconds.
-    [[nodiscard]] static int getAutobackupTimeout();
-    static void setAutobackupTimeout(int nSeconds);
+    [[nodiscard]] static int getAutobackupTimeout() { return get(&DocumentManager::m_nAutoBackupInterval); }
+    static void setAutobackupTimeout(int nSeconds) { set(&DocumentManager::m_nAutoBackupInterval, nSeconds); }
 
-    [[nodiscard]] static bool isPasteSvgAsFreeform();
-    static void setPasteSvgAsFreeform(bool bFreeform);
+    [[nodiscard]] static bool isPasteSvgAsFreeform() { return get(&DocumentManager::m_bPasteSvgAsFreeform); }
+    static void setPasteSvgAsFreeform(bool bFreeform)
+    {
+        set(&DocumentManager::m_bPasteSvgAsFreeform, bFreeform);
+    }
 
-    [[nodiscard]] static Breakpoints getHBreakpoints();
-    static void setHBreakpoints(const Breakpoints &breakpoints);
-    [[nodiscard]] static Breakpoints getVBreakpoints();
-    static void setVBreakpoints(const Breakpoints &breakpoints);
+    [[nodiscard]] static Breakpoints getHBreakpoints() { return get(&DocumentManager::m_hBreakpoints); }
+    static void setHBreakpoints(const Breakpoints &breakpoints)
+    {
+        set(&DocumentManager::m_hBreakpoints, breakpoints);
+    }
+    [[nodiscard]] static Breakpoints getVBreakpoints() { return get(&DocumentManager::m_vBreakpoints); }
+    static void setVBreakpoints(const Breakpoints &breakpoints)
+    {
+        set(&DocumentManager::m_vBreakpoints, breakpoints);
+    }
 
     /// The stored lists, or the built-in ones when nothing is stored or with `bReset`; the stored lists stay
     /// as they are.
@@ -78,6 +87,20 @@ private slots:
     void onScheduleBackup();
 
 private:
+    // Without a manager a preference is false, 0 or empty, and is not kept.
+    template <typename Value>
+    [[nodiscard]] static Value get(Value DocumentManager::*pField)
+    {
+        return getInstance() ? getInstance()->*pField : Value();
+    }
+
+    template <typename Value>
+    static void set(Value DocumentManager::*pField, const Value &value)
+    {
+        if (getInstance())
+            getInstance()->*pField = value;
+    }
+
     [[nodiscard]] int backupWaitMs() const;
     [[nodiscard]] QTimer *timerOf(const IDocument *pDocument) const;
 

@@ -25,13 +25,6 @@ bool IDocument::isModified() const
     return (m_pUndoStack && !m_pUndoStack->isClean()) || isTempDocument();
 }
 
-void IDocument::cleanTempDir() { }
-
-bool IDocument::isTempDocument() const
-{
-    return m_bTempDocument;
-}
-
 bool IDocument::open()
 {
     emit aboutToOpen();
@@ -88,33 +81,6 @@ bool IDocument::saveTempBeforeClose()
     IRecentFilesManager::getInstance()->removeFile(strOldName);
     IRecentFilesManager::getInstance()->addFile(m_strFileName);
     return true;
-}
-
-bool IDocument::save(const QString &)
-{
-    return true;
-}
-
-bool IDocument::save()
-{
-    return true;
-}
-
-bool IDocument::saveAs()
-{
-    return true;
-}
-
-bool IDocument::revert()
-{
-    return true;
-}
-
-void IDocument::submitCommand(QUndoCommand *) { }
-
-bool IDocument::saveBackup()
-{
-    return false;
 }
 
 void IDocument::setFileName(const QString &strFileName)

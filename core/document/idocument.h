@@ -27,14 +27,14 @@ public:
     [[nodiscard]] virtual bool isModified() const;
 
     /// Called before a temporary document is deleted: remove its working files.
-    virtual void cleanTempDir();
+    virtual void cleanTempDir() { }
 
     /// Fills a new document with what the new-project dialog gave: its three integers and its flag, passed
     /// through as they are. The file name is already set. False: nothing is opened.
     virtual bool createContent(int nFirst, int nSecond, int nThird, bool bFlag) = 0;
 
     /// True for a document that has no file of its own yet.
-    [[nodiscard]] virtual bool isTempDocument() const;
+    [[nodiscard]] virtual bool isTempDocument() const { return m_bTempDocument; }
 
     /// Reads the file getFileName(). On failure the document has told the user why and returns false.
     virtual bool open();
@@ -43,17 +43,16 @@ public:
     /// emitted); false: it stays open, unchanged.
     virtual bool close();
 
-    virtual bool save(const QString &strFileName);
-    virtual bool save();
-    virtual bool saveAs();
-    virtual bool revert();
+    virtual bool save(const QString &) { return true; }
+    virtual bool save() { return true; }
+    virtual bool saveAs() { return true; }
+    virtual bool revert() { return true; }
 
-    /// A document pushes the command on its undo stack and takes it over. The base does nothing.
-    virtual void submitCommand(QUndoCommand *pCommand);
+    /// A document pushes the command on its undo stack and takes it over.
+    virtual void submitCommand(QUndoCommand *) { }
 
-    /// A document writes a backup copy if one is due, at any time it is called. False: none was taken, as
-    /// always by the base.
-    virtual bool saveBackup();
+    /// A document writes a backup copy if one is due, at any time it is called. False: none was taken.
+    virtual bool saveBackup() { return false; }
 
     [[nodiscard]] QString getFileName() const { return m_strFileName; }
 

@@ -144,8 +144,6 @@ IMainMenuWidget::IMainMenuWidget(MainWindow *pParent, const QString &strTitle, c
     connect(pParent, &MainWindow::dpiChanged, this, &IMainMenuWidget::onDPIChanged);
 }
 
-IMainMenuWidget::~IMainMenuWidget() = default;
-
 void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
 {
     m_pMenuBar = pMenuBar;
@@ -183,7 +181,7 @@ void IMainMenuWidget::createButtons()
     };
     // The odd name of the first is what style sheets and plug-ins know.
     add("minizeButton", [this] { showMinimized(); });
-    add("maximizeButton", [this] { toggleMaximized(); });
+    add("maximizeButton", [this] { window()->isMaximized() ? showNormal() : showMaximized(); });
     add("closeButton", [this] { close(); });
     m_pMenuBar->setCornerWidget(pCorner, Qt::TopRightCorner);
 }
@@ -246,10 +244,8 @@ void IMainMenuWidget::changeEvent(QEvent *pEvent)
 
 void IMainMenuWidget::updateMaximized(bool bIsMaximized)
 {
-    if (bIsMaximized)
-        dressButton("maximizeButton", tr("Restore Down"), QStringLiteral("restore"));
-    else
-        dressButton("maximizeButton", tr("Maximize"), QStringLiteral("maximize"));
+    dressButton("maximizeButton", bIsMaximized ? tr("Restore Down") : tr("Maximize"),
+        bIsMaximized ? QStringLiteral("restore") : QStringLiteral("maximize"));
 }
 
 void IMainMenuWidget::dressButton(const char *pName, const QString &strToolTip, const QString &strIcon)
@@ -282,34 +278,6 @@ void IMainMenuWidget::onDPIChanged()
         m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
 }
 
-void IMainMenuWidget::showMinimized()
-{
-    window()->showMinimized();
-}
-
-void IMainMenuWidget::showMaximized()
-{
-    window()->showMaximized();
-}
-
-void IMainMenuWidget::showNormal()
-{
-    window()->showNormal();
-}
-
-bool IMainMenuWidget::close()
-{
-    return window()->close();
-}
-
-void IMainMenuWidget::toggleMaximized()
-{
-    if (window()->isMaximized())
-        showNormal();
-    else
-        showMaximized();
-}
-
 // What lies beside the menu titles is as high as they are: styles paint a line under each title and under the
 // rest of the row, which is one line only if the titles fill the row.
 int IMainMenuWidget::menuTitleHeight() const
@@ -321,18 +289,11 @@ int IMainMenuWidget::menuTitleHeight() const
     return m_pMenuBar->style()->sizeFromContents(QStyle::CT_MenuBarItem, &option, text, m_pMenuBar).height();
 }
 
-int IMainMenuWidget::stripHeight() const
-{
-    QStyleOptionTitleBar option;
-    option.initFrom(this);
-    return style()->pixelMetric(QStyle::PM_TitleBarHeight, &option, this);
-}
-
 QStyleOptionTitleBar IMainMenuWidget::titleBarOption() const
 {
     QStyleOptionTitleBar option;
     option.initFrom(this);
-    option.rect = QRect(0, 0, width(), stripHeight());
+    option.rect = QRect(0, 0, width(), style()->pixelMetric(QStyle::PM_TitleBarHeight, &option, this));
     option.titleBarState = static_cast<int>(window()->windowState());
     if (isActiveWindow())
         option.titleBarState |= QStyle::State_Active;

@@ -26,7 +26,6 @@ class CORE_EXPORT IMainMenuWidget : public QWidget
 
 public:
     IMainMenuWidget(MainWindow *pParent, const QString &strTitle, const QIcon &icon);
-    ~IMainMenuWidget() override;
 
     /// Takes the menu bar over and puts icon and window buttons into its corners. To be called once.
     void setMenuBar(QMenuBar *pMenuBar);
@@ -44,10 +43,10 @@ public slots:
     void updateMaximized(bool bIsMaximized);
 
     /// These act on the top-level window.
-    void showMinimized();
-    void showMaximized();
-    void showNormal();
-    bool close();
+    void showMinimized() { window()->showMinimized(); }
+    void showMaximized() { window()->showMaximized(); }
+    void showNormal() { window()->showNormal(); }
+    bool close() { return window()->close(); }
 
     /// Loads the icons again, and fits the row to them.
     void onDPIChanged();
@@ -68,13 +67,11 @@ private:
     void createButtons();
     void createShortcuts();
     void dressButton(const char *pName, const QString &strToolTip, const QString &strIcon);
-    void toggleMaximized();
     void openFirstMenu();
     void openWindowMenu(const QPoint &globalPosition, bool bByKeyboard);
     bool passMouseEvent(QMouseEvent *pEvent);
     void drawTitle(QStylePainter &painter, const QStyleOptionTitleBar &option) const;
     [[nodiscard]] int menuTitleHeight() const;
-    [[nodiscard]] int stripHeight() const;
     [[nodiscard]] QStyleOptionTitleBar titleBarOption() const;
 
     QVBoxLayout *m_pLayout;

@@ -19,18 +19,18 @@ public:
     ~IOptionPage() override;
 
     /// Whether the page holds edits that are not saved.
-    [[nodiscard]] virtual bool isChanged();
+    [[nodiscard]] virtual bool isChanged() { return m_bChanged; }
 
     /// Marks the page as changed, whatever the argument: pages clear the mark only through saveChanges() and
     /// discardChanges(), and existing ones pass either value.
-    virtual void setChanged(bool bChanged);
+    virtual void setChanged(bool) { m_bChanged = true; }
 
-    virtual void initValues();
-    virtual void saveChanges();
-    virtual void discardChanges();
+    virtual void initValues() { m_bConfigInitialized = true; }
+    virtual void saveChanges() { m_bChanged = false; }
+    virtual void discardChanges() { m_bChanged = false; }
 
     /// The next showing fills the controls again.
-    virtual void setNeedInitConfig2UI();
+    virtual void setNeedInitConfig2UI() { m_bConfigInitialized = false; }
 
 signals:
     void dataChanged();

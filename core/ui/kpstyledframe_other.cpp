@@ -68,15 +68,10 @@ struct KPStyledFrameHelper::Private::Native : public QObject
     bool bTitlePressed = false;
 };
 
-KPStyledFrameHelper::Private::Private(KPStyledFrameHelper *pOwner, QWidget *pFrame)
-    : pWidget(pFrame)
-    , nLogicalDpi(pFrame->logicalDpiY())
-    , pHelper(pOwner)
-    , pNative(new Native(*this))
+std::shared_ptr<KPStyledFrameHelper::Private::Native> KPStyledFrameHelper::Private::makeNative()
 {
+    return std::make_shared<Native>(*this);
 }
-
-KPStyledFrameHelper::Private::~Private() = default;
 
 void KPStyledFrameHelper::Private::setUp()
 {

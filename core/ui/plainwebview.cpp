@@ -45,12 +45,6 @@ void PlainWebView::setHtml(const QString &strHtml)
     finishLater(true);
 }
 
-// The program's fonts already follow the display scale.
-void PlainWebView::setZoomFactor(double) { }
-
-// No script runs here.
-void PlainWebView::setPageData(const QJsonObject &) { }
-
 void PlainWebView::setBackground(const QColor &color)
 {
     QPalette palette = m_pBrowser->palette();

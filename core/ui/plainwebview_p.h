@@ -16,8 +16,8 @@ public:
 
     void load(const QUrl &url) override;
     void setHtml(const QString &strHtml) override;
-    void setZoomFactor(double fFactor) override;
-    void setPageData(const QJsonObject &pageData) override;
+    void setZoomFactor(double) override { } // the program's fonts already follow the display scale
+    void setPageData(const QJsonObject &) override { } // no script runs here
     void setBackground(const QColor &color) override;
 
 private:

@@ -117,8 +117,6 @@ EngineFactory::EngineFactory()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-EngineFactory::~EngineFactory() = default;
-
 WebView *EngineFactory::create(WebAccess access, QWidget *pParent)
 {
     return new EngineView(access, pParent);

@@ -44,7 +44,6 @@ class EngineFactory : public QObject, public WebViewFactory
 public:
     /// Chooses how all views draw: with OpenGL, or without when the program has no valid context to share.
     EngineFactory();
-    ~EngineFactory() override;
 
     [[nodiscard]] WebView *create(WebAccess access, QWidget *pParent) override;
 };

@@ -11,13 +11,6 @@
 
 #include <QFileDialog>
 
-StageFactory::StageFactory(QObject *pParent)
-    : IDocumentFactory(pParent)
-{
-}
-
-StageFactory::~StageFactory() = default;
-
 IDocument *StageFactory::createDocument()
 {
     return new StageDocument;

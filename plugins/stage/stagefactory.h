@@ -10,8 +10,7 @@ class StageFactory : public IDocumentFactory
     Q_DISABLE_COPY_MOVE(StageFactory)
 
 public:
-    explicit StageFactory(QObject *pParent);
-    ~StageFactory() override;
+    using IDocumentFactory::IDocumentFactory;
 
     [[nodiscard]] IDocument *createDocument() override;
     [[nodiscard]] IEditor *createEditor() override;

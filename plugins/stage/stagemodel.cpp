@@ -5,13 +5,6 @@
 
 #include <QSet>
 
-StageModel::StageModel(QObject *pParent)
-    : QObject(pParent)
-{
-}
-
-StageModel::~StageModel() = default;
-
 void StageModel::setProject(const StageProject &project)
 {
     m_project = project;

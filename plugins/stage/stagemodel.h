@@ -15,8 +15,7 @@ class StageModel : public QObject
     Q_DISABLE_COPY_MOVE(StageModel)
 
 public:
-    explicit StageModel(QObject *pParent = nullptr);
-    ~StageModel() override;
+    using QObject::QObject;
 
     [[nodiscard]] const StageProject &project() const { return m_project; }
 

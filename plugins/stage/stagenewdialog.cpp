@@ -65,8 +65,6 @@ StageNewDialog::StageNewDialog(QWidget *pParent)
     validate();
 }
 
-StageNewDialog::~StageNewDialog() = default;
-
 void StageNewDialog::addPathRow(QFormLayout *pLayout)
 {
     auto *pLabel = new QLabel(tr("&Project file:"), this);

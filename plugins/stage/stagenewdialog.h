@@ -19,7 +19,6 @@ class StageNewDialog : public ICreateDocumentDlg
 
 public:
     explicit StageNewDialog(QWidget *pParent);
-    ~StageNewDialog() override;
 
     /// Absolute, with the suffix.
     [[nodiscard]] QString getFilePath() override;

@@ -104,8 +104,6 @@ StageOptionPage::StageOptionPage(const QString &strTitle)
     setAccessibleName(strTitle);
 }
 
-StageOptionPage::~StageOptionPage() = default;
-
 void StageOptionPage::initValues()
 {
     m_bFilling = true;
@@ -154,8 +152,6 @@ GeneralOptionPage::GeneralOptionPage()
     connect(m_pLanguage, &QComboBox::currentIndexChanged, this, &GeneralOptionPage::markChanged);
 }
 
-GeneralOptionPage::~GeneralOptionPage() = default;
-
 void GeneralOptionPage::fill()
 {
     const QString strSaved = ILanguageManager::getInstance().getSaveLangId();
@@ -193,8 +189,6 @@ BackupOptionPage::BackupOptionPage()
     });
 }
 
-BackupOptionPage::~BackupOptionPage() = default;
-
 void BackupOptionPage::fill()
 {
     m_pEnable->setChecked(DocumentManager::isAutobackupEnabled());
@@ -222,13 +216,8 @@ EditingOptionPage::EditingOptionPage()
 {
     m_pPasteSvg->setObjectName(QStringLiteral("pasteSvg"));
     auto *pLists = new QHBoxLayout;
-    QWidget *pPanel = nullptr;
-    m_pHorizontal = createList(tr("Horizontal breakpoints"), &pPanel);
-    m_pHorizontal->setObjectName(QStringLiteral("horizontal"));
-    pLists->addWidget(pPanel);
-    m_pVertical = createList(tr("Vertical breakpoints"), &pPanel);
-    m_pVertical->setObjectName(QStringLiteral("vertical"));
-    pLists->addWidget(pPanel);
+    m_pHorizontal = createList(pLists, tr("Horizontal breakpoints"), QStringLiteral("horizontal"));
+    m_pVertical = createList(pLists, tr("Vertical breakpoints"), QStringLiteral("vertical"));
     auto *pReset = new QPushButton(tr("Restore &Defaults"), this);
     pReset->setAccessibleName(tr("Restore the default breakpoints"));
     pReset->setAutoDefault(false);
@@ -240,12 +229,12 @@ EditingOptionPage::EditingOptionPage()
     connect(pReset, &QPushButton::clicked, this, [this] { fillBreakpoints(true); });
 }
 
-EditingOptionPage::~EditingOptionPage() = default;
-
-QListWidget *EditingOptionPage::createList(const QString &strTitle, QWidget **ppPanel)
+QListWidget *EditingOptionPage::createList(QLayout *pPlace, const QString &strTitle, const QString &strName)
 {
     auto *pBox = new QGroupBox(strTitle, this);
+    pPlace->addWidget(pBox);
     auto *pList = new QListWidget(pBox);
+    pList->setObjectName(strName);
     pList->setAccessibleName(tr("%1, in pixels").arg(strTitle));
     pList->setItemDelegate(new PositionDelegate(pList));
     auto *pAdd = new QPushButton(tr("Add"), pBox);
@@ -267,7 +256,6 @@ QListWidget *EditingOptionPage::createList(const QString &strTitle, QWidget **pp
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(pList->model(), signal, this, &EditingOptionPage::markChanged);
     connect(pList, &QListWidget::itemChanged, this, &EditingOptionPage::markChanged);
-    *ppPanel = pBox;
     return pList;
 }
 

@@ -17,7 +17,6 @@ class StageOptionPage : public IOptionPage
 
 public:
     explicit StageOptionPage(const QString &strTitle);
-    ~StageOptionPage() override;
 
     void initValues() override;
     void discardChanges() override;
@@ -39,7 +38,6 @@ class GeneralOptionPage : public StageOptionPage
 
 public:
     GeneralOptionPage();
-    ~GeneralOptionPage() override;
     void saveChanges() override;
 
 private:
@@ -55,7 +53,6 @@ class BackupOptionPage : public StageOptionPage
 
 public:
     BackupOptionPage();
-    ~BackupOptionPage() override;
 
     /// Open projects follow at once: their wait starts anew or ends.
     void saveChanges() override;
@@ -75,13 +72,12 @@ class EditingOptionPage : public StageOptionPage
 
 public:
     EditingOptionPage();
-    ~EditingOptionPage() override;
     void saveChanges() override;
 
 private:
     void fill() override;
     void fillBreakpoints(bool bReset);
-    QListWidget *createList(const QString &strTitle, QWidget **ppPanel);
+    QListWidget *createList(QLayout *pPlace, const QString &strTitle, const QString &strName);
 
     QCheckBox *m_pPasteSvg;
     QListWidget *m_pHorizontal;

@@ -14,8 +14,6 @@ StageSubWindow::StageSubWindow(QWidget *pParent)
         pAction->setShortcuts(QList<QKeySequence>());
 }
 
-StageSubWindow::~StageSubWindow() = default;
-
 void StageSubWindow::closeEvent(QCloseEvent *pEvent)
 {
     pEvent->ignore();

@@ -11,7 +11,6 @@ class StageSubWindow : public QMdiSubWindow
 
 public:
     explicit StageSubWindow(QWidget *pParent = nullptr);
-    ~StageSubWindow() override;
 
 signals:
     /// The user wants it closed. The receiver may delete the window later, not within the signal.

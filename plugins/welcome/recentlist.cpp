@@ -35,8 +35,6 @@ RecentList::RecentList(IMainMdiArea *pArea, QWidget *pParent)
     fill();
 }
 
-RecentList::~RecentList() = default;
-
 void RecentList::fill()
 {
     m_pList->clear();

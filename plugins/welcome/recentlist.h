@@ -14,7 +14,6 @@ class RecentList : public QWidget
 
 public:
     RecentList(IMainMdiArea *pArea, QWidget *pParent);
-    ~RecentList() override;
 
 private:
     void fill();

@@ -33,8 +33,6 @@ WelcomeOptionPage::WelcomeOptionPage()
     });
 }
 
-WelcomeOptionPage::~WelcomeOptionPage() = default;
-
 bool WelcomeOptionPage::isPageWanted()
 {
     const QSettings *pSettings = ICore::settings(QSettings::UserScope);

@@ -13,7 +13,6 @@ class WelcomeOptionPage : public IOptionPage
 
 public:
     WelcomeOptionPage();
-    ~WelcomeOptionPage() override;
 
     [[nodiscard]] static bool isPageWanted();
 

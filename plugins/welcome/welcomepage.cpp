@@ -74,12 +74,6 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
-// For what the engine draws by itself, such as scroll bars.
-QString scheme(const QPalette &palette)
-{
-    return isDark(palette) ? QStringLiteral("dark") : QStringLiteral("light");
-}
-
 // The shades between are those of the two colours that every theme has.
 QJsonObject colours(const QPalette &palette)
 {
@@ -140,7 +134,9 @@ QJsonObject WelcomePage::data(const QWidget &widget)
         {QStringLiteral("server"), server()},
         {QStringLiteral("texts"), texts()},
         {QStringLiteral("direction"), widget.isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr")},
-        {QStringLiteral("scheme"), scheme(widget.palette())},
+        // For what the engine draws by itself, such as scroll bars.
+        {QStringLiteral("scheme"),
+            isDark(widget.palette()) ? QStringLiteral("dark") : QStringLiteral("light")},
         {QStringLiteral("colours"), colours(widget.palette())},
         {QStringLiteral("font"), font.family()},
         {QStringLiteral("commands"), commands()},

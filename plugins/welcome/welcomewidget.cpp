@@ -39,8 +39,6 @@ WelcomeWidget::WelcomeWidget(IMainMdiArea *pArea)
     hide();
 }
 
-WelcomeWidget::~WelcomeWidget() = default;
-
 bool WelcomeWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
     if (pWatched == m_pArea && pEvent->type() == QEvent::Resize)

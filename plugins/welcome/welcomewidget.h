@@ -18,7 +18,6 @@ class WelcomeWidget : public QWidget
 public:
     /// Hidden: the main window shows it when there is no editor.
     explicit WelcomeWidget(IMainMdiArea *pArea);
-    ~WelcomeWidget() override;
 
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
 
