@@ -32,16 +32,21 @@ ActionContainer::ActionContainer(const QString &) { }
 
 ActionContainer::~ActionContainer() = default;
 
-QWidget *ActionContainer::shownIn() const
+void ActionContainer::setMenu(QMenu *) { }
+
+void ActionContainer::setMenuBar(QMenuBar *) { }
+
+QMenu *ActionContainer::getMenu() const
 {
-    return getMenu() ? static_cast<QWidget *>(getMenu()) : getMenuBar();
+    return nullptr;
 }
 
-void ActionContainer::insertAction(QAction *pBefore, QAction *pAction)
+QMenuBar *ActionContainer::getMenuBar() const
 {
-    if (QWidget *pWidget = shownIn())
-        pWidget->insertAction(pBefore, pAction);
+    return nullptr;
 }
+
+void ActionContainer::insertAction(QAction *, QAction *) { }
 
 void ActionContainer::insertAction(ContextAction *pAction, ContextAction *pBefore)
 {
@@ -53,10 +58,7 @@ void ActionContainer::insertAction(ContextAction *pAction, ContextAction *pBefor
     insertAction(shownBy(pBefore), shownBy(pAction));
 }
 
-void ActionContainer::insertMenu(QAction *pBefore, QMenu *pMenu)
-{
-    insertAction(pBefore, pMenu->menuAction());
-}
+void ActionContainer::insertMenu(QAction *, QMenu *) { }
 
 void ActionContainer::insertMenu(ActionContainer *pMenu, ActionContainer *pBefore)
 {
@@ -101,18 +103,9 @@ ContextAction *ActionContainer::insertSeparatorBefore(QAction *pBefore, QAction 
     return pCommand;
 }
 
-void ActionContainer::removeMenu(QMenu *pMenu)
-{
-    if (pMenu)
-        removeAction(pMenu->menuAction());
-}
+void ActionContainer::removeMenu(QMenu *) { }
 
-void ActionContainer::removeAction(QAction *pAction)
-{
-    QWidget *pWidget = shownIn();
-    if (pWidget && pAction)
-        pWidget->removeAction(pAction);
-}
+void ActionContainer::removeAction(QAction *) { }
 
 void ActionContainer::clear()
 {
@@ -144,6 +137,30 @@ QMenu *MenuActionContainer::getMenu() const
     return m_pMenu;
 }
 
+void MenuActionContainer::insertAction(QAction *pBefore, QAction *pAction)
+{
+    if (m_pMenu)
+        m_pMenu->QWidget::insertAction(pBefore, pAction);
+}
+
+void MenuActionContainer::insertMenu(QAction *pBefore, QMenu *pMenu)
+{
+    if (m_pMenu)
+        m_pMenu->insertMenu(pBefore, pMenu);
+}
+
+void MenuActionContainer::removeMenu(QMenu *pMenu)
+{
+    if (pMenu)
+        removeAction(pMenu->menuAction());
+}
+
+void MenuActionContainer::removeAction(QAction *pAction)
+{
+    if (m_pMenu && pAction)
+        m_pMenu->QWidget::removeAction(pAction);
+}
+
 bool MenuActionContainer::updateInternal()
 {
     if (!m_pMenu)
@@ -169,4 +186,33 @@ void MenuBarActionContainer::setMenuBar(QMenuBar *pMenuBar)
 QMenuBar *MenuBarActionContainer::getMenuBar() const
 {
     return m_pMenuBar;
+}
+
+void MenuBarActionContainer::insertAction(QAction *pBefore, QAction *pAction)
+{
+    if (m_pMenuBar)
+        m_pMenuBar->QWidget::insertAction(pBefore, pAction);
+}
+
+void MenuBarActionContainer::insertMenu(QAction *pBefore, QMenu *pMenu)
+{
+    if (m_pMenuBar)
+        m_pMenuBar->insertMenu(pBefore, pMenu);
+}
+
+void MenuBarActionContainer::removeMenu(QMenu *pMenu)
+{
+    if (pMenu)
+        removeAction(pMenu->menuAction());
+}
+
+void MenuBarActionContainer::removeAction(QAction *pAction)
+{
+    if (m_pMenuBar && pAction)
+        m_pMenuBar->QWidget::removeAction(pAction);
+}
+
+bool MenuBarActionContainer::updateInternal()
+{
+    return true;
 }

@@ -11,7 +11,6 @@ class ContextAction;
 class QAction;
 class QMenu;
 class QMenuBar;
-class QWidget;
 
 /// A menu or a menu bar that is filled with commands and sub-menus. ActionManager makes it and knows it by
 /// its id until it is deleted. Commands and sub-containers are not owned and may go first; nor is the widget.
@@ -28,12 +27,12 @@ public:
     ~ActionContainer() override;
 
     // Plug-ins build on the order of the virtual functions.
-    virtual void setMenu(QMenu *) { }
-    virtual void setMenuBar(QMenuBar *) { }
+    virtual void setMenu(QMenu *pMenu);
+    virtual void setMenuBar(QMenuBar *pMenuBar);
     /// Null for a menu bar.
-    [[nodiscard]] virtual QMenu *getMenu() const { return nullptr; }
+    [[nodiscard]] virtual QMenu *getMenu() const;
     /// Null for a menu.
-    [[nodiscard]] virtual QMenuBar *getMenuBar() const { return nullptr; }
+    [[nodiscard]] virtual QMenuBar *getMenuBar() const;
 
 protected:
     virtual void insertAction(QAction *pBefore, QAction *pAction);
@@ -80,7 +79,6 @@ private slots:
 
 private:
     void update() { }
-    [[nodiscard]] QWidget *shownIn() const;
     void insertMenuBefore(ActionContainer *pMenu, QAction *pBefore);
     ContextAction *insertSeparatorBefore(QAction *pBefore, QAction **ppSeparator);
 
@@ -96,11 +94,18 @@ class CORE_EXPORT MenuActionContainer : public ActionContainer
 public:
     explicit MenuActionContainer(const QString &strId);
 
+    using ActionContainer::insertAction;
+    using ActionContainer::insertMenu;
+
     void setMenu(QMenu *pMenu) override;
     [[nodiscard]] QMenu *getMenu() const override;
 
 protected:
     bool updateInternal() override;
+    void insertAction(QAction *pBefore, QAction *pAction) override;
+    void insertMenu(QAction *pBefore, QMenu *pMenu) override;
+    void removeMenu(QMenu *pMenu) override;
+    void removeAction(QAction *pAction) override;
 
 private:
     QPointer<QMenu> m_pMenu;
@@ -114,11 +119,18 @@ class CORE_EXPORT MenuBarActionContainer : public ActionContainer
 public:
     explicit MenuBarActionContainer(const QString &strId);
 
+    using ActionContainer::insertAction;
+    using ActionContainer::insertMenu;
+
     void setMenuBar(QMenuBar *pMenuBar) override;
     [[nodiscard]] QMenuBar *getMenuBar() const override;
 
 protected:
-    bool updateInternal() override { return true; }
+    bool updateInternal() override;
+    void insertAction(QAction *pBefore, QAction *pAction) override;
+    void insertMenu(QAction *pBefore, QMenu *pMenu) override;
+    void removeMenu(QMenu *pMenu) override;
+    void removeAction(QAction *pAction) override;
 
 private:
     QPointer<QMenuBar> m_pMenuBar;
