@@ -144,24 +144,17 @@ void IUi::clearIconCache()
     getInstance()->m_pixmaps.clear();
 }
 
-QMessageBox::StandardButton IUi::run(QMessageBox *pBox, const QString &strIcon, const QString &strTitle)
-{
-    pBox->setWindowTitle(strTitle);
-    pBox->setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pBox->parentWidget())));
-    widenContents(pBox);
-    const QPointer<QMessageBox> pAlive = pBox;
-    if (pBox->exec() == -1 || !pAlive || !pBox->clickedButton())
-        return QMessageBox::Cancel;
-    return pBox->standardButton(pBox->clickedButton());
-}
-
 QMessageBox::StandardButton IUi::run(QWidget *pParent, const QString &strIcon, const QString &strTitle,
     const std::function<void(QMessageBox *)> &fill)
 {
     // Not on the stack: its parent may die while it runs.
     const QPointer<QMessageBox> pBox = new QMessageBox(pParent ? pParent : ICore::getMainWindow());
     fill(pBox);
-    const QMessageBox::StandardButton answer = run(pBox, strIcon, strTitle);
+    pBox->setWindowTitle(strTitle);
+    pBox->setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pBox->parentWidget())));
+    widenContents(pBox);
+    const bool bAnswered = pBox->exec() != -1 && pBox && pBox->clickedButton();
+    const auto answer = bAnswered ? pBox->standardButton(pBox->clickedButton()) : QMessageBox::Cancel;
     delete pBox;
     return answer;
 }

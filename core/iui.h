@@ -47,13 +47,8 @@ public:
         const QString &strText, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
         QMessageBox::StandardButton defaultButton = QMessageBox::Ok);
 
-    /// Gives a box that its caller has filled the look of the others, and runs it. `strIcon` is the image's
-    /// name with its size, such as "question_32". A box with a parent is made with new: it may die with it,
-    /// and the answer is Cancel then.
-    static QMessageBox::StandardButton run(
-        QMessageBox *pBox, const QString &strIcon, const QString &strTitle);
-
-    /// Makes a box that `fill` fills, runs it as above, and deletes it. A null parent means the main window.
+    /// Runs a box that `fill` fills and that then looks and answers as the others. `strIcon` is the image's
+    /// name with its size, such as "question_32".
     static QMessageBox::StandardButton run(QWidget *pParent, const QString &strIcon, const QString &strTitle,
         const std::function<void(QMessageBox *)> &fill);
 
