@@ -75,8 +75,8 @@ private slots:
             else
                 maximizeButton()->click();
             settle();
-            QCOMPARE(m_pWindow->size(), place.size());
-            QCOMPARE(m_pWindow->pos(), byDrag ? QPoint(380, 297) : place.topLeft());
+            QTRY_COMPARE(m_pWindow->size(), place.size());
+            QTRY_COMPARE(m_pWindow->pos(), byDrag ? QPoint(380, 297) : place.topLeft());
             QVERIFY(!m_pWindow->isMaximized());
             QCOMPARE(maximizeButton()->toolTip(), "Maximize");
             ICore::saveSettings();
