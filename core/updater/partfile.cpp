@@ -38,16 +38,23 @@ bool writeAll(QFile *pFile, const QByteArray &content)
     return true;
 }
 
-// Of a link only the link goes. Where the folder that holds the trash is missing, Qt 6.4 would take the
-// current folder for the trash.
+// Of a link only the link goes. Where the trash cannot be made, Qt 6.4 would take the current folder for it.
 bool makeWay(const QFileInfo &old)
 {
     if (old.isSymLink())
         return QFile::remove(old.filePath());
     if (!old.exists())
         return true;
-    const QString strData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return !old.isDir() && QDir().mkpath(strData) && QFile::moveToTrash(old.filePath());
+#ifdef Q_OS_UNIX
+    const QDir trash(
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash"));
+    for (const char *pFolder : {"files", "info"}) {
+        const QString strFolder = trash.filePath(QLatin1String(pFolder));
+        if (!trash.mkpath(strFolder) || !QFileInfo(strFolder).isWritable())
+            return false;
+    }
+#endif
+    return !old.isDir() && QFile::moveToTrash(old.filePath());
 }
 
 QString freePath(const QFileInfo &taken)

@@ -191,17 +191,20 @@ private slots:
 
     void whatCannotMakeWayStays_data()
     {
-        const auto row = columns<bool>("isFolder");
-        row("a file without a trash to go to", false);
-        row("a folder", true);
+        const auto row = columns<QString, bool>("noFolder", "isFolder");
+        row("a file without a place for a trash", "/share", false);
+        row("a file without a trash to go to", "/share/Trash", false);
+        row("a folder", "/share", true);
     }
 
     void whatCannotMakeWayStays()
     {
+        QFETCH(const QString, noFolder);
         QFETCH(const bool, isFolder);
         Download download(TestServer::ok("new"));
         download.home.write("x (2).run", "older");
-        QFile(QDir::homePath() + "/share").open(QIODevice::WriteOnly);
+        QDir().mkpath(QFileInfo(QDir::homePath() + noFolder).path());
+        QVERIFY(QFile(QDir::homePath() + noFolder).open(QIODevice::WriteOnly));
         const QString strFile = Downloader::downloadFolder() + "x.run";
         QVERIFY(isFolder ? QDir().mkpath(strFile) : QFile::copy(strFile.chopped(4) + " (2).run", strFile));
         download.downloader.setFileName("x.run");
