@@ -19,10 +19,14 @@
 #include <QPointer>
 #include <QSessionManager>
 
+#include <algorithm>
+
 using ExtensionSystem::PluginManager;
 
 namespace {
 Q_LOGGING_CATEGORY(lcCore, "kelpa.core")
+
+constexpr int s_endLaterMs = 500;
 
 // A document of a plug-in may throw here too, or close another one.
 void saveBackups()
@@ -38,6 +42,15 @@ void saveBackups()
         if (!strThrown.isEmpty())
             qCWarning(lcCore, "%s: no backup: %s", qUtf8Printable(strFile), qUtf8Printable(strThrown));
     }
+}
+
+// Of two libraries with one name the first may run.
+bool hasStarted(const QString &strPlugin)
+{
+    const auto plugins = PluginManager::plugins();
+    return std::any_of(plugins.begin(), plugins.end(), [&](const auto &plugin) {
+        return plugin.spec.name == strPlugin && plugin.state >= ExtensionSystem::PluginState::Constructed;
+    });
 }
 
 void warn(const QString &strText)
@@ -68,12 +81,21 @@ void CorePlugin::watchProgram()
     connect(pManager, &PluginManager::exceptionCaught, this, &CorePlugin::tellException);
     connect(pManager, &PluginManager::endRequested, this, [this] {
         saveBackups();
-        // The main window decides alone: a download's own window gives in once it is closed. Nobody is asked
-        // while something is being asked already.
-        if (!QApplication::activeModalWidget() && m_pMainWindow->close())
-            QCoreApplication::quit();
+        endProgram();
     });
+    m_endLater.setSingleShot(true);
+    connect(&m_endLater, &QTimer::timeout, this, &CorePlugin::endProgram);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &CorePlugin::endSession);
+}
+
+// The main window decides alone: a download's own window gives in once it is closed. Nobody is asked while
+// something is being asked already.
+void CorePlugin::endProgram()
+{
+    if (QApplication::activeModalWidget())
+        m_endLater.start(s_endLaterMs);
+    else if (m_pMainWindow->close())
+        QCoreApplication::quit();
 }
 
 // The session waits for the answers where it allows to ask.
@@ -105,8 +127,10 @@ void CorePlugin::tellFaults()
             tr("The settings in %1 cannot be read or written.").arg(QDir::toNativeSeparators(fault.file)));
     QStringList names;
     const auto errors = PluginManager::errors();
-    for (const auto &error : errors)
-        names.append(error.plugin);
+    for (const auto &error : errors) {
+        if (!hasStarted(error.plugin))
+            names.append(error.plugin);
+    }
     names.removeDuplicates();
     if (!names.isEmpty())
         texts.append(tr("These plug-ins could not be started: %1.").arg(names.join(QStringLiteral(", "))));

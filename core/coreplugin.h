@@ -3,6 +3,8 @@
 
 #include <extensionsystem/iplugin.h>
 
+#include <QTimer>
+
 #include <memory>
 
 class MainWindow;
@@ -38,7 +40,9 @@ private:
     void watchProgram();
     void tellFaults();
     void tellException(const QString &strCommand, const QString &strReason);
+    void endProgram();
     void endSession(QSessionManager &session);
 
     std::unique_ptr<MainWindow> m_pMainWindow;
+    QTimer m_endLater; // runs while the program is to end and something is being asked
 };

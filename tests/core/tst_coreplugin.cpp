@@ -107,7 +107,7 @@ private slots:
         PluginManager::deliver(&event, [] { return throw 7, true; });
         QCOMPARE(told(), "Something failed: exception of unknown type");
 
-        BoxAnswers answers({QMessageBox::Cancel});
+        BoxAnswers answers({QMessageBox::Cancel, QMessageBox::Cancel});
         const auto request = [this] {
             emit m_pProgram->manager.endRequested();
             QCoreApplication::exit();
@@ -116,6 +116,14 @@ private slots:
         QCoreApplication::exec();
         QCOMPARE(answers.boxes.size(), 1);
         QCOMPARE(pDocument->calls, QStringList({"saveBackup", "saveBackup", "saveBackup", "close"}));
+
+        // What is being asked already is answered first.
+        QDialog dialog(ICore::getMainWindow());
+        dialog.open();
+        emit m_pProgram->manager.endRequested();
+        pDocument->calls.clear();
+        dialog.close();
+        QTRY_COMPARE(pDocument->calls, QStringList("close"));
     }
 
 private:
