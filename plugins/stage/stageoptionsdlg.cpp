@@ -19,9 +19,10 @@ StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     : IOptionsDlg(pParent)
     , m_pList(new QListWidget(this))
     , m_pStack(new QStackedWidget(this))
-    , m_pButtons(new QDialogButtonBox(
-          QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this))
 {
+    addPages(); // before the buttons, as Tab goes
+    m_pButtons =
+        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
     setWindowTitle(tr("Preferences"));
     m_pList->setAccessibleName(tr("Pages"));
     m_pList->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
@@ -37,7 +38,6 @@ StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     connect(m_pButtons, &QDialogButtonBox::rejected, this, &StageOptionsDlg::onCancel);
     connect(
         m_pButtons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &StageOptionsDlg::onApply);
-    addPages();
     m_pList->setCurrentRow(0);
     updateButtons();
 }

@@ -37,5 +37,5 @@ private:
 
     QListWidget *m_pList;
     QStackedWidget *m_pStack;
-    QDialogButtonBox *m_pButtons;
+    QDialogButtonBox *m_pButtons = nullptr;
 };

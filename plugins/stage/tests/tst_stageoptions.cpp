@@ -231,6 +231,19 @@ private slots:
         QCOMPARE(factory.pPage->nFilled, 2);
     }
 
+    void tabGoesThroughThePageToTheButtons()
+    {
+        const QList<QWidget *> order {m_pDialog->findChild<QListWidget *>(), control<QComboBox>("language"),
+            button(QDialogButtonBox::Ok), button(QDialogButtonBox::Cancel)};
+        m_pDialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pDialog));
+        order.first()->setFocus();
+        for (QWidget *pWidget : order) {
+            QCOMPARE(m_pDialog->focusWidget(), pWidget);
+            QTest::keyClick(pWidget, Qt::Key_Tab);
+        }
+    }
+
 private:
     void show(int nPage)
     {
