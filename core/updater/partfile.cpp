@@ -38,23 +38,33 @@ bool writeAll(QFile *pFile, const QByteArray &content)
     return true;
 }
 
-// Of a link only the link goes. Where the trash cannot be made, Qt 6.4 would take the current folder for it.
+// Where the trash cannot be made, Qt 6.4 would take the current folder for it. One that is made here is for
+// its owner alone, as Qt makes it.
+bool hasTrash()
+{
+#ifdef Q_OS_LINUX
+    const QString strTrash =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash");
+    const bool bNew = !QFileInfo::exists(strTrash);
+    if (!QDir().mkpath(strTrash))
+        return false;
+    if (bNew)
+        QFile::setPermissions(strTrash, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    for (const char *pFolder : {"/files", "/info"}) {
+        const QString strFolder = strTrash + QLatin1String(pFolder);
+        if (!QDir().mkpath(strFolder) || !QFileInfo(strFolder).isWritable())
+            return false;
+    }
+#endif
+    return true;
+}
+
+// Of a link only the link goes.
 bool makeWay(const QFileInfo &old)
 {
     if (old.isSymLink())
         return QFile::remove(old.filePath());
-    if (!old.exists())
-        return true;
-#ifdef Q_OS_UNIX
-    const QDir trash(
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/Trash"));
-    for (const char *pFolder : {"files", "info"}) {
-        const QString strFolder = trash.filePath(QLatin1String(pFolder));
-        if (!trash.mkpath(strFolder) || !QFileInfo(strFolder).isWritable())
-            return false;
-    }
-#endif
-    return !old.isDir() && QFile::moveToTrash(old.filePath());
+    return !old.exists() || (!old.isDir() && hasTrash() && QFile::moveToTrash(old.filePath()));
 }
 
 QString freePath(const QFileInfo &taken)
