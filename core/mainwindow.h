@@ -42,7 +42,7 @@ public:
     explicit MainWindow(QWidget *pParent);
     ~MainWindow() override;
 
-    /// The text of an error stays as it is.
+    /// Always true; the text of an error stays as it is.
     bool init(QString *) { return true; }
 
     /// Shows the window, maximised on the first run, and opens the projects on the command line in the next

@@ -48,10 +48,11 @@ public:
     virtual bool saveAs() { return true; }
     virtual bool revert() { return true; }
 
-    /// A document pushes the command on its undo stack and takes it over.
+    /// A document pushes the command on its undo stack and takes it over. The base does nothing.
     virtual void submitCommand(QUndoCommand *) { }
 
-    /// A document writes a backup copy if one is due, at any time it is called. False: none was taken.
+    /// A document writes a backup copy if one is due, at any time it is called. False: none was taken, as
+    /// always by the base.
     virtual bool saveBackup() { return false; }
 
     [[nodiscard]] QString getFileName() const { return m_strFileName; }

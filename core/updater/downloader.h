@@ -21,9 +21,8 @@ class Downloader;
 /// The small window that downloads an installer into the user's folder of downloads, shows how far it is, and
 /// then offers to run it. Each Updater owns one. Until the installer is complete, and checked if there is a
 /// key, its file has the suffix ".part"; what had its name before then goes to the trash, or stays if that
-/// cannot be, and the installer gets a free name. The window stays in
-/// front of the main window, and goes without a question when that is closed. GUI thread only; it must not
-/// outlive the application object.
+/// cannot be, and the installer gets a free name. The window stays in front of the main window, and goes
+/// without a question when that is closed. GUI thread only; it must not outlive the application object.
 class CORE_EXPORT Downloader : public QWidget
 {
     Q_OBJECT
