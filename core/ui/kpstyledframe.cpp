@@ -4,7 +4,7 @@
 #include "ui/kpstyledframe_p.h"
 
 KPStyledFrameHelper::KPStyledFrameHelper(QWidget *pWidget)
-    : d(new Private {.pWidget = pWidget, .pHelper = this})
+    : d(new Private(this, pWidget))
 {
 }
 

@@ -68,10 +68,15 @@ struct KPStyledFrameHelper::Private::Native : public QObject
     bool bTitlePressed = false;
 };
 
-std::shared_ptr<KPStyledFrameHelper::Private::Native> KPStyledFrameHelper::Private::makeNative()
+KPStyledFrameHelper::Private::Private(KPStyledFrameHelper *pOwner, QWidget *pFrame)
+    : pWidget(pFrame)
+    , nLogicalDpi(pFrame->logicalDpiY())
+    , pHelper(pOwner)
+    , pNative(new Native(*this))
 {
-    return std::make_shared<Native>(*this);
 }
+
+KPStyledFrameHelper::Private::~Private() = default;
 
 void KPStyledFrameHelper::Private::setUp()
 {

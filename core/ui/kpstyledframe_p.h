@@ -12,14 +12,16 @@ struct KPStyledFrameHelper::Private
 {
     struct Native;
 
-    [[nodiscard]] std::shared_ptr<Native> makeNative();
+    Private(KPStyledFrameHelper *pHelper, QWidget *pFrame);
+    ~Private();
+
     void setUp();
     bool handleMessage(void *pMessage, qintptr *pResult);
     [[nodiscard]] bool isTitleBar(const QPoint &point) const;
     [[nodiscard]] bool isResizable(bool bMaximized) const;
 
     void *pWindow = nullptr; // native handle; null until the native window is set up
-    FrameGeometry::Rect region {}; // as last applied; all zero: none
+    FrameGeometry::Rect region; // as last applied; all zero: none
     quint32 nClientWidth = 0; // physical pixels
     quint32 nClientHeight = 0;
     bool bThemeActive = false;
@@ -28,8 +30,8 @@ struct KPStyledFrameHelper::Private
     bool bSetUp = false; // attempted
     bool bDisabled = false;
     QColor borderColor {64, 64, 64, 255};
-    qint32 nLogicalDpi = pWidget->logicalDpiY(); // vertical, at construction
+    qint32 nLogicalDpi; // vertical, at construction
 
     KPStyledFrameHelper *const pHelper;
-    const std::shared_ptr<Native> pNative = makeNative();
+    std::unique_ptr<Native> pNative;
 };

@@ -56,10 +56,15 @@ struct KPStyledFrameHelper::Private::Native
     Private &d;
 };
 
-std::shared_ptr<KPStyledFrameHelper::Private::Native> KPStyledFrameHelper::Private::makeNative()
+KPStyledFrameHelper::Private::Private(KPStyledFrameHelper *pOwner, QWidget *pFrame)
+    : pWidget(pFrame)
+    , nLogicalDpi(pFrame->logicalDpiY())
+    , pHelper(pOwner)
+    , pNative(new Native(*this))
 {
-    return std::make_shared<Native>(*this);
 }
+
+KPStyledFrameHelper::Private::~Private() = default;
 
 // winId() makes the window, and the messages of that come here: the mark is set before.
 void KPStyledFrameHelper::Private::setUp()
