@@ -142,8 +142,9 @@ CheckBoxColours checkBoxColours(QStyle::State state)
 void drawCheckMark(QPainter *pPainter, const QRect &rect, const QColor &colour)
 {
     const int nLeg = qMax(1, qRound(rect.width() * 0.2));
-    const QPointF corner(rect.left() + (rect.width() - 3 * nLeg - 1) / 2 + nLeg + 0.5,
-        rect.top() + (rect.height() - 2 * nLeg - 1) / 2 + 2 * nLeg + 0.5);
+    const QPoint pixel(rect.left() + (rect.width() - 3 * nLeg - 1) / 2 + nLeg,
+        rect.top() + (rect.height() - 2 * nLeg - 1) / 2 + 2 * nLeg);
+    const QPointF corner = QPointF(pixel) + QPointF(0.5, 0.5);
     const std::array<QPointF, 3> points = {
         corner + QPointF(-nLeg, -nLeg), corner, corner + QPointF(2 * nLeg, -2 * nLeg)};
     pPainter->setPen(

@@ -27,7 +27,7 @@ private slots:
 
     void withoutAGroupItIsAFirstStart()
     {
-        QVERIFY(m_pWindow->isMaximized());
+        QTRY_VERIFY(m_pWindow->isMaximized());
         QVERIFY(!PluginManager::settings()->childGroups().contains("Designer"));
         ICore::saveSettings();
         start();
