@@ -50,7 +50,7 @@ bool ElidedLabel::event(QEvent *pEvent)
 {
     if (pEvent->type() != QEvent::ToolTip || shownText() == oneLine(text()))
         return QLabel::event(pEvent);
-    // Plain text that looks like markup would be taken for it.
+    // A tool tip shows text that looks like HTML as HTML, and the text of this label is plain.
     const QString strTip = QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped());
     QToolTip::showText(static_cast<QHelpEvent *>(pEvent)->globalPos(), strTip, this);
     return true;
@@ -60,7 +60,7 @@ void ElidedLabel::paintEvent(QPaintEvent *)
 {
     const QString strText = shownText();
     const int nAlign = int(QStyle::visualAlignment(layoutDirection(), alignment()) | Qt::AlignAbsolute);
-    // A message that is not translated still reads in its own direction.
+    // The text is drawn in its own direction: an untranslated one may stand in a right-to-left window.
     const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     QPainter painter(this);
     style()->drawItemText(&painter, contentsRect(), nAlign | nDirection | Qt::TextSingleLine, palette(),

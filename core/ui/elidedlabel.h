@@ -3,8 +3,8 @@
 
 #include <QLabel>
 
-/// A label of one line of plain text that gives way: in too little room it shows the beginning, and the whole
-/// text as its tool tip. text() stays whole.
+/// A label for one line of plain text. If there is too little room, it shows the beginning and its tool tip
+/// the whole. Line breaks are shown as spaces; text() returns the text unchanged.
 class ElidedLabel : public QLabel
 {
 public:

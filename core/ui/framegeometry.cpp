@@ -7,7 +7,7 @@ namespace FrameGeometry {
 
 namespace {
 
-// Larger than any window: setting a region at all is what switches off the corners of a classic caption.
+// Larger than any window: without composition, having a region keeps a theme from rounding the corners.
 constexpr qint32 s_nUnbounded = 32767;
 
 Hit alongBand(int x, int nWidth, int nCorner, Hit start, Hit middle, Hit end)

@@ -5,9 +5,9 @@
 
 #include <QDialog>
 
-/// Base of the dialog that asks for a new project. A factory makes it; the new-project command runs it, reads
-/// it after it was accepted and deletes it. What the three integers and the flag mean is between the dialog
-/// and its document.
+/// Base of the dialog that asks for a new project. An IDocumentFactory makes it; the command File > New runs
+/// it on the GUI thread and deletes it, unless it was accepted without a file. The integers and the flag go
+/// to IDocument::createContent() as they are; the plug-in decides what they mean.
 class CORE_EXPORT ICreateDocumentDlg : public QDialog
 {
     Q_OBJECT
@@ -16,11 +16,11 @@ class CORE_EXPORT ICreateDocumentDlg : public QDialog
 public:
     explicit ICreateDocumentDlg(QWidget *pParent);
 
-    /// The same dialog; plug-ins written for the longer form still compile, and the texts are not used.
+    /// Ignores the texts; plug-ins that were written for this longer form still compile.
     ICreateDocumentDlg(QWidget *pParent, const QString &, const QString &, const QString &);
     ~ICreateDocumentDlg() override;
 
-    /// File to create; empty creates nothing.
+    /// File to create. If it is empty nothing is created, and document and dialog stay with the plug-in.
     [[nodiscard]] virtual QString getFilePath() = 0;
     [[nodiscard]] virtual int getFirstValue() = 0;
     [[nodiscard]] virtual int getSecondValue() = 0;

@@ -41,22 +41,22 @@ IMainMdiArea::IMainMdiArea(QWidget *pParent)
     if (ICore::getMainWindow())
         installEventFilter(ICore::getMainWindow());
     setAcceptDrops(true);
-    setBackground(Qt::NoBrush); // the theme's, and not a grey of its own
+    setBackground(Qt::NoBrush); // a gray of its own would cover the theme's background
     auto *pBridge = new KPHTMLExposingWelcome(this);
     connect(this, &IMainMdiArea::resetRecentFiles, pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
     if (channel())
         channel()->registerObject(QStringLiteral("kpwelcome"), pBridge);
 }
 
-// The bridge leaves the channel by itself when it dies with this area. What listens for the area's own
-// leaving relies on it being announced, although the area never was on the channel.
+// Takes the area off the channel in case a plug-in has put it there: Qt 6.4.2 does not notice the death of an
+// object until a client has asked for the objects. The bridge takes itself off, too.
 IMainMdiArea::~IMainMdiArea()
 {
     if (channel())
         channel()->deregisterObject(this);
 }
 
-// The URL is put together as text, and so is what a name with "#" or "?" in it leads to.
+// The URL is composed as text: a "#" or "?" in the path ends it there, and "%41" becomes "A".
 void IMainMdiArea::showInExplorer(const QString &strFileName)
 {
     const QString strFolder = QFileInfo(strFileName).path();
@@ -112,7 +112,7 @@ void IMainMdiArea::openURL(const QString &strURL)
         IUi::information(this, s_title, QStringLiteral("URL: ") + strURL);
 }
 
-// The desktop gets the bare path, not a URL of it: that is what handlers registered for it expect.
+// The desktop gets the bare path as a URL without scheme, for which plug-ins may set a handler.
 void IMainMdiArea::openFile(const QString &strFile)
 {
     const QString strPath = QDir(ICore::resourcePath()).absoluteFilePath(strFile);

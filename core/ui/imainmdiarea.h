@@ -8,8 +8,8 @@
 #include <QStringList>
 
 /// The main window's central widget: every open document is a tabbed sub-window, and without any the welcome
-/// widget is shown in their place. It puts the welcome page's bridge on the web channel, where what the page
-/// asks for ends up in the slots here. Owned by the main window; GUI thread only.
+/// widget is shown in their place. It puts the bridge of the welcome page on the web channel, which calls the
+/// slots here. Owned by the main window; GUI thread only.
 class CORE_EXPORT IMainMdiArea : public QMdiArea
 {
     Q_OBJECT
@@ -19,37 +19,37 @@ public:
     explicit IMainMdiArea(QWidget *pParent);
     ~IMainMdiArea() override;
 
-    /// Null until another plug-in supplies one, and after it is gone. Not owned.
+    /// Not owned. Null until a plug-in has set one, and again when that is deleted.
     [[nodiscard]] QWidget *getWelcomeWidget() const { return m_pWelcomeWidget; }
     void setWelcomeWidget(QWidget *pWidget) { m_pWelcomeWidget = pWidget; }
 
 signals:
-    /// The list of recent projects is to be fetched again.
+    /// Tells the welcome page to fetch the list of recent projects again.
     void resetRecentFiles();
 
 public slots:
-    /// Opens the folder of the project on the desktop. Asks whether a project that is gone shall leave the
-    /// list.
+    /// Opens the folder of the project on the desktop. If the file does not exist, asks whether to remove it
+    /// from the list of recent projects.
     void showInExplorer(const QString &strFileName);
 
-    /// Takes the path out of the list of recent projects, and out of menu and page.
+    /// Takes the path out of the list of recent projects, the menu and the page; ignores an unknown one.
     void removeFile(const QString &strFile);
     static QStringList getRecentFileList();
 
-    /// Triggers the command, also one that is disabled; a checkable one does not toggle. An unknown id does
-    /// nothing.
+    /// Triggers the command with the id `cmd`, even if it is disabled, and without toggling a checkable one.
+    /// An unknown id does nothing.
     static void callbackTunnelAsync(const QString &cmd);
 
-    /// "WelcomeScreen.getLocale" and "WelcomeScreen.getBuildNumber" have an answer, all else an empty one.
-    /// `str` is for later queries.
+    /// Answers "WelcomeScreen.getLocale" with the language id and "WelcomeScreen.getBuildNumber" with the
+    /// version, any other query with an empty text. `str` is reserved for later queries.
     static QString callbackAsyncfromJS(const QString &cmd, const QString &str);
 
-    /// Opens links that start with "http://" or "https://", written so, in the desktop's browser; any other
-    /// is only shown to the user.
+    /// Opens the link in the desktop's browser if it begins with "http://" or "https://" in lower case; any
+    /// other text is only shown to the user.
     void openURL(const QString &strURL);
 
-    /// Opens a project here and any other file with what the desktop has for it. A relative name counts from
-    /// the program's folder.
+    /// Opens a project here and hands any other file to the desktop; a missing one is told in a box. A
+    /// relative name is resolved against the program's folder.
     void openFile(const QString &strFile);
 
 private:

@@ -24,11 +24,11 @@
 
 namespace {
 
-// Pixels at 100 percent.
+// In pixels at a display scale of 100 percent.
 constexpr int s_nIconSide = 16;
 constexpr int s_nTitleMargin = 12;
 
-// A flat button that rises under the mouse in every style.
+// A flat button that every style draws raised while the mouse is over it.
 class TitleButton : public QPushButton
 {
 public:
@@ -43,7 +43,7 @@ protected:
     }
 };
 
-// As large as it was made: the menu bar would else grow beyond its titles with the image.
+// Keeps its fixed size as hint: with QLabel's, the image would make the menu bar higher than its titles.
 class IconLabel : public QLabel
 {
 public:
@@ -51,7 +51,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
     [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
 
-    // Shrinks the image to `nSide` if it is larger, and puts it in the middle if not.
+    // Scales the image down to `nSide` pixels, or centers a smaller one in a square of that size.
     void fit(const QPixmap &pixmap, int nSide)
     {
         const int nFrame = qMax(0, (nSide - pixmap.height()) / 2);
@@ -70,8 +70,8 @@ QString shownTitle(const QWidget *pTitleBar)
 
 } // namespace
 
-/// Lies over the whole menu bar and paints only where that is empty: it sees every change of the menus
-/// because it is painted with them. It lets the mouse through.
+/// Paints the title into the free part of the menu bar. It covers the whole bar, because a child is repainted
+/// with its parent and so follows every change of the menus; mouse events pass through it.
 class IMainMenuWidget::TitleText : public QWidget
 {
 public:
@@ -89,10 +89,10 @@ protected:
     {
         Q_UNUSED(pEvent)
         const QRect rect = textRect();
-        // In the middle, so that neither the name of the program nor the mark of a change is lost.
+        // Elided in the middle, so that the program's name and the modified mark at the end stay visible.
         const QString strText =
             fontMetrics().elidedText(shownTitle(m_pTitleBar), Qt::ElideMiddle, rect.width());
-        // A path reads in its own direction, whatever that of the window is.
+        // A path is drawn in its own direction, whatever that of the window is.
         const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
         QPainter painter(this);
         style()->drawItemText(&painter, rect, int(Qt::AlignCenter) | Qt::TextSingleLine | nDirection,
@@ -147,7 +147,7 @@ IMainMenuWidget::IMainMenuWidget(MainWindow *pParent, const QString &strTitle, c
 void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
 {
     m_pMenuBar = pMenuBar;
-    // A desktop that shows menus in a place of its own would take the title bar away.
+    // The desktop would show a native menu bar elsewhere, and the title bar would disappear with it.
     m_pMenuBar->setNativeMenuBar(false);
     m_pLayout->insertWidget(0, m_pMenuBar);
     if (auto *pMore = m_pMenuBar->findChild<QToolButton *>(QStringLiteral("qt_menubar_ext_button")))
@@ -157,7 +157,7 @@ void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
     createButtons();
     m_pTitleText = new TitleText(this);
     m_pTitleText->setGeometry(m_pMenuBar->rect());
-    // Otherwise it comes up with the menu bar, and is not dressed before.
+    // With a hidden bar it appears later; show() now would polish it before the style is final.
     if (m_pMenuBar->isVisible())
         m_pTitleText->show();
     m_pMenuBar->installEventFilter(this);
@@ -179,14 +179,14 @@ void IMainMenuWidget::createButtons()
         connect(pButton, &QPushButton::clicked, this, onClicked);
         pLayout->addWidget(pButton);
     };
-    // The odd name of the first is what style sheets and plug-ins know.
+    // "minizeButton" is misspelled, but fixed: style sheets and plug-ins find the button by this name.
     add("minizeButton", [this] { showMinimized(); });
     add("maximizeButton", [this] { window()->isMaximized() ? showNormal() : showMaximized(); });
     add("closeButton", [this] { close(); });
     m_pMenuBar->setCornerWidget(pCorner, Qt::TopRightCorner);
 }
 
-// What a window with the system's frame has by itself: a key for its menu bar and one for its own menu.
+// F10 opens the first menu and Alt+Space the window menu, as in a window with the system's frame.
 void IMainMenuWidget::createShortcuts()
 {
     auto *pMenus = new QShortcut(QKeySequence(Qt::Key_F10), this);
@@ -211,7 +211,7 @@ bool IMainMenuWidget::isTitleBarArea(int x, int y) const
     const QPoint point(x, y);
     if (!rect().contains(point))
         return false;
-    // Widgets in the menu bar, such as its corners, are the child at the point themselves.
+    // childAt() gives the innermost widget: over a corner widget that is not the menu bar.
     const auto *pMenuBar = qobject_cast<QMenuBar *>(childAt(point));
     return pMenuBar && !pMenuBar->actionAt(pMenuBar->mapFrom(this, point));
 }
@@ -229,8 +229,8 @@ void IMainMenuWidget::updateModified(bool bIsModified)
     update();
 }
 
-// The system shows the title of the top-level window, in the task bar for one. There "[*]" stands for the
-// mark of a change, and twice that for itself.
+// The system shows the title of the top-level window, for example in the task bar. In it, Qt replaces "[*]"
+// with the modified mark and "[*][*]" with a literal "[*]", so those of the file name are doubled.
 void IMainMenuWidget::changeEvent(QEvent *pEvent)
 {
     if (pEvent->type() == QEvent::WindowTitleChange || pEvent->type() == QEvent::ModifiedChange) {
@@ -273,13 +273,13 @@ void IMainMenuWidget::onDPIChanged()
         ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
     if (!m_pNotificationBar->isHidden())
         m_pNotificationBar->updateIcons();
-    // When it is shown, the menu bar does that by itself.
+    // A menu bar that is not visible sizes its corner widget when it is shown.
     if (m_pMenuBar->isVisible())
         m_pMenuBar->cornerWidget(Qt::TopRightCorner)->adjustSize();
 }
 
-// What lies beside the menu titles is as high as they are: styles paint a line under each title and under the
-// rest of the row, which is one line only if the titles fill the row.
+// The height for icon and buttons. Were they higher, the titles would not fill the row, and the lines that
+// styles paint under the titles and under the rest of the row would not meet.
 int IMainMenuWidget::menuTitleHeight() const
 {
     QStyleOptionMenuItem option;
@@ -306,7 +306,7 @@ void IMainMenuWidget::paintEvent(QPaintEvent *)
 {
     const QStyleOptionTitleBar option = titleBarOption();
     QStylePainter painter(this);
-    // A menu bar that is not opaque lets the strip be seen, but not the title a second time.
+    // Under a translucent menu bar the strip is drawn without the title, because the bar shows it already.
     if (m_pMenuBar && m_pMenuBar->isVisible()) {
         QStyleOptionTitleBar untitled = option;
         untitled.text.clear();
@@ -341,7 +341,7 @@ void IMainMenuWidget::drawTitle(QStylePainter &painter, const QStyleOptionTitleB
         option.text, QPalette::Text);
 }
 
-// The menu bar fills the row and would keep every mouse event to itself.
+// The menu bar covers the row and would keep the mouse events that must drag the window.
 bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
     if (pWatched != m_pMenuBar)
@@ -351,7 +351,7 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
         m_pTitleText->setGeometry(m_pMenuBar->rect());
         return false;
     case QEvent::StyleChange:
-        // The bar would measure the buttons, and so dress them in a style that is not the last one yet.
+        // Qt 6.4.2's bar would measure the buttons now and so polish them before the style is final.
         if (!m_pMenuBar->testAttribute(Qt::WA_WState_Polished))
             return true;
         Q_FALLTHROUGH();
@@ -368,7 +368,7 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
         const QPoint point = m_pMenuBar->mapTo(this, pHelp->pos());
         if (!isTitleBarArea(point.x(), point.y()) || !m_pTitleText->isElided())
             return false;
-        // A name of a file that looks like markup would be taken for it.
+        // A tool tip shows text that looks like HTML as HTML, and a file name may look so.
         const QString strTip = QStringLiteral("<p>%1</p>").arg(shownTitle(this).toHtmlEscaped());
         QToolTip::showText(pHelp->globalPos(), strTip, m_pMenuBar);
         return true;
@@ -383,8 +383,8 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
     }
 }
 
-// The menu bar sees buttons too, so that a click beside the menus leaves them; it must not open one under
-// the cursor of a drag.
+// The menu bar gets button events as well, because a click beside the menus closes them. During a drag it
+// gets no moves, because it would open a menu that comes under the cursor.
 bool IMainMenuWidget::passMouseEvent(QMouseEvent *pEvent)
 {
     const QPoint point = m_pMenuBar->mapTo(this, pEvent->position().toPoint());
@@ -412,7 +412,7 @@ void IMainMenuWidget::mousePressEvent(QMouseEvent *pEvent)
 
 void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
 {
-    // The release may have gone to another window.
+    // If another window got the release, only the state of the buttons tells that the drag is over.
     m_bDragging = m_bDragging && pEvent->buttons().testFlag(Qt::LeftButton);
     if (!m_bDragging)
         return;
@@ -420,7 +420,7 @@ void IMainMenuWidget::mouseMoveEvent(QMouseEvent *pEvent)
     const QPoint delta = cursor - m_pressPosition;
     if (window()->isMaximized()) {
         if (TitleBarGeometry::restoresMaximized(delta)) {
-            // Until the window system has answered, the window goes on with the size that it has.
+            // The window keeps its maximized size until the window system has answered showNormal().
             const auto *pMainWindow = qobject_cast<const MainWindow *>(window());
             m_nRestoredWidth =
                 (pMainWindow ? pMainWindow->normalGeometry() : window()->normalGeometry()).width();

@@ -14,11 +14,11 @@ class QStyleOptionTitleBar;
 class QStylePainter;
 class QVBoxLayout;
 
-/// The top strip of the frameless main window: one row of icon, menus, title and window buttons, and the
-/// notification bar under it. Its empty stretch moves the window. The main window owns it; GUI thread only.
+/// The top strip of the frameless main window: a row with icon, menus, title and buttons, and the
+/// notification bar below. The free part of the row drags the window. Owned by the window; GUI thread only.
 ///
-/// The title is the widget's own window title. The menu bar covers the strip on which it is painted, so it is
-/// shown again in the stretch that the menus leave free, and the top-level window's title follows it.
+/// The title to show is this widget's own window title. The menu bar covers the strip on which the style
+/// paints it, so it is painted again in the free part of the row. The top-level window gets the same title.
 class CORE_EXPORT IMainMenuWidget : public QWidget
 {
     Q_OBJECT
@@ -27,28 +27,28 @@ class CORE_EXPORT IMainMenuWidget : public QWidget
 public:
     IMainMenuWidget(MainWindow *pParent, const QString &strTitle, const QIcon &icon);
 
-    /// Takes the menu bar over and puts icon and window buttons into its corners. To be called once.
+    /// Takes ownership of the menu bar and puts icon and buttons into its corners. Call it only once.
     void setMenuBar(QMenuBar *pMenuBar);
 
     [[nodiscard]] KPNotificationBar *getNotificationBar() const { return m_pNotificationBar; }
 
-    /// Whether the point, in coordinates of this widget, drags the window: the empty stretch of the menu bar.
+    /// Whether the point, in widget coordinates, is on the free part of the menu bar, which drags the window.
     [[nodiscard]] virtual bool isTitleBarArea(int x, int y) const;
 
 public slots:
     void updateWindowFilePath(const QString &fileName);
     void updateModified(bool bIsModified);
 
-    /// Dresses the button "maximizeButton" for what it would do.
+    /// Gives the button "maximizeButton" icon and tool tip for what a click would do.
     void updateMaximized(bool bIsMaximized);
 
-    /// These act on the top-level window.
+    /// These four act on the top-level window instead of this widget.
     void showMinimized() { window()->showMinimized(); }
     void showMaximized() { window()->showMaximized(); }
     void showNormal() { window()->showNormal(); }
     bool close() { return window()->close(); }
 
-    /// Loads the icons again, and fits the row to them.
+    /// Loads the icons again for the present display scale and fits the row to them.
     void onDPIChanged();
 
 protected:

@@ -9,8 +9,8 @@
 class IOptionPage;
 
 /// Base of the preferences dialog, which the plug-in of the document format supplies. The main window asks
-/// the factory for it on first use and keeps what it gets; it asks again when that was null, or is gone. It
-/// does not delete it: whoever makes the dialog gives it a parent.
+/// its IDocumentFactory for the dialog on first use, and again if that gave null or the dialog was deleted.
+/// The main window does not delete it, so whoever makes it gives it a parent. GUI thread only.
 class CORE_EXPORT IOptionsDlg : public QDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     /// Shows the dialog with the current settings; the Preferences command calls it.
     virtual void showDialog() = 0;
 
-    /// Adds a page at the end; it is the dialog's from then on, as a child of it or of a widget in it.
+    /// Adds a page at the end, which becomes a child of the dialog or of a widget in it.
     virtual void addPage(IOptionPage *pPage) = 0;
 
 public slots:
@@ -38,6 +38,6 @@ public:
     [[nodiscard]] virtual bool hasChanges() = 0;
 
 protected:
-    /// Not owned by the list: the pages go with the dialog. In the order they are shown.
+    /// In the order in which they are shown. The list does not own them: they are children of the dialog.
     QList<IOptionPage *> m_pages;
 };

@@ -14,7 +14,7 @@ KPHTMLExposingWelcome::KPHTMLExposingWelcome(IMainMdiArea *pMdiArea)
 {
 }
 
-// Until its first client has asked for the objects, the channel does not notice that one dies.
+// Qt 6.4.2 does not notice the death of an object until a client of the channel has asked for the objects.
 KPHTMLExposingWelcome::~KPHTMLExposingWelcome()
 {
     if (m_pChannel && !m_pChannel->registeredObjects().key(this).isEmpty())

@@ -11,9 +11,9 @@
 class IMainMdiArea;
 class QWebChannel;
 
-/// What the welcome page can reach of the program, "kpwelcome" on the web channel: the slots here and nothing
-/// else. docs/security.md tells who may call them; add none that they must not. Child of the area it is made
-/// for, to which it hands on what is not answered here; leaves the channel when it dies. GUI thread only.
+/// What the welcome page can reach of the program: the slots of this object, which is "kpwelcome" on the web
+/// channel. docs/security.md tells who may call them; add no slot that these must not call. It is a child of
+/// the area, which answers most calls, and takes itself off the channel when it dies. GUI thread only.
 class CORE_EXPORT KPHTMLExposingWelcome : public QObject
 {
     Q_OBJECT
@@ -24,11 +24,11 @@ public:
     ~KPHTMLExposingWelcome() override;
 
 signals:
-    /// The page shall fetch the list of recent projects again.
+    /// Tells the page to fetch the list of recent projects again.
     void resetRecentFiles();
 
 public slots:
-    /// As the area's slots of the same names.
+    /// These do the same as the slots of IMainMdiArea with their names.
     void showInExplorer(const QString &strFileName);
     void removeFile(const QString &strFile);
     static QStringList getRecentFileList();

@@ -10,8 +10,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
-// Screen readers read an alert out when it comes up. Its texts are those that are shown: setting them as
-// properties of the widget would report a new name beside each alert, and the message be read twice.
+// Gives screen readers the shown texts as name and description of the alert. As properties of the widget they
+// would report a changed name beside each alert, and the message would be read twice.
 class KPNotificationBar::Alert : public QAccessibleWidget
 {
 public:
@@ -47,13 +47,13 @@ KPNotificationBar::KPNotificationBar(QWidget *pParent)
     , m_pUi(new Ui::KPNotificationBar)
 {
     m_pUi->setupUi(this);
-    // The window is moved by the title bar, which is the parent, and not by this.
+    // Mouse events must not reach the parent: it is the title bar and would drag the window.
     setAttribute(Qt::WA_NoMousePropagation);
     setAutoFillBackground(true);
     connect(m_pUi->m_pCloseButton, &QToolButton::clicked, this, &KPNotificationBar::hide);
     connect(m_pUi->m_pButton, &QPushButton::clicked, this, &KPNotificationBar::buttonClicked);
     connect(qApp, &QApplication::focusChanged, this, &KPNotificationBar::watchFocus);
-    // Installing it again changes nothing.
+    // Qt 6.4.2 ignores a factory that is installed already, so each bar may do this.
     QAccessible::installFactory(Alert::create);
 }
 
@@ -94,7 +94,7 @@ void KPNotificationBar::watchFocus(QWidget *pOld, QWidget *pNow)
         m_pFocusBefore = pOld;
 }
 
-// Else it would go to whatever comes next in the window.
+// Gives the focus back to where it came from; otherwise Qt gives it to the next widget in the window.
 void KPNotificationBar::hideEvent(QHideEvent *pEvent)
 {
     if (isHidden() && m_pFocusBefore && isAncestorOf(QApplication::focusWidget()))
@@ -102,7 +102,7 @@ void KPNotificationBar::hideEvent(QHideEvent *pEvent)
     QFrame::hideEvent(pEvent);
 }
 
-// Once for each message, also when the bar was visible already; the focus stays where it is.
+// Called for each message, because a bar that is visible already does not appear again. The focus stays.
 void KPNotificationBar::announce()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)

@@ -12,16 +12,20 @@ namespace Ui {
 class KPNotificationBar;
 }
 
-/// One line under the menus that tells the user something without a dialog. The title bar owns it; GUI thread
-/// only. It stays until the user closes it or its owner hides it. Screen readers are told of each message by
-/// an alert; one that also reads alerts as they appear may read the first message of a hidden bar twice.
+/// One line under the menus that tells the user something without a dialog, until the user closes it or its
+/// owner hides it. The title bar owns it; GUI thread only. Screen readers are told of each message by an
+/// alert; one that also reads alerts as they appear may read the first message of a hidden bar twice.
+///
+///     MainWindow *pWindow = ICore::getMainWindow();
+///     pWindow->showNotification(tr("The server is gone."), KPNotificationBar::Warning, tr("Connect"), true);
+///     connect(pWindow->getNotificationBar(), &KPNotificationBar::buttonClicked, this, &MyPlugin::retry);
 class CORE_EXPORT KPNotificationBar : public QFrame
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(KPNotificationBar)
 
 public:
-    // With a type of its own, so that plug-ins may pass other values: they look like Info.
+    // The fixed underlying type makes any int a valid value; those without a name look like Info.
     enum Type : int {
         Info = 0,
         Warning = 1,
@@ -30,11 +34,11 @@ public:
     explicit KPNotificationBar(QWidget *pParent);
     ~KPNotificationBar() override;
 
-    /// Shows a plain text. An empty `buttonText` leaves the button away; without `closable` only hide() ends
-    /// it. Whoever was connected to buttonClicked() no longer is: connect after this call.
+    /// Shows `text` as plain text. Without `buttonText` there is no button; if `closable` is false, only
+    /// hide() ends the message. Disconnects everything from buttonClicked(): connect after this call.
     void show(const QString &text, Type type, const QString &buttonText, bool closable);
 
-    /// Loads the icons again, for the scale that the display has now.
+    /// Loads the icons again for the present display scale.
     void updateIcons();
 
     /// The message that was shown last.
@@ -54,6 +58,6 @@ private:
     void watchFocus(QWidget *pOld, QWidget *pNow);
 
     Type m_type = Info;
-    QPointer<QWidget> m_pFocusBefore; // where it came from into the bar
+    QPointer<QWidget> m_pFocusBefore; // had the focus before it came into the bar
     const std::unique_ptr<Ui::KPNotificationBar> m_pUi;
 };

@@ -16,7 +16,7 @@ void KPStyledFrameHelper::setUpNativeWindow()
         d->setUp();
 }
 
-// What the record says of the old window does not hold for the new one.
+// The record describes the old native window, so it begins anew for the new one.
 void KPStyledFrameHelper::nativeWindowChanged()
 {
     d->pWindow = nullptr;

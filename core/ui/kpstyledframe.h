@@ -10,28 +10,28 @@
 #include <memory>
 
 /// The native half of a frameless window. On Windows it answers the window's native messages, so that the
-/// window is resized, dragged, maximised and given a shadow like a framed one; elsewhere the edges start the
-/// window system's resize, and on Wayland the title bar its move. The frame owns it as a second base, so both
-/// live equally long. GUI thread only.
+/// user can resize, drag and maximize it as a framed one, and it has a shadow. Elsewhere a press on an edge
+/// starts the window system's resize, and on Wayland a drag of the title bar its move. It is a base class of
+/// the frame, so both live equally long. GUI thread only.
 class CORE_EXPORT KPStyledFrameHelper
 {
 public:
     explicit KPStyledFrameHelper(QWidget *pWidget);
 
 protected:
-    /// Not virtual: nobody deletes a frame as its helper.
+    /// Not virtual, because no frame is deleted through a pointer to this class.
     ~KPStyledFrameHelper();
 
     /// Whether the point, in logical client coordinates, lies on a part of the window that drags it.
     [[nodiscard]] virtual bool isStyledFrameTitleBar(int x, int y) const = 0;
 
-    /// Prepares the native window; on Windows this makes it. Does nothing when it is prepared already.
+    /// Prepares the native window, which on Windows creates it. Does nothing if it is prepared already.
     void setUpNativeWindow();
 
-    /// To be called when the widget has got another native window or lost the one it had.
+    /// Must be called when the widget has got another native window or has lost the one it had.
     void nativeWindowChanged();
 
-    /// True: the message was handled and `pResult` holds the answer.
+    /// For QWidget::nativeEvent(): returns true if the message was handled and `pResult` holds the answer.
     bool handleNativeEvent(const QByteArray &eventType, void *pMessage, qintptr *pResult);
 
 private:
@@ -41,8 +41,8 @@ private:
     const std::unique_ptr<Private> d;
 };
 
-/// A top-level widget without the system's frame. A derived class that overrides event() or nativeEvent()
-/// calls these.
+/// A top-level widget without the system's frame; `Base` is QWidget or derived from it. A class that
+/// overrides event() or nativeEvent() calls the ones here.
 template <typename Base>
 class KPStyledFrame : public Base, public KPStyledFrameHelper
 {
@@ -55,7 +55,7 @@ public:
     }
 
 protected:
-    // Setting the window flags, for one, replaces the native window.
+    // Qt replaces the native window, for example, when the window flags change.
     bool event(QEvent *pEvent) override
     {
         if (pEvent->type() == QEvent::WinIdChange)

@@ -33,7 +33,7 @@ constexpr EdgeBehaviour s_edges[] = {
     {Hit::BottomLeft, Qt::BottomEdge | Qt::LeftEdge, Qt::SizeBDiagCursor},
 };
 
-// Pixels at 100 percent: narrow enough to leave a scroll bar at the edge usable.
+// In pixels at a display scale of 100 percent: narrow enough to leave a scroll bar at the edge usable.
 constexpr int s_nBorder = 4;
 constexpr int s_nCorner = 16;
 
@@ -44,9 +44,9 @@ bool isWayland()
 
 } // namespace
 
-/// Sees the mouse before the widgets do: events go to the native window first. A child with a native window
-/// of its own keeps its events, because the resize would start from the wrong point; there the margin is the
-/// edge.
+/// Filters the events of the native window, which Qt delivers before those of the widgets in it. A child with
+/// a native window of its own keeps its events, because a resize would start from the wrong point; where such
+/// a child fills the window, only the window's margin resizes it.
 struct KPStyledFrameHelper::Private::Native : public QObject
 {
     explicit Native(Private &record)
@@ -63,7 +63,7 @@ struct KPStyledFrameHelper::Private::Native : public QObject
     [[nodiscard]] const EdgeBehaviour *edgeAt(const QPoint &point) const;
 
     Private &d;
-    const EdgeBehaviour *pShown = nullptr; // whose cursor overrides the widgets'
+    const EdgeBehaviour *pShown = nullptr; // the edge whose cursor overrides those of the widgets
     QPoint pressPoint;
     bool bTitlePressed = false;
 };
@@ -110,7 +110,7 @@ bool KPStyledFrameHelper::Private::Native::eventFilter(QObject *pWatched, QEvent
     }
 }
 
-// Null while a menu is open: the press that closes it is not for the edge.
+// Null also while a menu is open: the press that closes it must not start a resize.
 const EdgeBehaviour *KPStyledFrameHelper::Private::Native::edgeAt(const QPoint &point) const
 {
     if (QApplication::activePopupWidget())
@@ -125,7 +125,7 @@ const EdgeBehaviour *KPStyledFrameHelper::Private::Native::edgeAt(const QPoint &
     return pEdge == std::end(s_edges) ? nullptr : pEdge;
 }
 
-// A system without resizing or moving says no, and the widgets get the press as usual.
+// If the window system cannot resize windows, the widgets get the press as usual.
 bool KPStyledFrameHelper::Private::Native::press(const QMouseEvent &event)
 {
     bTitlePressed = false;
@@ -134,7 +134,7 @@ bool KPStyledFrameHelper::Private::Native::press(const QMouseEvent &event)
     const QPoint point = d.pWidget->mapFromGlobal(event.globalPosition().toPoint());
     if (const EdgeBehaviour *pEdge = edgeAt(point))
         return d.pWidget->windowHandle()->startSystemResize(pEdge->edges);
-    // A double click stays with the title bar.
+    // A double click goes on to the title bar, which maximizes the window.
     bTitlePressed = isWayland() && event.type() == QEvent::MouseButtonPress
         && !QApplication::activePopupWidget() && d.isTitleBar(point);
     pressPoint = point;
@@ -154,7 +154,7 @@ bool KPStyledFrameHelper::Private::Native::move(const QMouseEvent &event)
     return bTitlePressed;
 }
 
-// An override, because the widgets under the edge set the window's own cursor as the pointer comes to them.
+// The override cursor is used, because the widgets under the edge set the window's cursor when entered.
 void KPStyledFrameHelper::Private::Native::showCursor(const EdgeBehaviour *pEdge)
 {
     if (pEdge == pShown)

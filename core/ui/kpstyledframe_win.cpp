@@ -8,7 +8,7 @@
 
 using FrameGeometry::Rect;
 
-// Messages with which the theme service has classic captions and frames painted; no header names them.
+// Windows sends the undocumented WM_NCUAHDRAWCAPTION and WM_NCUAHDRAWFRAME to have classic frames painted.
 constexpr UINT s_nDrawCaption = 0x00ae;
 constexpr UINT s_nDrawFrame = 0x00af;
 
@@ -66,7 +66,7 @@ KPStyledFrameHelper::Private::Private(KPStyledFrameHelper *pOwner, QWidget *pFra
 
 KPStyledFrameHelper::Private::~Private() = default;
 
-// winId() makes the window, and the messages of that come here: the mark is set before.
+// winId() creates the window, whose first messages come here and must not start the set-up again.
 void KPStyledFrameHelper::Private::setUp()
 {
     bSetUp = true;
@@ -75,13 +75,13 @@ void KPStyledFrameHelper::Private::setUp()
         bSetUp = false;
         return;
     }
-    // A window that was made just now has reported itself and is set up already.
+    // If winId() has just created the window, its WinIdChange event has set it up meanwhile.
     if (pWindow == hWnd)
         return;
     pWindow = hWnd;
     SetWindowLongW(hWnd, GWL_EXSTYLE, GetWindowLongW(hWnd, GWL_EXSTYLE) | WS_EX_LAYERED);
     SetLayeredWindowAttributes(hWnd, RGB(255, 0, 255), 0, LWA_COLORKEY);
-    // Other flags may leave the window with the region it had, while the record starts without one.
+    // After a change of window flags the window may have a region, while the record starts without one.
     SetWindowRgn(hWnd, nullptr, FALSE);
     pNative->updateComposition();
     bThemeActive = IsThemeActive() == 1;
@@ -96,7 +96,7 @@ void KPStyledFrameHelper::Private::Native::updateComposition()
 {
     d.bComposition = isComposited();
     if (d.bComposition) {
-        // One line of frame inside the client area is what makes the compositor draw the shadow.
+        // The compositor draws the shadow only if some of the frame lies in the client area; one line does.
         const MARGINS margins {0, 0, 1, 0};
         DwmExtendFrameIntoClientArea(window(), &margins);
         const DWMNCRENDERINGPOLICY policy = DWMNCRP_ENABLED;
@@ -119,7 +119,7 @@ void KPStyledFrameHelper::Private::Native::updateRegion()
     if (EqualRect(&oldRect, &newRect))
         return;
     d.region = region;
-    // The system takes the region over.
+    // The system owns the region from now on.
     SetWindowRgn(window(), region == Rect {} ? nullptr : CreateRectRgnIndirect(&newRect), TRUE);
 }
 
@@ -145,7 +145,7 @@ FrameGeometry::Hit KPStyledFrameHelper::Private::Native::hitTest(LPARAM lParam) 
     return FrameGeometry::hitTest({point.x, point.y}, client, borders, d.isResizable(isMaximized()));
 }
 
-// While the window does not count as visible, the default handling paints no caption over it.
+// The default handling paints no caption over a window that does not count as visible.
 LRESULT KPStyledFrameHelper::Private::Native::defaultWithoutCaption(const MSG &message) const
 {
     const LONG_PTR nStyle = GetWindowLongPtrW(window(), GWL_STYLE);
@@ -192,8 +192,8 @@ bool KPStyledFrameHelper::Private::Native::dragTitleBar(LPARAM lParam, qintptr *
     return true;
 }
 
-// The system maximises and restores by itself only a window that has a maximise box in its style, and the
-// frame does not ask for one.
+// Windows maximizes and restores on a double click only if the window's style has a maximize box. This frame
+// asks for none, so what the default handling leaves undone is done here.
 bool KPStyledFrameHelper::Private::Native::toggleMaximized(LPARAM lParam, qintptr *pResult) const
 {
     if (!isTitleBar(lParam))
@@ -215,14 +215,14 @@ bool KPStyledFrameHelper::Private::Native::handle(const MSG &message, qintptr *p
         return true;
     };
     switch (message.message) {
-    case WM_NCACTIVATE: // -1: without painting the caption
+    case WM_NCACTIVATE: // -1 as lParam keeps the default handling from painting the caption
         return answer(DefWindowProcW(message.hwnd, message.message, message.wParam, -1));
     case WM_SETTEXT:
     case WM_SETICON:
         return !d.bComposition && !d.bThemeActive && answer(defaultWithoutCaption(message));
     case WM_NCCALCSIZE:
         DefWindowProcW(message.hwnd, message.message, message.wParam, message.lParam);
-        // With either wParam the first proposed rectangle is what lParam points at.
+        // lParam points at a RECT or a NCCALCSIZE_PARAMS; both begin with the proposed rectangle.
         if (isMaximized())
             fitMaximized(reinterpret_cast<RECT *>(message.lParam));
         return answer(0);
@@ -242,8 +242,8 @@ bool KPStyledFrameHelper::Private::Native::handle(const MSG &message, qintptr *p
         d.bThemeActive = IsThemeActive() == 1;
         return false;
     case WM_DWMCOMPOSITIONCHANGED:
-        // Goes on as a double click at (0, 0), which is what its lParam says: a title bar that covers that
-        // corner maximises or restores the window, and what is docked in it is laid out anew.
+        // Goes on as a double click at (0, 0), because that is what its lParam says: if the title bar covers
+        // that corner, the window is maximized or restored, and its contents are laid out anew.
         updateComposition();
         *pResult = 0;
         [[fallthrough]];

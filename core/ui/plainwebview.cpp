@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Pictures and style sheets that a text names are neither read from files nor fetched.
+/// A text browser that loads none of the pictures and style sheets that a text names.
 class ClosedBrowser : public QTextBrowser
 {
 public:
@@ -52,7 +52,7 @@ void PlainWebView::setBackground(const QColor &color)
     m_pBrowser->setPalette(palette);
 }
 
-// Like the engine: the signal comes from the event loop.
+// As with the engine, the signal comes from the event loop, so connecting after load() is early enough.
 void PlainWebView::finishLater(bool bOk)
 {
     QMetaObject::invokeMethod(

@@ -5,7 +5,7 @@
 
 class QTextBrowser;
 
-/// The view without a browser engine: shows the HTML it is given, and fetches nothing.
+/// The view without a browser engine. It shows the HTML it is given and fetches nothing: load() fails.
 class PlainWebView : public WebView
 {
     Q_OBJECT

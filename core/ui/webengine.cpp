@@ -23,7 +23,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcWeb, "kelpa.core.web")
 
-// The engine's own sandbox needs a user that is not root, and a program that asks for nothing else.
+// The engine ends the program of a root user unless its sandbox is off (see https://crbug.com/638180).
 void allowRoot()
 {
 #ifdef Q_OS_UNIX
@@ -34,8 +34,8 @@ void allowRoot()
 #endif
 }
 
-// Without a graphics card OpenGL is emulated, and slower by far than the engine when it draws by itself. What
-// is overlooked here costs only time.
+// Without a graphics card OpenGL is emulated, which is far slower than the engine's drawing without OpenGL. A
+// card that is not found here costs only speed.
 bool hasGraphicsCard()
 {
 #ifdef Q_OS_LINUX
@@ -46,9 +46,9 @@ bool hasGraphicsCard()
 #endif
 }
 
-// The engine draws into contexts that share with this one. It is normally made before the application
-// object, at every start; made here, only who needs the engine pays for it. One that is
-// not valid tells the module to do without; the engine misses it when there is none.
+// The engine draws into contexts that share with a global one. With Qt::AA_ShareOpenGLContexts the
+// application makes that at every start; made here, it costs nothing until a page is shown. An invalid
+// context tells the module to draw without OpenGL; without any, Qt WebEngine 6.4.2 warns.
 void shareContexts()
 {
     if (qt_gl_global_share_context())
@@ -72,8 +72,8 @@ const QString s_helper = QStringLiteral("/QtWebEngineProcess");
 #endif
 const QString s_data = QStringLiteral("/qtwebengine_resources.pak");
 
-// The places where a part is not, if it is nowhere. The engine looks only where the environment tells it to,
-// if that does.
+// The places that were searched, if the part is in none of them, otherwise an empty text. If the environment
+// variable is set, the engine looks only where it says.
 QString missing(
     const char *pVariable, const QString &strInNamed, QStringList places, bool (QFileInfo::*isUsable)() const)
 {
@@ -86,7 +86,7 @@ QString missing(
     return bFound ? QString() : places.join(QLatin1String(", "));
 }
 
-// Of what the engine would end the whole program for. In the bundles of macOS it lies elsewhere.
+// Looks for the files without which the engine ends the program. A bundle of macOS keeps them elsewhere.
 QString missingPart()
 {
 #ifdef Q_OS_MACOS

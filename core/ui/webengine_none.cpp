@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the program is built without its web parts.
+// Used when the program is built without its web parts.
 #include "ui/webengine_p.h"
 
 WebViewFactory *webEngineFactory()

@@ -3,6 +3,6 @@
 
 class WebViewFactory;
 
-/// The module with the browser engine, loaded on the first call; null where there is none. Why is logged
-/// once.
+/// The module with the browser engine, loaded on the first call. Null if it is not part of the program, or
+/// cannot be loaded; the reason for that is logged once.
 [[nodiscard]] WebViewFactory *webEngineFactory();

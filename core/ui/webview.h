@@ -10,13 +10,13 @@
 
 /// What a page in a WebView may do beside showing what the web offers.
 enum class WebAccess {
-    Web, ///< http and https only; links leave for the desktop's browser
+    Web, ///< only http and https; links open in the desktop's browser
     OwnPages ///< only the program's resources ("qrc:") and web sockets of this machine: nothing leaves it
 };
 
-/// A view of a web page: made by WebViewLoader, with the browser engine behind it or without. Nothing is kept
-/// between views, no page reads local files or runs plug-ins, and only http and https links are opened, in
-/// the desktop's browser. GUI thread only.
+/// A view of a web page, made by WebViewLoader with the browser engine behind it or without, and owned by its
+/// parent. Nothing is kept between views, no page reads local files or runs plug-ins, and only http and https
+/// links are opened, in the desktop's browser. GUI thread only.
 class CORE_EXPORT WebView : public QWidget
 {
     Q_OBJECT
@@ -26,31 +26,31 @@ public:
     explicit WebView(QWidget *pParent);
     ~WebView() override;
 
-    /// loadFinished() follows, also when the URL is refused.
+    /// Loads the page; loadFinished() follows from the event loop, also if the URL is refused.
     virtual void load(const QUrl &url) = 0;
 
-    /// Shows this text; it has no address of its own. loadFinished() follows.
+    /// Shows this HTML text, which has no address of its own; loadFinished() follows.
     virtual void setHtml(const QString &strHtml) = 0;
 
-    /// 1 is the size at 96 DPI.
+    /// Scales the page; 1 is its size at 96 DPI.
     virtual void setZoomFactor(double fFactor) = 0;
 
-    /// What scripts of a page find in `window.pageData`, before the first of them runs. A page that is there
-    /// already gets the event "pagedata" on its window.
+    /// Sets `window.pageData` for the scripts of each page before the first of them runs. A page that is
+    /// loaded already gets the new data and then the event "pagedata" on its window.
     virtual void setPageData(const QJsonObject &pageData) = 0;
 
-    /// Until the page paints.
+    /// The color to show until the page paints.
     virtual void setBackground(const QColor &color) = 0;
 
 signals:
-    /// False also when a page that was there is gone, because the process that showed it ended; not when it
-    /// wanted to go where it must not.
+    /// `ok` is false also if a page was loaded and its process ended. A page that only tried to go to an
+    /// address that it must not open stays, and nothing is emitted.
     void loadFinished(bool ok);
 
     /// The page gave itself a title.
     void titleChanged(const QString &strTitle);
 
-    /// The page, or some part of it, asked for this; not allowed is not fetched.
+    /// The page, or some part of it, asked for `url`, which is fetched only if `bAllowed` is true.
     void requested(const QUrl &url, bool bAllowed);
 
 protected:
@@ -58,13 +58,13 @@ protected:
     static void openOutside(const QUrl &url);
 };
 
-/// What the module with the engine offers; found through the plug-in mechanism of Qt.
+/// The interface of the module with the browser engine, which is a Qt plug-in.
 class WebViewFactory
 {
 public:
     virtual ~WebViewFactory() = default;
 
-    /// Null when the engine does not come up.
+    /// Makes a view that `pParent` owns; null if the engine does not start.
     [[nodiscard]] virtual WebView *create(WebAccess access, QWidget *pParent) = 0;
 };
 

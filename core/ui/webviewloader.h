@@ -4,12 +4,15 @@
 #include <core_global.h>
 #include <ui/webview.h>
 
-/// The browser engine on demand: the program links none, and loads the module with it when the first view is
-/// made. GUI thread only.
+/// Views of web pages. The module with the browser engine is loaded for the first one. GUI thread only.
+///
+///     WebView *pView = WebViewLoader::createView(WebAccess::Web, pPanel);
+///     connect(pView, &WebView::loadFinished, this, &MyPlugin::onLoaded);
+///     pView->load(QUrl(QStringLiteral("https://kelpa.example/")));
 namespace WebViewLoader {
 
-/// A new view, filling the layout of `pParent`, which owns it; a parent without a layout gets one. Without
-/// the engine it is one that shows HTML in a simple way, and fails to load any URL of the web.
+/// A new view in the layout of `pParent`, which owns it and gets a layout if it has none. Without the engine
+/// it only shows HTML in a simple way, and load() fails.
 CORE_EXPORT WebView *createView(WebAccess access, QWidget *pParent);
 
 } // namespace WebViewLoader
