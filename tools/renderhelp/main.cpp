@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// renderhelp INPUT.md OUTPUT.pdf: sets a help document, written in Markdown, for A4 paper and the screen.
+// renderhelp INPUT.md OUTPUT.pdf: lays out a help document, written in Markdown, as a PDF with A4 pages.
 #include <QBuffer>
 #include <QCommandLineParser>
 #include <QFile>
@@ -33,7 +33,7 @@ QString read(const QString &strFile)
     return QString::fromUtf8(file.readAll());
 }
 
-// Thin lines and some air, and as wide as the text.
+// Gives the tables thin lines, padding and the full width of the text.
 void dressTables(const QTextDocument &document)
 {
     const auto frames = document.rootFrame()->childFrames();
@@ -53,7 +53,7 @@ void dressTables(const QTextDocument &document)
     }
 }
 
-// Headings do not begin right under what comes before them.
+// Adds space above headings, and below headings and paragraphs but not list items.
 void spaceBlocks(const QTextDocument &document)
 {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -68,7 +68,7 @@ void spaceBlocks(const QTextDocument &document)
     }
 }
 
-// In memory: the writer does not tell what became of a file.
+// Prints into memory, because QPdfWriter does not tell whether writing a file has failed.
 QByteArray printed(const QTextDocument &document)
 {
     QBuffer buffer;
@@ -80,7 +80,7 @@ QByteArray printed(const QTextDocument &document)
     return buffer.data();
 }
 
-// A full disk may take a beginning first; only the next attempt names the reason.
+// A full disk may take the first part of the content; only the attempt to write the rest fails then.
 bool writeAll(QIODevice *pOutput, const QByteArray &content)
 {
     qint64 nDone = 0;

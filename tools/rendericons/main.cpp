@@ -24,7 +24,7 @@ constexpr int s_nPlainSize = 32;
 constexpr double s_dDisabledOpacity = 0.4;
 const QList<int> s_icoSizes = {16, 24, 32, 48, 64, 128, 256};
 
-// The first error ends the program: half a set of icons is of no use.
+// Ends the program at the first error, because an incomplete set of icons is of no use.
 [[noreturn]] void fail(const QString &strFile, const QString &strReason)
 {
     std::fprintf(stderr, "rendericons: %s: %s\n", qPrintable(strFile), qPrintable(strReason));
@@ -77,7 +77,7 @@ QByteArray toPng(const QImage &image)
     return data;
 }
 
-// The collection in the order of writing, so that two runs give the same file.
+// The images written so far. The collection lists them in that order, so that two runs give the same file.
 class Collection
 {
 public:
@@ -134,7 +134,7 @@ void addPngs(Collection &collection, QSvgRenderer &renderer, const QString &strS
     }
 }
 
-// PNG images behind an icon directory; 256 pixels are written as 0 there.
+// An .ico file is a directory followed by PNG images; a side of 256 pixels is 0 in its bytes there.
 QByteArray toIco(QSvgRenderer &renderer)
 {
     QByteArray directory;
