@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands and contexts: the change of focus, the look-up of a context, registering.
+// The time to change the focus, to look up the context of a widget and to register commands.
 #include <bench/bounds.h>
 
 #include <actionmanager/actionmanager.h>
@@ -25,15 +25,15 @@ QString idOf(int i)
     return QStringLiteral("Bench.%1").arg(i, 6, 10, QLatin1Char('0'));
 }
 
-// Two strokes, so that there are enough of them.
+// Each shortcut has two strokes, because there are not enough keys for shortcuts of one.
 QKeySequence keysOf(int i)
 {
     return QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_A + i % 26), Qt::ALT | Qt::Key(Qt::Key_0 + i / 26 % 75));
 }
 
-/// Commands of the whole window, some with shortcuts. As many as `nSwitching`, among them such with
-/// shortcuts, have an action for a panel, and half of these have no other, so that they are disabled
-/// elsewhere.
+/// Commands of the whole window, the first `nShortcuts` of them with shortcuts. Spread among them,
+/// `nSwitching` commands have an action for a panel. Half of these have no other action, so they are disabled
+/// while the focus is outside the panel.
 class Commands
 {
 public:
@@ -104,7 +104,7 @@ private:
     Targets m_windowTargets;
 };
 
-// One item is one change of focus; there and back are two.
+// Each iteration moves the focus once, into the panel and out of it by turns.
 void Focus(benchmark::State &state, int nCount, int nShortcuts, bool bRegistry)
 {
     const Commands commands(nCount, nShortcuts, 100);
@@ -138,7 +138,7 @@ void ActiveContext(benchmark::State &state)
 constexpr int s_nRegistered = 5000;
 constexpr int s_nStored = 500;
 
-/// Shortcuts in the store, as long as it lives.
+/// Keeps shortcuts in the store as long as it lives.
 struct Stored
 {
     Stored()
@@ -168,7 +168,7 @@ void Register(benchmark::State &state)
     }
 }
 
-// What a program without a registry does for the same: actions in the window, with their stored shortcuts.
+// What a program without a registry would do: add actions, with their stored shortcuts, to the window.
 void RegisterPlain(benchmark::State &state)
 {
     const Stored stored;

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-/// What a benchmark may take: nanoseconds, or a multiple of another benchmark's time. Processor time counts
-/// where the work is that of one thread: other programs on the machine must not matter.
+/// What a benchmark may take: nanoseconds, or a multiple of the time of `comparedTo` if that is not empty.
+/// Processor time counts, which other programs do not disturb, unless the benchmark asks for real time.
 struct Bound
 {
     std::string name;
@@ -19,9 +19,9 @@ struct Bound
     std::string comparedTo;
 };
 
-/// Prints like the console and keeps the time of every repetition, to compare the medians with the
-/// bounds. In a short run, which has slack, the fastest repetitions tell most: what else the machine does
-/// slows the others.
+/// Prints like the console reporter and keeps the time of every repetition. The bounds are compared with the
+/// medians; in a run with slack, which is short, the fastest repetition counts instead, because whatever else
+/// the machine does slows the others.
 class BoundsReporter : public benchmark::ConsoleReporter
 {
 public:
@@ -34,13 +34,13 @@ public:
             const double fNs = (bReal ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime())
                 / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
             std::vector<double> &times = m_times[run.run_name.function_name];
-            if (run.run_type == Run::RT_Iteration || times.empty()) // the median may stand for all
+            if (run.run_type == Run::RT_Iteration || times.empty()) // a median alone stands for all
                 times.push_back(fNs);
         }
         ConsoleReporter::ReportRuns(runs);
     }
 
-    /// False if a benchmark that ran exceeds its bound times `fSlack`, or none ran; with zero only prints.
+    /// False if a benchmark that ran exceeds its bound times `fSlack`, or none ran. With 0 it only prints.
     bool check(const std::vector<Bound> &bounds, double fSlack) const
     {
         bool bGood = true;
@@ -74,8 +74,8 @@ private:
     std::map<std::string, std::vector<double>> m_times;
 };
 
-/// Runs what is registered. The exit code: whether all bounds hold, times KELPA_BENCH_SLACK from the
-/// environment.
+/// Runs the registered benchmarks and returns the exit code: 0 if all bounds hold, times the number in the
+/// environment variable KELPA_BENCH_SLACK.
 inline int runBenchmarks(int argc, char *argv[], const std::vector<Bound> &bounds)
 {
     benchmark::Initialize(&argc, argv);

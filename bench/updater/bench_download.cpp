@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// bench_download [MEGABYTES]: what the download of an installer costs, with its length announced and without.
-// Fails when the memory grows by more than 40 MB or the event loop does not turn for more than 50 ms.
+// bench_download [MEGABYTES]: downloads an installer, first with its length announced and then without. Fails
+// when the memory grows by more than 40 MB or the event loop stands still for more than 50 ms.
 #include <updater/largedownload.h>
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the transport costs beside the least that could do its work: messages there and back over a real
-// socket, the client in a thread of its own.
+// Compares the throughput of WebSocketTransport with that of the least that could do its work. Messages go
+// there and back over a real socket; the client has a thread of its own.
 #include <bench/bounds.h>
 #include <webchannel/websocketclientwrapper.h>
 #include <webchannel/websockettransport.h>
@@ -64,7 +64,7 @@ public:
 
 enum class Kind { Bare, Transport, SmallestChannel, Channel };
 
-/// Answers each message, in the way to be measured.
+/// Answers each message, by the kind of transport that is to be measured.
 class EchoServer
 {
 public:
@@ -117,7 +117,7 @@ public:
     Client()
     {
         connect(&m_socket, &QWebSocket::connected, this, [this] {
-            // As browsers do.
+            // Sends without delay (TCP_NODELAY), as browsers do.
             if (auto *pTcp = m_socket.findChild<QTcpSocket *>())
                 pTcp->setSocketOption(QAbstractSocket::LowDelayOption, 1);
             emit ready();
@@ -153,7 +153,7 @@ private:
     int m_nUnanswered = 0;
 };
 
-// A call of the echo's method: the form does for all kinds, so that all carry the same bytes.
+// A call of Echo::echo(). Kinds without a channel get it too, so that all carry the same bytes.
 QString messageOf(qsizetype nSize)
 {
     const QString strHead = QStringLiteral(R"({"type":6,"id":1,"object":"echo","method":"echo","args":[")");
@@ -195,7 +195,7 @@ const std::vector<std::pair<std::string, Kind>> s_kinds {
     {"channel on the transport", Kind::Channel},
 };
 
-// At least 0.95 of the throughput.
+// The transport must reach 95 percent of the throughput of what it is compared with.
 std::vector<Bound> bounds()
 {
     std::vector<Bound> result;
@@ -207,8 +207,8 @@ std::vector<Bound> bounds()
     return result;
 }
 
-// Whether the allocator hands large blocks back to the system between two messages is chance, and costs more
-// than what is measured here.
+// Keeps the allocator from handing large blocks back to the system between two messages. Whether it does so
+// is chance, and costs more than what is measured here.
 void keepMemory()
 {
 #ifdef __GLIBC__

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Opening and closing many projects in the main window, one after the other with the real editor and all at
-// once without tabs, of which Qt lays out all for each: bench_documents [COUNT]. The time for each must not
-// grow with how many there were.
+// bench_documents [COUNT]: opens and closes many projects in the main window; first one after the other with
+// the real editor, then all at once without tabs, because Qt lays out all tabs for each new one. The time for
+// each project must not grow with their number.
 #include "stagefactory.h"
 
 #include <document/editormanager.h>
@@ -25,7 +25,7 @@ const QByteArray s_project = R"({"format": "kelpa", "version": 1,
  "scenes": [{"name": "One", "elements": [
    {"id": "a", "type": "rectangle", "x": 20, "y": 20, "width": 60, "height": 60, "fill": "#ff0000"}]}]})";
 
-// Documents of the stage, and editors that show nothing if so wanted.
+// Makes documents of the stage, with editors that show nothing unless `bShows` is true.
 class Factory : public StageFactory
 {
 public:
@@ -40,14 +40,14 @@ double s_fSlack = 1;
 template <typename Step>
 double msOf(const Step &step)
 {
-    const std::clock_t start = std::clock(); // processor time: neither the disk nor other programs matter
+    const std::clock_t start = std::clock(); // processor time: disk and other programs do not matter
     step();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
 }
 
-// The medians: other programs on the machine disturb single steps.
+// The median is used because other programs on the machine disturb single steps.
 double median(std::vector<double>::const_iterator begin, std::vector<double>::const_iterator end)
 {
     std::vector<double> values(begin, end);
@@ -101,7 +101,7 @@ int main(int argc, char *argv[])
     const bool bAll = EditorManager::getEditors().size() == nCount;
     while (!EditorManager::getEditors().isEmpty())
         closing.push_back(msOf(close));
-    std::reverse(closing.begin(), closing.end()); // by how many are open
+    std::reverse(closing.begin(), closing.end()); // now in the order of how many were open
     ExtensionSystem::PluginManager::removeObject(&factory);
 
     const bool bPairs = report("open and close, one after the other", pairs, 1.3);

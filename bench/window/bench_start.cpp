@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// From exec to the mapped main window with the plug-ins core and stage, and the memory it then takes, against
-// a bare main window of the same size; the time with all plug-ins beside it: bench_start PROGRAM [RUNS].
-// Needs an X display with a window manager.
+// bench_start PROGRAM [RUNS]: compares the time from exec to the mapped main window, and the resident memory
+// then, of the program with the plug-ins core and stage and of a bare main window of the same size. Also
+// prints the time with all plug-ins. Needs an X display with a window manager.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -24,7 +24,7 @@ constexpr double s_fMostTime = 2.0; // times the bare window's
 constexpr double s_fMostMemory = 1.6;
 constexpr int s_nTimeoutMs = 60000;
 
-// Sees each window that is mapped on the display.
+// Reports each window that is mapped on the display.
 class MapWatch
 {
 public:
@@ -39,14 +39,14 @@ public:
     ~MapWatch() { xcb_disconnect(m_pConnection); }
     Q_DISABLE_COPY_MOVE(MapWatch)
 
-    // What the programs before have left: a window may be made anew after its start.
+    // Drops what earlier programs have caused: a window may be replaced, and mapped again, after its start.
     void forget()
     {
         while (void *pEvent = xcb_poll_for_event(m_pConnection))
             std::free(pEvent);
     }
 
-    // The size of the next one that is no helper; empty when none comes.
+    // The size of the next window wider than 200 pixels, which no helper window is; empty if none comes.
     QSize waitForWindow()
     {
         QElapsedTimer timer;
@@ -93,7 +93,7 @@ double residentMiB(const QProcess &process)
     return s_line.match(QString::fromLatin1(processFile(process, "status"))).captured(1).toDouble() / 1024;
 }
 
-// Until it has painted and done what it had put off: its processor time stands still.
+// Waits until the processor time stands still: then it has painted and done what it had put off.
 void waitUntilIdle(const QProcess &process)
 {
     const auto processorTime = [&] { return processFile(process, "stat").split(' ').mid(13, 2); };
@@ -110,7 +110,7 @@ struct Start
     double fMiB = 0;
     QSize size;
     bool bWebEngine = false;
-    bool bImageFormats = false; // the libraries of all of them
+    bool bImageFormats = false; // any plug-in for image formats is loaded
 };
 
 Start start(MapWatch &display, const QString &strProgram, const QStringList &arguments)
@@ -125,7 +125,7 @@ Start start(MapWatch &display, const QString &strProgram, const QStringList &arg
     result.size = display.waitForWindow();
     result.fMs = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     const QByteArray maps = processFile(process, "maps");
-    result.bWebEngine = maps.contains("WebEngine"); // comes after the first paint
+    result.bWebEngine = maps.contains("WebEngine"); // the engine may only come after the first paint
     result.bImageFormats = maps.contains("/imageformats/");
     waitUntilIdle(process);
     result.fMiB = residentMiB(process);
@@ -173,7 +173,7 @@ int main(int argc, char *argv[])
     const int nRuns = qMax(1, QCoreApplication::arguments().value(2, QStringLiteral("9")).toInt());
     const QTemporaryDir settings;
     QFile file(settings.filePath(QStringLiteral("KelpaStudio.ini")));
-    if (!file.open(QIODevice::WriteOnly) || file.write("[Designer]\nRun=true\n") < 0) // not maximised
+    if (!file.open(QIODevice::WriteOnly) || file.write("[Designer]\nRun=true\n") < 0) // else it is maximized
         return 1;
     file.close();
 
@@ -192,12 +192,12 @@ int main(int argc, char *argv[])
             std::printf("FAIL no window came\n");
             return 1;
         }
-        // The style sheet of the other plug-ins has images: their first paint reads them.
+        // With all plug-ins, image formats are allowed: the first paint reads the images of a style sheet.
         if (own.bWebEngine || own.bImageFormats || all.bWebEngine) {
             std::printf("FAIL the start loads a web engine or libraries of image formats\n");
             return 1;
         }
-        if (i < 0) // reads the files into memory
+        if (i < 0) // the first round only brings the files into memory
             continue;
         ms.push_back(own.fMs);
         allMs.push_back(all.fMs);
