@@ -82,7 +82,7 @@ private slots:
         QVERIFY(contentOf(m_pProgram->filePath("user.ini")).contains("late=user"));
         QVERIFY(contentOf(m_pProgram->filePath("machine.ini")).contains("late=machine"));
 
-        // What cannot be written is told.
+        // The user is told when settings cannot be written.
         const QString strFile = m_pProgram->filePath("user.ini");
         QVERIFY(ILanguageManager::getInstance().saveLanguage("en_US"));
         QVERIFY(QFile::remove(strFile) && QDir().mkpath(strFile));
@@ -117,7 +117,7 @@ private slots:
         QCOMPARE(answers.boxes.size(), 1);
         QCOMPARE(pDocument->calls, QStringList({"saveBackup", "saveBackup", "saveBackup", "close"}));
 
-        // What is being asked already is answered first.
+        // While a dialog is open, the request to end the program waits.
         QDialog dialog(ICore::getMainWindow());
         dialog.open();
         emit m_pProgram->manager.endRequested();

@@ -42,7 +42,7 @@ private slots:
         QVERIFY(!timers().at(0)->isActive() && !timers().at(1)->isActive());
 
         DocumentManager::startWaitingBackup(pSecond.get());
-        pSecond.reset(); // without a word
+        pSecond.reset(); // deleted without being removed first
         QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first}));
         QCOMPARE(DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&first.stack}));
         QCOMPARE(timers().size(), 1);

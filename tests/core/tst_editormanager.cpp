@@ -104,7 +104,7 @@ private slots:
         QCOMPARE(EditorManager::activeEditor(), c());
     }
 
-    // Listeners hear of it twice: from the document, which is still whole, and from what is left of it.
+    // "destroyed" comes twice: from the whole document, by ~IDocument, and from what is left, by ~QObject.
     void editorLetsGoOfADyingDocumentWhileItIsWhole()
     {
         auto pDocument = std::make_unique<FakeDocument>();

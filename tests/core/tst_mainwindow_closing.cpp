@@ -281,7 +281,7 @@ private:
         const auto documents = DocumentManager::getDocuments();
         for (IDocument *pDoc : documents)
             emit pDoc->requestClosing(false);
-        // Those of documents that went by themselves.
+        // Documents that were deleted without a request to close have left their editors.
         for (const auto &pEditor : std::as_const(m_pFactory->editors))
             delete pEditor;
         m_pFactory->documents.clear();

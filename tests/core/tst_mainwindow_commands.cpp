@@ -14,7 +14,7 @@ using ExtensionSystem::PluginManager;
 
 namespace {
 
-// The menu as a user reads it: text, keys in brackets, "-" before what is disabled, one tab per level.
+// The menu as a user reads it: text, [keys], "(off)" if disabled, "--" for a separator, one tab per level.
 QStringList lines(const QList<QAction *> &actions, const QString &strIndent = {})
 {
     QStringList result;
@@ -33,7 +33,7 @@ QStringList lines(const QList<QAction *> &actions, const QString &strIndent = {}
     return result;
 }
 
-// A catalogue that translates the id of "New".
+// A catalog that translates the id of "New".
 class NewIdTranslator : public QTranslator
 {
 public:
@@ -46,7 +46,7 @@ public:
     }
 };
 
-// Counts whoever turns to a file below /silent, a drive that does not answer.
+// Counts accesses to files below /silent, which stands for a drive that does not answer.
 class SilentDrive : public QAbstractFileEngineHandler
 {
 public:

@@ -129,7 +129,7 @@ public slots:
 private:
     static QPixmap image() { return IUi::getPixmap("open", 2, false, ":/designer/images/"); }
 
-    // Of a command and of the language menu.
+    // The sides of the icons of a command and of the language menu.
     static QList<int> iconSides()
     {
         const auto sideOf = [](const QIcon &icon) { return icon.availableSizes().value(0).width(); };

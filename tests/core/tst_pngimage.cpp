@@ -26,8 +26,8 @@ QByteArray chunk(const QByteArray &typeAndData)
     return number(typeAndData.size() - 4) + typeAndData + number(~nSum);
 }
 
-// `head`: depth, kind of colour, compression, filter, interlacing. Each line of `lines` begins with its
-// filter.
+// `head` holds depth, kind of color, compression, filter and interlacing as hexadecimal digits. Each line of
+// `lines` begins with its filter.
 QByteArray png(
     int nWidth, int nHeight, const char *pHead, const QByteArray &lines, const QByteArray &more = {})
 {
@@ -83,7 +83,7 @@ private slots:
             image.convertToFormat(QImage::Format_ARGB32), expected.convertToFormat(QImage::Format_ARGB32));
     }
 
-    // The first file decides whose engine an icon gets: one without a suffix that tells, Qt's.
+    // The suffix of its first file decides the engine of an icon: ours for ".png", Qt's for ".image".
     void iconsOfPlugInsAreThoseOfQt_data()
     {
         const auto row = columns<QString, int>("file", "side");

@@ -291,7 +291,7 @@ private slots:
             QCOMPARE(QDir::cleanPath(strOpened), ICore::resourcePath());
     }
 
-    // The call is still being worked off when the client is gone.
+    // The slot that the client called has not returned yet when the client leaves.
     void clientLeavesWhileItsBoxIsOpen()
     {
         QWebSocket &client = m_pClient->socket;
@@ -322,7 +322,7 @@ private slots:
     }
 
 private:
-    /// The program puts the bridge alone on the channel.
+    /// The program itself puts only the bridge on the channel, not the area.
     void publishArea() { m_pWindow->getChannel()->registerObject("area", m_pWindow->getMdiArea()); }
 
     [[nodiscard]] bool hasConnectedClient() const

@@ -5,7 +5,7 @@
 
 namespace {
 
-// Keeps what was drawn of the title bar, and paints a strip of one colour and its title if it has one.
+// Keeps the options of the title bar drawn last. If `strip` is set, paints it and the title over the bar.
 class RecordingStyle : public QProxyStyle
 {
 public:
@@ -263,7 +263,7 @@ private slots:
             pMaximize->click();
             QCOMPARE(m_pWindow->isMaximized(), !bMaximized);
         }
-        // The system may tell a state that the window had taken for itself before.
+        // The system may report a state late that the window has already taken for itself.
         m_pWindow->overrideWindowState(Qt::WindowMaximized);
         m_pTitleBar->updateMaximized(false);
         QWindowStateChangeEvent late(Qt::WindowMaximized);
@@ -438,7 +438,7 @@ private:
         QTest::mouseMove(m_pWindow->windowHandle(), m_pWindow->mapFromGlobal(m_cursor));
     }
 
-    // As if the pointer were there, but as far as `delta` from where the drag began.
+    // Sends a move over `point` of the menu bar whose cursor is `delta` away from where the drag began.
     void moveOver(const QPoint &point, const QPoint &delta, Qt::MouseButtons held)
     {
         QMouseEvent move(QEvent::MouseMove, QPointF(point), QPointF(m_pressed + delta), Qt::NoButton, held,

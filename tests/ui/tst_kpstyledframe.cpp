@@ -152,8 +152,8 @@ private:
         QVERIFY(xdotool(moveTo(s_start.center())));
     }
 
-    // Goes on until the window follows: the window manager begins when it gets to it, measures from where the
-    // pointer is then, and may leave out steps.
+    // Moves on until the window follows, because the window manager begins late, measures from where the
+    // pointer is then and may leave out steps.
     bool drag(const QPoint &from, const QPoint &by)
     {
         const QPoint start = s_start.topLeft() + from;

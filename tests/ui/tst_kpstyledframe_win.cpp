@@ -131,7 +131,7 @@ private slots:
     void init() { show(s_mainWindowFlags); }
     void cleanup() { m_pFrame.reset(); }
 
-    // Only real Windows can decide: under Wine the first paint takes the layer and its colour key away.
+    // Only real Windows can decide: under Wine the first paint takes the layer and its color key away.
     void setUpOutlastsTheFirstPaint()
     {
         QTest::qWait(500);
@@ -267,7 +267,7 @@ private slots:
         QVERIFY(!NativeScreen::isScaleChange("windows_generic_MSG", &message));
     }
 
-    // Just before the frame looks nothing is left to paint, so what is there afterwards is the frame's.
+    // Validating everything before the frame sees the new size leaves only what the frame itself invalidates.
     void anotherSizeRepaintsTheEdges_data() { addRows(s_strips); }
     void anotherSizeRepaintsTheEdges()
     {

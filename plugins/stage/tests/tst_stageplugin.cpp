@@ -135,10 +135,10 @@ private:
         return m_pWindow->findChild<QAbstractButton *>("maximizeButton");
     }
 
-    // The window manager answers a resize of a maximised window several times, faster than any hand.
+    // The window manager answers a resize of a maximized window several times, faster than a user acts.
     static void settle() { QTest::qWait(500); }
 
-    // By the title row, from the top of the screen.
+    // Drags the window by its title row, which is at the top of the screen.
     static void dragTo(const QPoint &point)
     {
         QStringList arguments {"mousemove", "700", "3", "mousedown", "1"};

@@ -45,7 +45,7 @@ private slots:
             {"Ctrl+F5", "File.Preview_Current_Scene_In_Browser"}, {"F5", "File.Preview_Project_In_Browser"},
             {"Ctrl+Alt+E", "File.Export_To_HTML5"}, {"F1", "Help.Help_Contents"}, {"Ctrl+Z", "Edit.Undo"},
             {"Ctrl+Shift+Z", "Edit.Redo"},
-            // to leave has the same keys, but not with a project
+            // The command that ends the program has the same keys, but only while no project is open.
             {"Ctrl+Shift+S", "File.SaveAs.Project"}};
         for (const auto &[pKeys, pCommand] : rows)
             QTest::addRow("%s fires %s", pKeys, pCommand) << QString(pKeys) << QString(pCommand);
