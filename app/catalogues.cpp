@@ -13,7 +13,7 @@
 
 namespace {
 
-// The framework has no part in the choice, and the core, which has, is not loaded yet.
+// Reads the setting itself: the language manager belongs to the core, a plug-in that is not loaded yet.
 QLocale chosenLocale()
 {
     const QSettings *pSettings = ExtensionSystem::PluginManager::settings();
@@ -22,7 +22,7 @@ QLocale chosenLocale()
     return QLocale(strId.isEmpty() ? QStringLiteral("en_US") : strId);
 }
 
-// False, and nothing is installed, when nothing could be loaded.
+// Returns false, with nothing installed, if `load` finds no catalog.
 template <typename Load>
 bool install(Load load)
 {
@@ -42,7 +42,7 @@ bool installQt(const QLocale &locale, const QString &strFolder)
 
 } // namespace
 
-// The last one installed is asked first, so that ours can fill what Qt's leaves out.
+// Qt searches the catalog that was installed last first, so our texts win, and Qt's own fill the gaps.
 void installCatalogues()
 {
     const QLocale locale = chosenLocale();
@@ -52,7 +52,8 @@ void installCatalogues()
     install([&](QTranslator &translator) {
         return translator.load(QStringLiteral("app_%1.qm").arg(locale.name()), strFolder);
     });
-    // What only prints its help has nothing to lay out, and Qt would tell an object that is not there.
+    // A program that only prints its help has no QGuiApplication. In Qt 6.4.2 setLayoutDirection() would then
+    // crash on a change, because it calls QGuiApplicationPrivate::self without a check for null.
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         QGuiApplication::setLayoutDirection(locale.textDirection());
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Installs the catalogues of the language that the user chose, ours and Qt's own, and lays the program out
-/// in the direction in which it is read. To be called once the settings are there and before any text is
-/// made. A catalogue that is missing leaves its texts in English.
+/// Installs the catalogs of the language that the user chose, ours and Qt's own, and gives the program the
+/// layout direction of that language. Call it on the GUI thread, once the settings are open and before any
+/// text is made. A text without a translation stays in English.
 void installCatalogues();

@@ -26,7 +26,7 @@ constexpr bool s_bHasConsole = false;
 constexpr bool s_bHasConsole = true;
 #endif
 
-constexpr int s_nPaintPatienceMs = 3000; // for a window that is not painted, as behind a locked screen
+constexpr int s_nPaintPatienceMs = 3000; // after this, late work no longer waits for a paint (locked screen)
 
 bool hasScreen()
 {
@@ -47,7 +47,7 @@ void showMessage(PluginManager::Message kind, const QString &strText)
     box.exec();
 }
 
-// Whether the user only wants to read something, which needs no display where there is a console.
+// Whether the user asks only for the version or the help. With a console, these need no display.
 bool isQuestion(int argc, char *argv[])
 {
     QStringList arguments;
@@ -68,8 +68,8 @@ void prepare(PluginManager &manager)
     QObject::connect(&manager, &PluginManager::aboutToLoadPlugins, &installCatalogues);
 }
 
-/// Keeps what handlers throw from ending the program, and starts the late work of the plug-ins when the user
-/// sees the window.
+/// Keeps exceptions that event handlers throw from ending the program, and starts the late work of the
+/// plug-ins when a widget has been painted, which is when the user sees the window.
 class Program : public QApplication
 {
 public:
@@ -96,11 +96,12 @@ int main(int argc, char *argv[])
         prepare(manager);
         return manager.start(QCoreApplication::arguments()).value_or(0);
     }
-    // The program scales by itself; its children shall not inherit that.
+    // The program scales by itself. The variable is removed below, so that child processes do not inherit it.
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // the menus stand in the title bar
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // the menus are part of our title bar
 #ifdef KELPA_FONTCONFIG
-    // The description of the system's fonts takes milliseconds to read: meanwhile the libraries are loaded.
+    // Reading the descriptions of the system's fonts takes milliseconds, so a thread does it while the
+    // libraries are loaded. QFontDatabase must wait for the application object.
     std::promise<void> started;
     std::jthread reading([&started] {
         FcInit();
@@ -111,14 +112,14 @@ int main(int argc, char *argv[])
     Program application(argc, argv);
 #ifdef KELPA_FONTCONFIG
     started.set_value();
-    std::jthread fonts = std::move(reading); // joined before the application goes
+    std::jthread fonts = std::move(reading); // declared after the application, so joined before it goes
 #endif
     PluginManager manager;
     prepare(manager);
     if (const auto exitCode = manager.start(QCoreApplication::arguments()))
         return *exitCode;
 #ifdef KELPA_FONTCONFIG
-    fonts.join(); // who changes the environment must be alone
+    fonts.join(); // no other thread may read the environment while it changes
 #endif
     qunsetenv("QT_ENABLE_HIGHDPI_SCALING");
     const int nExitCode = QApplication::exec();
