@@ -12,21 +12,21 @@
 
 namespace ExtensionSystem {
 
-/// The program's command line. Two looks: the constructor's finds where the plug-ins are; after
-/// addPluginOptions() has learnt what these understand, parse() checks the whole.
+/// The command line, looked at twice because plug-ins declare options too: the constructor finds what the
+/// framework understands, such as folders; after addPluginOptions(), parse() checks the whole line.
 class EXTENSIONSYSTEM_EXPORT CommandLine
 {
     Q_DISABLE_COPY_MOVE(CommandLine)
 
 public:
-    /// `arguments` begins with the program's own name.
+    /// `arguments` starts with the name of the program, as that of QCoreApplication does.
     explicit CommandLine(const QStringList &arguments);
 
-    /// Takes over the options these plug-ins declare. One that the framework or an earlier plug-in already
-    /// has stays with its first owner; such clashes are returned.
+    /// Adds the options that these plug-ins declare, except those of plug-ins with broken metadata. An option
+    /// that the framework or another plug-in already has stays with that owner; such clashes are returned.
     QList<PluginError> addPluginOptions(const QList<PluginRecord> &records);
 
-    /// False: there is an option nobody knows, or one without its value; errorText() tells.
+    /// Returns false for an unknown option or one that lacks its value; errorText() then says which.
     [[nodiscard]] bool parse() { return m_parser.parse(m_line); }
     [[nodiscard]] QString errorText() const { return m_parser.errorText(); }
     [[nodiscard]] QString helpText() const { return m_parser.helpText(); }
@@ -36,20 +36,20 @@ public:
     [[nodiscard]] bool wantsProfile() const { return m_parser.isSet(QStringLiteral("profile")); }
     [[nodiscard]] bool wantsNewInstance() const { return m_parser.isSet(QStringLiteral("new-instance")); }
 
-    /// Folders to search, absolute; those given come before the program's own, so that they win.
+    /// The folders to search, absolute. The given ones come first, so that a plug-in there is preferred.
     [[nodiscard]] QStringList pluginFolders() const;
-    /// One error for each given folder that does not exist.
+    /// One error for each folder given with --plugin-path that does not exist.
     [[nodiscard]] QList<PluginError> missingFolders() const;
     [[nodiscard]] PluginSelection selection() const;
 
-    /// Absolute; empty when not given.
+    /// Absolute; empty when --settings-path was not given.
     [[nodiscard]] QString settingsFolder() const;
 
-    /// The options given that this plug-in declared (all plug-ins' without a name), each followed by its
-    /// value if it takes one, in the order of the command line.
+    /// The options given that `strPlugin` declared, or any plug-in if it is empty, each followed by its value
+    /// if it takes one, in the order of the command line.
     [[nodiscard]] QStringList pluginOptions(const QString &strPlugin = QString()) const;
 
-    /// The free arguments as they were typed, and made absolute.
+    /// The arguments that are not options, first as they were typed, then as absolute file names.
     [[nodiscard]] QStringList rawArguments() const { return m_parser.positionalArguments(); }
     [[nodiscard]] QStringList absoluteArguments() const;
 

@@ -8,9 +8,10 @@
 
 namespace ExtensionSystem {
 
-/// The one object through which a plug-in library meets the program. The framework makes it when it loads
-/// the library, calls the hooks below on the GUI thread in the order they stand here, and deletes it at
-/// shutdown, dependents before what they depend on. A hook that throws counts as failed.
+/// The one object through which a plug-in library meets the program. The framework makes it when it loads the
+/// library and deletes it at shutdown or after a failure, dependents before what they depend on. All hooks
+/// are called on the GUI thread: the first three in this order, remoteCommand() whenever all plug-ins run,
+/// and aboutToShutdown() last. A hook that throws counts as failed.
 class EXTENSIONSYSTEM_EXPORT IPlugin : public QObject
 {
     Q_OBJECT
@@ -22,24 +23,24 @@ public:
     IPlugin() = default;
     ~IPlugin() override = default;
 
-    /// Called after everything this plug-in depends on was initialised. `arguments` are the options on the
-    /// command line that the plug-in's metadata declares, each followed by its value if it takes one.
-    /// Returning false stops this plug-in and its dependents; `errorString` (never null) takes the reason.
+    /// Called after everything this plug-in depends on was initialized. `arguments` are the options given
+    /// that the plug-in's metadata declares, each followed by its value if it takes one. Returning false
+    /// stops this plug-in and those that require it; the reason goes into `errorString`, which is never null.
     virtual bool initialize(const QStringList &arguments, QString *errorString) = 0;
 
-    /// Called when every plug-in was initialised, dependents first: what they put into the pool is there.
+    /// Called when all plug-ins are initialized, dependents first, so what they put into the pool is there.
     virtual void extensionsInitialized() { }
 
-    /// Late work, in slices that must stay short. True means finished; false asks for another turn of the
-    /// event loop.
+    /// Called from the event loop for work that can wait until the window is shown. Do a short slice of it;
+    /// return true when all is done, or false to be called again.
     virtual bool delayedInitialize() { return true; }
 
-    /// Called once at shutdown, dependents first. After AsynchronousShutdown the framework keeps the event
-    /// loop running until asynchronousShutdownFinished() or its time limit.
+    /// Called once at shutdown, dependents first. After AsynchronousShutdown the event loop runs on until
+    /// asynchronousShutdownFinished(), which may also come from within this call, or until the time limit.
     virtual ShutdownFlag aboutToShutdown() { return SynchronousShutdown; }
 
-    /// Another start of the program handed over what it was given; file names in `arguments` are relative
-    /// to `workingDirectory`. The result, if any, stays with the plug-in.
+    /// Another start of the program handed over its command line: the `options` of all plug-ins, and
+    /// `arguments` with file names relative to `workingDirectory`. A result stays with the plug-in.
     virtual QObject *remoteCommand(
         const QStringList &options, const QString &workingDirectory, const QStringList &arguments)
     {

@@ -8,28 +8,28 @@
 class QLocalSocket;
 class QObject;
 
-/// What differs from system to system.
+/// The functions that are implemented differently for each operating system.
 namespace ExtensionSystem::Platform {
 
 /// Milliseconds since this process was started; -1 where that is not known cheaply.
 [[nodiscard]] qint64 msSinceProcessStart();
 
-/// The name to listen on for a server that only this user can reach, made from `strKey`, which is a few
-/// letters and digits. Empty when there is no safe place for it.
+/// The name for a local server that only this user can reach, which contains `strKey`, a few letters and
+/// digits. Empty when there is no safe place for it.
 [[nodiscard]] QString localServerName(const QString &strKey);
 
-/// A file beside it to lock while deciding who listens.
+/// The file that a start locks while it decides who listens; empty when there is no safe place for it.
 [[nodiscard]] QString localServerLockFile(const QString &strKey);
 
-/// Is the process at the other end run by the same user?
+/// Whether the process at the other end belongs to the same user. The server on Windows admits no others.
 [[nodiscard]] bool isOwnPeer(const QLocalSocket &socket);
 
-/// False: the file is empty, or ends before the library in it does, as after a copy that broke off.
+/// False for an empty file; on Linux also for one shorter than its header says, as after a broken copy.
 [[nodiscard]] bool isWholeLibrary(const QString &strFile);
 
-/// From now on, the system's wish that this process end (SIGTERM) calls the function from the event loop
-/// instead, as long as the context lives; the second puts an end to that. Nothing where there is no such
-/// wish.
+/// From now on, and while `pContext` lives, a request of the system that this process end (SIGTERM) calls
+/// `function` from the event loop instead; resetTermination() restores the default. On Windows, where there
+/// is no such request, both do nothing.
 void onTermination(QObject *pContext, const std::function<void()> &function);
 void resetTermination();
 

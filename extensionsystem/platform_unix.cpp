@@ -24,7 +24,7 @@ namespace ExtensionSystem::Platform {
 
 namespace {
 
-// Socket addresses end at about this length; there is some air for the socket's temporary name.
+// The address of a socket holds 104 to 108 bytes; some are left for the temporary name that Qt binds first.
 constexpr int s_nLongestName = 90;
 
 bool isPrivateFolder(const QString &strFolder)
@@ -40,7 +40,8 @@ bool makePrivateFolder(const QString &strFolder)
     return isPrivateFolder(strFolder);
 }
 
-// The session's own folder, else one in the temporary folder; only ours, and short enough for `nRest` more.
+// The folder of the session or else our own in the temporary folder, if only this user can enter it and a
+// path with `nRest` more bytes is short enough for a socket. Empty when there is none.
 QString privateFolder(qsizetype nRest)
 {
     const auto fits = [nRest](const QString &strFolder) {
@@ -64,11 +65,11 @@ QString privateFile(const QString &strKey, const QString &strSuffix)
     return strFolder.isEmpty() ? QString() : strFolder + QLatin1Char('/') + strName + strSuffix;
 }
 
-int s_termination[2] = {-1, -1}; // a pipe: a signal handler may do little more than write
+int s_termination[2] = {-1, -1}; // a pipe, because a signal handler may call little more than write()
 
 void noteTermination(int)
 {
-    const int nError = errno; // of the call that the signal interrupts
+    const int nError = errno; // errno of the call that the signal interrupted
     const char cAny = 0;
     Q_UNUSED(write(s_termination[1], &cAny, 1))
     errno = nError;
@@ -84,7 +85,7 @@ qint64 msSinceProcessStart()
     if (!file.open(QIODevice::ReadOnly) || clock_gettime(CLOCK_BOOTTIME, &now) != 0)
         return -1;
     const QByteArray line = file.readAll();
-    // The name of the program, in brackets, may hold anything; the start time is the 20th field after it.
+    // The program's name, in parentheses, may hold any character; the start time is the 20th field after it.
     const QByteArray ticks = line.mid(line.lastIndexOf(')') + 2).split(' ').value(19);
     return now.tv_sec * 1000 + now.tv_nsec / 1000000 - ticks.toLongLong() * 1000 / sysconf(_SC_CLK_TCK);
 #else
@@ -117,7 +118,7 @@ bool isOwnPeer(const QLocalSocket &socket)
 #endif
 }
 
-// The table of sections comes last in a library.
+// Linkers put the table of sections at the end of a library, so a complete file reaches to its end.
 bool isWholeLibrary(const QString &strFile)
 {
     QFile file(strFile);

@@ -11,7 +11,7 @@ qint64 msSinceProcessStart()
     return -1;
 }
 
-// Pipes have one name space for all users; the server's access option keeps the others out.
+// All users share one name space of pipes; QLocalServer::UserAccessOption keeps the other users out.
 QString localServerName(const QString &strKey)
 {
     return QStringLiteral("kelpastudio-") + qEnvironmentVariable("USERNAME") + QLatin1Char('-') + strKey;

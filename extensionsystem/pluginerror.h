@@ -22,7 +22,7 @@ enum class PluginPhase {
     Shutdown
 };
 
-/// The phase as log, profile and messages write it.
+/// The phase as log, profile and messages write it, such as "initialize".
 [[nodiscard]] EXTENSIONSYSTEM_EXPORT QString phaseName(PluginPhase phase);
 
 /// One thing that went wrong with one plug-in.
@@ -31,14 +31,14 @@ struct EXTENSIONSYSTEM_EXPORT PluginError
     QString plugin; ///< name, empty when it could not be read
     QString file;
     PluginPhase phase = PluginPhase::Read;
-    QString message; ///< the reason, with the whole chain of reasons behind it
+    QString message; ///< the reason, including why a plug-in that it needs failed
 
     /// One line for people: plug-in, file, phase and reason.
     [[nodiscard]] QString text() const;
     bool operator==(const PluginError &) const = default;
 };
 
-/// Runs the function; a throw goes no further and becomes the result, which is empty otherwise.
+/// Runs `function` and returns an empty text, or the text of what it threw, which goes no further.
 template <typename Function>
 QString caught(Function function)
 {

@@ -18,7 +18,7 @@ Q_LOGGING_CATEGORY(lcExtensionSystem, "kelpa.extensionsystem", QtInfoMsg)
 
 namespace {
 PluginManager *s_pInstance = nullptr;
-thread_local QString s_strActivity; // of the event that is being handled
+thread_local QString s_strActivity; // what the event that this thread handles makes the program do
 } // namespace
 
 PluginManager::PluginManager()
@@ -148,7 +148,7 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
     emit aboutToLoadPlugins();
     if (const auto exitCode = claimInstance(strSettings))
         return exitCode;
-    settings()->sync(); // the one whose place this takes may have written meanwhile
+    settings()->sync(); // an instance that ended just now may have written to it since
     setArguments(line.absoluteArguments());
     const auto missing = line.missingFolders();
     for (const PluginError &error : missing + clashes)
@@ -158,7 +158,7 @@ std::optional<int> PluginManager::start(const QStringList &commandLine)
     return startPlugins(records);
 }
 
-// Made anew, now that there are catalogues for its texts.
+// The command line is read again, because its descriptions are translated when the options are added.
 int PluginManager::explainOptions(const QStringList &commandLine, const QList<PluginRecord> &records)
 {
     emit aboutToLoadPlugins();
@@ -205,7 +205,7 @@ std::optional<int> PluginManager::startPlugins(QList<PluginRecord> records)
     return std::nullopt;
 }
 
-// A library that cannot be read cannot say that it is required.
+// A library that cannot be read cannot say that it is required, so the program names those it needs.
 void PluginManager::markNeeded(QList<PluginRecord> *pRecords) const
 {
     for (const QString &strName : std::as_const(d->needed)) {
@@ -244,7 +244,7 @@ void PluginManager::finishStart()
         tell(Message::Note, d->runner->profile());
 }
 
-// Plug-ins hear of it once all run; also while the hook for an earlier one shows a message box.
+// Commands wait until all plug-ins run. Then each is run at once, even while an earlier one shows a dialog.
 void PluginManager::takeCommand(const RemoteCommand &command)
 {
     d->commands.append(command);
@@ -263,7 +263,7 @@ void PluginManager::shutdown()
 {
     d->bTakesCommands = false;
     Platform::resetTermination();
-    d->instance.reset(); // a start from now on is a first one
+    d->instance.reset(); // from now on another start becomes the first
     for (const RemoteCommand &command : std::as_const(d->commands))
         qCWarning(lcExtensionSystem).noquote() << "The program ends before it could open" << command.arguments
                                                << "from" << command.workingDirectory;

@@ -23,9 +23,9 @@ namespace ExtensionSystem {
 struct RemoteCommand;
 
 /// Loads the plug-ins and holds what they share: the pool of objects, the settings stores and the free
-/// arguments of the command line. The program makes one, after the application object and before any
-/// plug-in, and destroys it last. The static functions do nothing, or give null or an empty list, while
-/// there is none. GUI thread only, except for the pool, which any thread may use.
+/// arguments of the command line. The program makes one after the application object and destroys it before
+/// that. While there is none, the static functions do nothing, or return null or an empty value. GUI thread
+/// only, except for the pool, deliver() and setActivity(), which any thread may use.
 class EXTENSIONSYSTEM_EXPORT PluginManager : public QObject
 {
     Q_OBJECT
@@ -42,38 +42,38 @@ public:
 
     PluginManager();
 
-    /// Shuts down first if nobody did.
+    /// Calls shutdown().
     ~PluginManager() override;
 
     [[nodiscard]] static PluginManager *instance();
 
-    /// How messages reach the user; without one they go to standard output and standard error.
+    /// Sets how messages reach the user; without a sink they go to standard output and standard error.
     void setMessageSink(MessageSink sink);
 
-    /// The plug-ins without which start() fails, also when their libraries are missing or unreadable. Others
-    /// are needed when their metadata says so.
+    /// Names the plug-ins without which start() fails, also when their libraries are missing or cannot be
+    /// read. Plug-ins whose metadata says so are needed as well.
     void setNeededPlugins(const QStringList &names);
 
-    /// Late work of the plug-ins waits for startLateWork(), in milliseconds no longer than this; 0 unless
-    /// set.
+    /// The late work of the plug-ins begins with startLateWork(), or this many milliseconds after the start
+    /// at the latest; 0 unless set.
     void setLateWorkDelay(int nMs);
     void startLateWork();
 
-    /// The whole start up to the event loop. `commandLine` begins with the program's name. A result means
-    /// that the program ends with this exit code. Later failures of required plug-ins end the event loop
-    /// with exit code 1.
+    /// Runs the whole start up to the event loop. `commandLine` begins with the program's name. A result is
+    /// the exit code with which the program shall end at once. When a required plug-in fails later, the event
+    /// loop ends with exit code 1.
     [[nodiscard]] std::optional<int> start(const QStringList &commandLine);
 
-    /// Stops and deletes the plug-ins, dependents first, empties the pool and writes the settings. Nothing
-    /// happens the second time.
+    /// Stops and deletes the plug-ins, dependents first, empties the pool and writes the settings. A second
+    /// call only writes the settings again.
     void shutdown();
 
-    /// How long shutdown() waits for asynchronous plug-ins, in milliseconds; 5000 unless set.
+    /// How long shutdown() waits for plug-ins that stop asynchronously, in milliseconds; 5000 unless set.
     void setShutdownTimeout(int nTimeoutMs);
 
-    /// Delivers an event; QApplication::notify() of a program calls nothing else, in any thread. What is
-    /// thrown meanwhile goes no further: exceptionCaught() tells it, a window that was to close stays, and
-    /// false is the result.
+    /// Delivers an event for QApplication::notify() of a program, in any thread. What `function` throws goes
+    /// no further: exceptionCaught() is emitted, a window that was to close stays open, and the result is
+    /// false.
     template <typename Function>
     static bool deliver(QEvent *event, Function function)
     {
@@ -86,48 +86,48 @@ public:
         return bResult;
     }
 
-    /// Names what the present event makes the program do, such as the id of a command. The result is the name
-    /// before.
+    /// Names what the event that this thread handles makes the program do, such as the id of a command, for
+    /// exceptionCaught(). Returns the name before.
     static QString setActivity(const QString &activity);
 
-    /// While the program may be ending, false: other starts are not heard and run by themselves.
+    /// False, while the program may be ending, turns other starts away, which then run by themselves.
     static void setHearsOtherStarts(bool bHears);
 
-    /// Free arguments of the command line, made absolute.
+    /// The arguments of the command line that are not options, as absolute file names.
     [[nodiscard]] static QStringList arguments();
     static void setArguments(const QStringList &arguments);
 
-    /// What went wrong with plug-ins so far, each once, and all plug-ins that were found.
+    /// All errors of plug-ins so far, each once; and all plug-ins that were found, used or not.
     [[nodiscard]] static QList<PluginError> errors();
     [[nodiscard]] static QList<PluginDescription> plugins();
 
-    /// The user's store and the machine-wide one, owned here; null when none was set.
+    /// The user's store and that of the machine, owned by the manager; null before start() unless set.
     [[nodiscard]] static QSettings *settings();
     [[nodiscard]] static QSettings *globalSettings();
     void setSettings(std::unique_ptr<QSettings> settings);
     void setGlobalSettings(std::unique_ptr<QSettings> settings);
 
-    /// Call after sync(): reports a store that could not be read or written, once for each store.
+    /// Reports every store that could not be read or written, once for each. Call it after sync().
     static void checkSettings();
 
-    /// Writes a store to its file now. False: it could not be written, which was reported once.
+    /// Writes a store to its file now. Returns false for null and when that failed, which is reported once.
     static bool storeSettings(QSettings *settings);
 
-    /// What was reported; those of the start were reported before any plug-in could listen.
+    /// All faults reported so far, also those of the start, which no plug-in could hear of.
     [[nodiscard]] static QList<SettingsFault> settingsFaults();
 
-    /// The pool, in order of addition. Objects are not owned and drop out when they are destroyed.
-    /// allObjects() does not lock: hold listLock() for reading while calling it and while walking the
-    /// result. Reading nests; adding, removing or deleting an object of the pool while holding it would wait
-    /// for ever.
+    /// The pool, in order of addition. Objects are not owned and leave the pool when they are destroyed.
+    /// allObjects() does not lock: hold listLock() for reading while you call it and use the result. A thread
+    /// may lock for reading several times, but adding, removing or deleting an object of the pool meanwhile
+    /// would wait forever.
     [[nodiscard]] static QObjectList allObjects();
     [[nodiscard]] static QReadWriteLock *listLock();
 
-    /// Null and what is there already are ignored.
+    /// Null is ignored, and so is adding what is in the pool or removing what is not.
     static void addObject(QObject *object);
     static void removeObject(QObject *object);
 
-    /// The first object of this class, or null, and all of them. These lock for themselves.
+    /// The first object of this class or null, and all of them. Both functions lock the pool themselves.
     template <typename T>
     [[nodiscard]] static T *object()
     {
@@ -148,21 +148,21 @@ public:
     }
 
 signals:
-    /// The settings are there, and no plug-in has been loaded: the time for catalogues. Comes also when the
-    /// program only explains its options.
+    /// The settings are open and no plug-in is loaded, so catalogs can be installed now. Also emitted before
+    /// the help or an error in the command line is printed.
     void aboutToLoadPlugins();
 
-    /// All plug-ins have finished their delayed initialisation.
+    /// All plug-ins have finished their delayed initialization, or have exceeded the time for it.
     void initializationDone();
 
-    /// A settings store could not be read or written. The program goes on without it.
+    /// A settings store could not be read or written. The program goes on with what it could read.
     void settingsFailed(const QString &file, const QString &reason);
 
-    /// A slot, an event handler or a plug-in's remoteCommand() threw; `activity` is what setActivity() last
-    /// named in that event, or empty. In the thread that threw.
+    /// A slot, an event handler or a plug-in's remoteCommand() threw. `activity` is what setActivity() last
+    /// named in that event; else, and for remoteCommand(), it is empty. Emitted in the thread that threw.
     void exceptionCaught(const QString &activity, const QString &reason);
 
-    /// The system asks the program to end (SIGTERM): who listens calls QCoreApplication::quit().
+    /// The system asks the program to end (SIGTERM). Nothing happens unless a listener calls quit().
     void endRequested();
 
 private:

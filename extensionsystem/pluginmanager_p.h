@@ -17,12 +17,12 @@ struct PluginManager::Private
     std::unique_ptr<SingleInstance> instance;
     QList<PluginError> errors;
     QStringList arguments;
-    QStringList needed; // plug-ins, by name
+    QStringList needed; // names of plug-ins
     int nLateWorkDelayMs = 0;
     int nShutdownTimeoutMs = 5000;
 
-    QList<RemoteCommand> commands; // received, not yet run
-    bool bTakesCommands = false; // between the plug-ins' start and their shutdown
+    QList<RemoteCommand> commands; // received but not yet run
+    bool bTakesCommands = false; // true between the plug-ins' start and their shutdown
 
     SettingsStore user;
     SettingsStore machine;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings stores and what is told about their faults.
+// The settings stores and the reports of their faults.
 #include "pluginmanager_p.h"
 
 #include "logging_p.h"
@@ -48,8 +48,8 @@ void PluginManager::checkSettings()
     }
 }
 
-// The status of a store keeps its first fault for ever; a fresh view of the same file has one of its own, and
-// shares what is still to be written.
+// QSettings::status() of Qt 6.4.2 keeps the first fault forever. A new object for the same file starts
+// without one and, as both share what is still to be written, tells whether writing works now.
 bool PluginManager::storeSettings(QSettings *settings)
 {
     if (!settings)

@@ -12,7 +12,7 @@ class IPlugin;
 enum class PluginState {
     Found, ///< metadata read, nothing else happened yet
     LeftOut, ///< not wanted on the command line
-    Failed, ///< or something it needs did; see the reason
+    Failed, ///< it, or a plug-in that it needs, failed; see the reason
     Constructed,
     Initialized,
     Running,
@@ -27,15 +27,15 @@ struct PluginDescription
     QString reason; ///< why it failed
 };
 
-/// Makes the plug-in object, which the caller then owns; null with the reason in the string when it cannot.
+/// Makes the plug-in object, which the caller then owns. Null on failure, with the reason in the string.
 using PluginFactory = std::function<IPlugin *(QString *pErrorString)>;
 
-/// A plug-in that may be loaded, with the way to get its object.
+/// A plug-in that may be loaded, with the function that makes its object.
 struct PluginRecord
 {
     PluginSpec spec;
     PluginFactory create;
-    QStringList arguments; ///< what it gets in initialize()
+    QStringList arguments; ///< passed to initialize()
     qint64 nReadNanoseconds = 0; ///< how long reading the metadata took
 };
 

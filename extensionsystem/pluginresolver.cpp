@@ -11,7 +11,7 @@ namespace ExtensionSystem {
 
 namespace {
 
-// Does `spec` say by itself why it cannot be used?
+// The reason that lies in the metadata of `spec` itself; empty when it is sound.
 QString ownReason(const PluginSpec &spec)
 {
     return spec.problems.isEmpty()
@@ -67,7 +67,7 @@ private:
     PluginResolution m_result;
 };
 
-// Sound records take their names first, broken ones take what is left, so that dependents can say why.
+// Sound records take names first, then broken ones what is left, so that dependents can say why they fail.
 void Resolver::nameRecords()
 {
     for (const bool bSound : {true, false}) {
@@ -86,7 +86,7 @@ void Resolver::nameRecords()
     }
 }
 
-// By name: what holds for the record that has the name holds for all that claim it.
+// Selects by name: what is decided for the record that owns a name holds for all records with that name.
 void Resolver::select()
 {
     const QStringList named = m_selection.load + m_selection.leaveOut;
@@ -150,7 +150,7 @@ void Resolver::checkDependencies()
     }
 }
 
-// Why a required dependency cannot be had as far as one look tells.
+// Why a required dependency cannot be had, regardless of what that plug-in needs itself.
 QString Resolver::check(const PluginDependency &dependency) const
 {
     const QString strWanted = versionText(dependency.version);
@@ -172,7 +172,7 @@ QString Resolver::check(const PluginDependency &dependency) const
     return QString();
 }
 
-// Everything on a circle fails, whatever else is wrong with it: taking one away would not help the others.
+// Every record on a circle fails. One that has another fault still closes the circle for the others.
 void Resolver::findCircles()
 {
     QList<QPair<int, QString>> found;
@@ -188,7 +188,7 @@ void Resolver::findCircles()
         verdict(nRecord).reason = strReason;
 }
 
-// A shortest way from the record back to itself, first and last being the record; empty when there is none.
+// A shortest path from the record back to itself, which is its first and last item; empty without one.
 QList<int> Resolver::circleThrough(int nStart) const
 {
     QHash<int, int> cameFrom;
@@ -234,7 +234,7 @@ void Resolver::spreadFailures()
     }
 }
 
-// Adds the optional dependencies, one after the other, that can be had and close no circle.
+// Adds the optional dependencies one by one, except those that cannot be had or would close a circle.
 void Resolver::connectOptional(QList<QSet<int>> &edges) const
 {
     const auto leadsTo = [&edges](int nFrom, int nTo) {
@@ -267,7 +267,7 @@ void Resolver::connectOptional(QList<QSet<int>> &edges) const
     }
 }
 
-// Takes, again and again, the first by name of those whose dependencies are all taken.
+// Takes, again and again, the first by name of the records whose dependencies have all been taken.
 void Resolver::sort()
 {
     QList<QSet<int>> edges(m_specs.size());

@@ -20,12 +20,12 @@ namespace ExtensionSystem {
 
 namespace {
 
-// What one turn of the event loop may cost; the window stays lively.
+// After this time a turn of late work takes no further plug-in, so that the window stays responsive.
 constexpr int s_nTurnMs = 20;
-// After these many turns of late work there is a pause before each, which grows by a millisecond.
+// After this many turns of late work, each pause before a turn is a millisecond longer than the last.
 constexpr int s_nTurnsWithoutPause = 10;
 constexpr int s_nLongestPauseMs = 50;
-constexpr int s_nLatePauseMs = 1000; // once the start is over
+constexpr int s_nLatePauseMs = 1000; // once initializationDone() was emitted
 
 } // namespace
 
@@ -38,7 +38,7 @@ struct PluginRunner::Private
         QString reason;
         QList<int> required;
         QPointer<IPlugin> object;
-        bool bNeeded = false; ///< marked "Required", and no library before it has its name
+        bool bNeeded = false; ///< marked "Required", and no other record owns its name
     };
 
     explicit Private(PluginRunner *pOwner)
@@ -60,7 +60,7 @@ struct PluginRunner::Private
         return profile.measure(plugins[n].record.spec.name, phase, [&] { return caught(function); });
     }
 
-    // The same for a hook of the object, which may delete itself.
+    // The same for a hook of the object, which may be gone already or delete itself. Empty when all is well.
     template <typename Function>
     QString objectHook(int n, PluginPhase phase, Function function)
     {
@@ -90,7 +90,7 @@ struct PluginRunner::Private
     QList<PluginError> errors;
     std::optional<PluginError> requiredFailure;
     QList<int> delayed;
-    QTimer turn; // of late work, the next
+    QTimer turn; // starts the next turn of late work
     int nTurns = 0;
     int nLateLimitMs = 10000;
     QDeadlineTimer lateLimit;
@@ -176,7 +176,7 @@ void PluginRunner::Private::resolve(const QList<PluginRecord> &records, const Pl
             QStringLiteral("named on the command line, but there is no such plug-in")});
 }
 
-// An error that stops nobody.
+// Reports an error that does not stop the plug-in.
 PluginError PluginRunner::Private::note(int n, PluginPhase phase, const QString &strReason)
 {
     const PluginSpec &spec = plugins[n].record.spec;
@@ -195,7 +195,7 @@ void PluginRunner::Private::fail(int n, PluginPhase phase, const QString &strRea
         requiredFailure = error;
 }
 
-// Fails the plug-in when one that it requires has failed by now.
+// Fails the plug-in if one that it requires has failed meanwhile, and returns whether it did.
 bool PluginRunner::Private::followFailure(int n, PluginPhase phase)
 {
     for (const int nNeeded : std::as_const(plugins[n].required)) {
@@ -241,7 +241,7 @@ void PluginRunner::setLateWorkLimit(int nMs)
     d->nLateLimitMs = nMs;
 }
 
-// One step of the start for all of them; false when the start is over.
+// Takes one step of the start for all these records; returns false when a required plug-in has failed.
 bool PluginRunner::Private::takeOn(const QList<int> &records, PluginPhase phase, void (Private::*step)(int))
 {
     for (const int n : records) {
@@ -268,7 +268,7 @@ void PluginRunner::Private::construct(int n)
 bool PluginRunner::Private::initializeAll()
 {
     if (!takeOn(inState(PluginState::Constructed), PluginPhase::Initialize, &Private::initialize))
-        return false; // all go together, in good order
+        return false; // start() deletes all of them, dependents first
     destroy(inState(PluginState::Failed));
     return true;
 }
@@ -303,7 +303,7 @@ bool PluginRunner::Private::extensionsInitializedAll()
     return !requiredFailure;
 }
 
-// One turn of late work: as many plug-ins as the time allows, each once.
+// One turn of late work calls as many plug-ins as its time allows, each once.
 void PluginRunner::Private::delayedTurn()
 {
     if (nTurns++ == 0)
@@ -332,7 +332,7 @@ void PluginRunner::Private::nextTurn()
         endStart();
 }
 
-// Whoever never finishes must not keep the others from hearing that the program is up.
+// A plug-in that never finishes must not keep the others from hearing that the start is complete.
 void PluginRunner::Private::endStart()
 {
     for (const int n : std::as_const(delayed))
@@ -341,7 +341,7 @@ void PluginRunner::Private::endStart()
     emit q->initializationDone();
 }
 
-// False: it wants another turn.
+// Returns false if the plug-in wants another turn.
 bool PluginRunner::Private::delayedInitialize(int n)
 {
     if (plugins[n].state != PluginState::Running)
@@ -356,8 +356,8 @@ bool PluginRunner::Private::delayedInitialize(int n)
     return true;
 }
 
-// A failure while plug-ins run: those that require the failed one are shut down in good order, then all of
-// them go. After that of a required one everything is shut down anyway.
+// When a plug-in fails while others run, those that require it are asked to stop, dependents first, and then
+// all of them are deleted. If a required one has failed, the end of the program stops everything instead.
 void PluginRunner::Private::stopFailed(PluginPhase phase)
 {
     if (requiredFailure)
@@ -380,7 +380,7 @@ void PluginRunner::shutdown(int nTimeoutMs)
     d->destroy(d->order);
 }
 
-// Dependents first; returns when all have finished or the time is up.
+// Asks dependents first, and returns when all have finished or the time is up.
 void PluginRunner::Private::askToStop(const QList<int> &records, int nTimeoutMs)
 {
     if (records.isEmpty())
@@ -395,11 +395,11 @@ void PluginRunner::Private::askToStop(const QList<int> &records, int nTimeoutMs)
     }
     for (const int n : std::as_const(pending))
         note(n, PluginPhase::Shutdown, QStringLiteral("it did not finish within %1 ms").arg(nTimeoutMs));
-    // What the plug-ins gave to the event loop to delete goes while they are still there.
+    // What plug-ins have handed to deleteLater() is deleted while the plug-ins still exist.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-// The signal may come from within the hook already.
+// The connections come first, because the plug-in may emit the signal from within the hook.
 void PluginRunner::Private::askToStop(int n, QSet<int> *pPending)
 {
     IPlugin *pPlugin = plugins[n].object;
@@ -417,7 +417,7 @@ void PluginRunner::Private::askToStop(int n, QSet<int> *pPending)
         pPending->remove(n);
 }
 
-// No QEventLoop::exec(): it would return at once when the application is quitting.
+// In Qt 6.4.2 QEventLoop::exec() returns at once while the application quits, so it is no help here.
 void PluginRunner::Private::waitFor(QSet<int> *pPending, int nTimeoutMs)
 {
     const QDeadlineTimer deadline(nTimeoutMs);
@@ -427,7 +427,7 @@ void PluginRunner::Private::waitFor(QSet<int> *pPending, int nTimeoutMs)
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }
 
-// Takes load order, deletes backwards.
+// Deletes in reverse, because the records are in load order and dependents must go first.
 void PluginRunner::Private::destroy(const QList<int> &records)
 {
     for (auto it = records.crbegin(); it != records.crend(); ++it) {

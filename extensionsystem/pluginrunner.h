@@ -14,45 +14,46 @@ namespace ExtensionSystem {
 
 class IPlugin;
 
-/// Takes plug-ins through their life, whether they come from libraries or are made on the spot. It owns the
-/// plug-in objects and catches what their hooks throw. One failure stops the plug-in and those that require
-/// it, nobody else; a plug-in marked "Required" that fails ends the start. GUI thread only.
+/// Takes plug-ins through their life, whether they come from libraries or are made by the program. It owns
+/// the plug-in objects and catches what their hooks throw. A failure stops the plug-in and those that require
+/// it, but no others; if a plug-in marked "Required" fails, the start fails. GUI thread only.
 class EXTENSIONSYSTEM_EXPORT PluginRunner : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(PluginRunner)
 
 public:
-    /// Resolves the records at once; what cannot be used is in errors() then.
+    /// Resolves the records at once; errors() then tells what cannot be used.
     explicit PluginRunner(const QList<PluginRecord> &records, const PluginSelection &selection = {});
 
-    /// Stops what still runs.
+    /// Calls shutdown() with a limit of 5000 milliseconds.
     ~PluginRunner() override;
 
-    /// Books the times of all phases and gives them back as a table.
+    /// Records the times of all phases, which profile() returns as a table.
     void setProfiled(bool bProfiled);
     [[nodiscard]] QString profile() const;
 
-    /// Constructs and initialises all plug-ins; delayed work follows from the event loop after so many
-    /// milliseconds or startLateWork(), then initializationDone(). False: a required plug-in failed,
-    /// requiredFailure() says how, nothing runs.
+    /// Constructs and initializes all plug-ins. Delayed work follows from the event loop after this many
+    /// milliseconds or at startLateWork(), then initializationDone(). Returns false if a required plug-in
+    /// failed: requiredFailure() says how, and no plug-in runs.
     [[nodiscard]] bool start(int nLateWorkMs = 0);
 
-    /// Waits no longer with the delayed work; nothing happens when it has begun.
+    /// Begins the delayed work at once; does nothing when it has begun.
     void startLateWork();
 
-    /// After so many milliseconds of delayed work, 10000 unless set, initializationDone() comes also while
-    /// plug-ins have not finished. Each is noted as an error, and has a turn each second from then on.
+    /// Limits the delayed work, in milliseconds from its first turn; 10000 unless set. Then
+    /// initializationDone() comes even if plug-ins have not finished: each is noted as an error and has a
+    /// turn every second.
     void setLateWorkLimit(int nMs);
 
-    /// Null as long as no plug-in marked "Required" has failed.
+    /// Null while no plug-in marked "Required" has failed.
     [[nodiscard]] const PluginError *requiredFailure() const;
 
-    /// Stops all plug-ins, dependents first. Those that shut down asynchronously are waited for together, no
-    /// longer than the limit; then all are deleted. Nothing happens the second time.
+    /// Stops all plug-ins, dependents first. Those that stop asynchronously are waited for together, for at
+    /// most `nTimeoutMs` milliseconds; then all are deleted. A second call does nothing.
     void shutdown(int nTimeoutMs);
 
-    /// Hands another start's command to every running plug-in in load order.
+    /// Hands the command of another start to every running plug-in, in load order.
     void remoteCommand(
         const QStringList &options, const QString &strWorkingDirectory, const QStringList &arguments);
 
@@ -62,14 +63,14 @@ public:
     /// In the order of the records.
     [[nodiscard]] QList<PluginDescription> plugins() const;
 
-    /// The running plug-ins in load order; they stay the runner's.
+    /// The running plug-ins in load order, which the runner still owns.
     [[nodiscard]] QList<IPlugin *> running() const;
 
 signals:
-    /// Once for each new entry in errors() after the constructor.
+    /// Emitted once for each entry that errors() gets after the constructor.
     void failed(const ExtensionSystem::PluginError &error);
 
-    /// A required plug-in failed after start() had returned; the program should end.
+    /// A required plug-in failed after start() had returned true; the program should end.
     void requiredPluginFailed();
 
     void initializationDone();

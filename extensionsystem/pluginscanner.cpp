@@ -36,14 +36,14 @@ IPlugin *loadPlugin(QPluginLoader &loader, QString *pErrorString)
     return nullptr;
 }
 
-// For a library that cannot say it itself.
+// The name for a library whose metadata cannot be read: that of its file without "lib" and the suffix.
 QString nameOf(const QString &strFile)
 {
     const QString strName = QFileInfo(strFile).completeBaseName();
     return strName.startsWith(QLatin1String("lib")) ? strName.mid(3) : strName;
 }
 
-// The loader that read the metadata loads the library later, so that the file is read once.
+// The record keeps the loader that read the metadata, so that loading does not read the file again.
 std::optional<PluginRecord> readPlugin(const QString &strFile)
 {
     QElapsedTimer timer;

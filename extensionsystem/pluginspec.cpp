@@ -8,7 +8,7 @@ namespace ExtensionSystem {
 
 namespace {
 
-// Reads typed members of one object and notes what does not fit.
+// Reads members of one JSON object by type, and notes each that is wrong or missing.
 class Reader
 {
 public:
@@ -25,7 +25,7 @@ public:
             m_strPlace + QLatin1Char('"') + QLatin1String(pKey) + QStringLiteral("\" ") + strText);
     }
 
-    // The member when it is of the type; undefined when absent or wrong.
+    // The member if it has this type, else undefined. A wrong one, or a needed one that is absent, is noted.
     QJsonValue member(const char *pKey, QJsonValue::Type type, const char *pTypeName, bool bNeeded = false)
     {
         const QJsonValue value = m_object.value(QLatin1String(pKey));
@@ -67,7 +67,7 @@ public:
         return QVersionNumber::fromString(value.toString()).normalized();
     }
 
-    // One reader for each object in the array.
+    // Calls `function` with a reader for each object in the array; other entries are noted as problems.
     template <typename Function>
     void objects(const char *pKey, Function function)
     {

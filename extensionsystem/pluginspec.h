@@ -11,10 +11,10 @@
 
 namespace ExtensionSystem {
 
-/// A version as people write it: with at least three numbers, though it is kept without zeros at the end.
+/// A version as people write it, with at least three numbers; values are kept without zeros at the end.
 [[nodiscard]] EXTENSIONSYSTEM_EXPORT QString versionText(const QVersionNumber &version);
 
-/// Another plug-in that one needs, or uses when it is there.
+/// Another plug-in that this one requires, or uses when it is there.
 struct PluginDependency
 {
     QString name;
@@ -26,16 +26,16 @@ struct PluginDependency
 struct PluginArgument
 {
     QString name; ///< with its dashes
-    QString parameter; ///< what its value is called; empty when it takes none
+    QString parameter; ///< what the help calls its value; empty when it takes none
     QString description;
 };
 
-/// What a plug-in says about itself. A plain value; versions are normalised, so 1.0 and 1.0.0 are equal.
+/// What a plug-in's metadata says about it. Versions are normalized, so 1.0 and 1.0.0 are equal.
 struct EXTENSIONSYSTEM_EXPORT PluginSpec
 {
     QString name;
     QVersionNumber version;
-    QVersionNumber compatVersion; ///< the oldest version whose users still work with this one
+    QVersionNumber compatVersion; ///< the oldest version that this one can stand in for
     bool bRequired = false;
     QList<PluginDependency> dependencies;
     QList<PluginArgument> arguments;
@@ -48,11 +48,11 @@ struct EXTENSIONSYSTEM_EXPORT PluginSpec
     QString file;
     QStringList problems; ///< what is wrong with the metadata; a plug-in with any is not used
 
-    /// Reads the object that the plug-in's author wrote. Never fails: what is wrong goes to `problems`, what
-    /// is right is kept, keys it does not know are left alone.
+    /// Reads the object that the plug-in's author wrote. It never fails: what is wrong is described in
+    /// `problems`, what is right is kept, and unknown keys are ignored.
     [[nodiscard]] static PluginSpec fromJson(const QJsonObject &object, const QString &strFile);
 
-    /// Does this version do for a plug-in written against `wanted`?
+    /// Whether this version serves a plug-in that was written against `wanted`.
     [[nodiscard]] bool provides(const QVersionNumber &wanted) const;
 };
 

@@ -21,7 +21,7 @@ bool sameContent(const QString &strFirst, const QString &strSecond)
         && first.size() == second.size() && first.readAll() == second.readAll();
 }
 
-// A name for the copy: the first that is free or holds this content already.
+// Returns the first name for a copy that is free or already holds the same content.
 QString nameForCopy(const QString &strFile)
 {
     QString strCopy = strFile + s_broken;
@@ -30,7 +30,7 @@ QString nameForCopy(const QString &strFile)
     return strCopy;
 }
 
-// With no room for a copy the file itself moves away: it must not be overwritten.
+// If there is no room for a copy, the file itself is renamed, because the next write would overwrite it.
 void keepBroken(const QString &strFile)
 {
     const QString strCopy = nameForCopy(strFile);
@@ -40,7 +40,7 @@ void keepBroken(const QString &strFile)
     QFile::rename(strFile, strCopy);
 }
 
-// Reads everything, so that damage shows now and not with the first unlucky key.
+// Reads all keys, because Qt 6.4.2 parses a section, and finds damage in it, only when a key is read.
 void readAll(QSettings *pSettings)
 {
     if (QFileInfo::exists(pSettings->fileName()))

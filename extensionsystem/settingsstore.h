@@ -17,25 +17,25 @@ struct SettingsFault
     QString reason;
 };
 
-/// One settings store and whether its fault was told.
+/// Owns one settings store and remembers whether its fault was reported. GUI thread only.
 class EXTENSIONSYSTEM_EXPORT SettingsStore
 {
 public:
-    /// The user's store in this folder. One whose content is damaged keeps a copy beside it before anything
-    /// can overwrite it.
+    /// Opens the user's store in this folder; never null. If its content is damaged, a copy is kept beside it
+    /// before anything can overwrite it.
     [[nodiscard]] static std::unique_ptr<QSettings> openUser(const QString &strFolder);
 
-    /// The store of the machine; it is normal that there is none and that it cannot be written.
+    /// Opens the machine's store; never null. It is normal that its file is missing or cannot be written.
     [[nodiscard]] static std::unique_ptr<QSettings> openMachine();
 
-    /// Where the user's store lies when the command line says nothing.
+    /// The folder of the user's store when the command line names none.
     [[nodiscard]] static QString defaultFolder();
 
     void set(std::unique_ptr<QSettings> pSettings);
     [[nodiscard]] QSettings *get() const { return m_pSettings.get(); }
 
-    /// The fault the store has now; true only the first time there is one. That the user's store could not be
-    /// written is one before anything is.
+    /// Returns true, with the fault in `pFault`, the first time that the store is found to have one. A user's
+    /// store that is not writable counts at once, before anything is written.
     [[nodiscard]] bool takeFault(SettingsFault *pFault);
 
 private:

@@ -23,9 +23,9 @@ namespace ExtensionSystem {
 
 namespace {
 
-constexpr int s_nPatienceMs = 3000; // with another instance that does not answer
+constexpr int s_nPatienceMs = 3000; // how long to wait for another instance that does not answer
 constexpr int s_nPauseMs = 20; // before the next try
-constexpr int s_nMessageTimeMs = 2000; // for a message to come in whole
+constexpr int s_nMessageTimeMs = 2000; // how long a message may take to arrive completely
 constexpr int s_nMostClients = 16;
 constexpr int s_nHeader = 4;
 const QByteArray s_receipt = QByteArrayLiteral("ok");
@@ -79,7 +79,7 @@ SingleInstance::SingleInstance(const QString &strSettingsFolder)
     qRegisterMetaType<RemoteCommand>();
 }
 
-// Under the lock: closing takes the socket's file away, which must not be a successor's.
+// Closing removes the socket's file; the lock keeps that from being the file of a successor.
 SingleInstance::~SingleInstance()
 {
     if (!m_pServer)
@@ -111,12 +111,12 @@ SingleInstance::Role SingleInstance::claim(const RemoteCommand &command)
             return Role::HandedOver;
         if (delivery == Delivery::Silent)
             break;
-        QThread::msleep(s_nPauseMs); // it ended before it had the message: take its place
+        QThread::msleep(s_nPauseMs); // it ended, or turned this start away: try to take its place
     }
     return alone(tr("The running instance does not answer; another one is started."));
 }
 
-// The lock makes two simultaneous starts agree on one that listens. Nothing: the socket is connected.
+// The lock makes sure that only one of two simultaneous starts listens. No result: the socket is connected.
 std::optional<SingleInstance::Role> SingleInstance::listenUnlessConnected(QLocalSocket &socket, int nMs)
 {
     QLockFile lock(m_strLockFile);
@@ -154,7 +154,7 @@ SingleInstance::Role SingleInstance::listen()
         while (QLocalSocket *pSocket = m_pServer->nextPendingConnection())
             accept(pSocket);
     });
-    QLocalServer::removeServer(m_strName); // what a killed instance left
+    QLocalServer::removeServer(m_strName); // a killed instance leaves the file of its socket behind
     if (!pServer->listen(m_strName))
         return alone(tr("Other starts cannot be heard on %1: %2").arg(m_strName, pServer->errorString()));
     m_pServer = std::move(pServer);
@@ -202,7 +202,7 @@ void SingleInstance::read(QLocalSocket *pSocket)
     receive(pSocket, pSocket->read(nSize));
 }
 
-// A sender that had no patience left has gone, and does by itself what it asked for.
+// A sender that lost patience has disconnected, and runs its command by itself; it is not run here as well.
 void SingleInstance::receive(QLocalSocket *pSocket, const QByteArray &json)
 {
     if (!m_bHears)
@@ -210,7 +210,7 @@ void SingleInstance::receive(QLocalSocket *pSocket, const QByteArray &json)
     const auto command = RemoteCommand::fromJson(json);
     if (!command)
         return drop(pSocket, "it is malformed");
-    pSocket->disconnect(this); // the write may find that the sender left
+    pSocket->disconnect(this); // so that a write which finds the sender gone does not drop it twice
     pSocket->write(s_receipt);
     const bool bOut = pSocket->flush()
         || (pSocket->state() == QLocalSocket::ConnectedState

@@ -14,22 +14,22 @@ class QLocalSocket;
 
 namespace ExtensionSystem {
 
-/// What one start of the program hands to another that is already running.
+/// What a start of the program hands over to the instance that is already running.
 struct EXTENSIONSYSTEM_EXPORT RemoteCommand
 {
     QStringList options;
     QString workingDirectory;
-    QStringList arguments; ///< as typed; relative to the working directory
+    QStringList arguments; ///< as typed; file names are relative to workingDirectory
 
     [[nodiscard]] QByteArray toJson() const;
 
-    /// Nothing when the text is not what toJson() writes.
+    /// Returns nothing when `json` is not what toJson() writes.
     [[nodiscard]] static std::optional<RemoteCommand> fromJson(const QByteArray &json);
 };
 
-/// Sees to it that one program runs for each settings folder. The first listens on a local socket only its
-/// user can reach; later ones hand over what they were given. On the socket goes the length of the message,
-/// four bytes with the highest first, then the message in JSON; the receipt "ok" comes back.
+/// Lets one program run for each settings folder. The first start listens on a local socket that only its
+/// user can reach; later ones hand over their command lines. A message is its length (four bytes, the highest
+/// first) and then JSON; the answer is the receipt "ok". The owner is PluginManager; GUI thread only.
 class EXTENSIONSYSTEM_EXPORT SingleInstance : public QObject
 {
     Q_OBJECT
@@ -38,8 +38,8 @@ class EXTENSIONSYSTEM_EXPORT SingleInstance : public QObject
 public:
     enum class Role {
         First, ///< listens from now on
-        HandedOver, ///< another one has the command
-        Alone ///< neither; problem() says why
+        HandedOver, ///< the running instance has the command
+        Alone ///< neither of these; problem() says why
     };
 
     static constexpr int s_nLargestMessage = 1024 * 1024;
@@ -47,19 +47,19 @@ public:
     explicit SingleInstance(const QString &strSettingsFolder);
     ~SingleInstance() override;
 
-    /// Finds this start's role. Needs no event loop and takes a few milliseconds, or about three seconds
-    /// when the other one does not answer.
+    /// Finds the role of this start. It blocks, without an event loop, for a few milliseconds, or for about
+    /// three seconds when the running instance does not answer.
     [[nodiscard]] Role claim(const RemoteCommand &command);
     [[nodiscard]] QString problem() const { return m_strProblem; }
 
-    /// Where the first one listens; empty when there is no safe place.
+    /// The name of the socket; empty when there is no safe place for it.
     [[nodiscard]] QString serverName() const { return m_strName; }
 
-    /// While it does not listen, other starts find nobody there: they try again, then run by themselves.
+    /// False turns other starts away: they try again, and run by themselves after about three seconds.
     void setHears(bool bHears) { m_bHears = bHears; }
 
 signals:
-    /// From the event loop, after the receipt went out; never for a sender that did not wait for it.
+    /// Emitted from the event loop after the receipt was sent; never for a sender that did not wait for it.
     void commandReceived(const ExtensionSystem::RemoteCommand &command);
 
 private:

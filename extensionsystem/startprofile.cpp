@@ -22,7 +22,7 @@ StartProfile::Booking::~Booking()
         m_pProfile->book(m_strPlugin, m_phase, m_timer.nsecsElapsed());
 }
 
-// The turns of delayed work add up to one entry.
+// Times of the same plug-in and phase are added up, because delayed work comes in many turns.
 void StartProfile::book(const QString &strPlugin, PluginPhase phase, qint64 nNanoseconds)
 {
     for (Entry &entry : m_entries) {

@@ -9,13 +9,13 @@
 
 namespace ExtensionSystem {
 
-/// How long each plug-in took in each phase. Costs nothing unless asked for.
+/// Records how long each plug-in took in each phase. Nothing is measured unless it is enabled.
 class StartProfile
 {
 public:
     void setEnabled(bool bEnabled) { m_bEnabled = bEnabled; }
 
-    /// Runs `function` and books the time; a throwing one is booked too.
+    /// Runs `function`, returns its result and records the time, also when it throws.
     template <typename Function>
     auto measure(const QString &strPlugin, PluginPhase phase, Function function)
     {
@@ -25,7 +25,7 @@ public:
 
     void book(const QString &strPlugin, PluginPhase phase, qint64 nNanoseconds);
 
-    /// A table in milliseconds, ready to print; empty when not enabled.
+    /// The times as a table in milliseconds, ready to print; empty when not enabled.
     [[nodiscard]] QString text() const;
 
 private:
