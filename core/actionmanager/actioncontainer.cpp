@@ -14,7 +14,7 @@
 
 namespace {
 
-// What Qt shows for a command or a sub-menu; null for null, and for a menu bar, which has no entry.
+// The action that Qt shows for a command or a sub-menu; null for null, and for a menu bar, which has none.
 QAction *shownBy(const ContextAction *pCommand)
 {
     return pCommand ? pCommand->getAction() : nullptr;

@@ -12,21 +12,21 @@ class QAction;
 class QMenu;
 class QMenuBar;
 
-/// A menu or a menu bar that is filled with commands and sub-menus. ActionManager makes it and knows it by
-/// its id until it is deleted. Commands and sub-containers are not owned and may go first; nor is the widget.
-/// A null item is ignored, a null "before" appends. GUI thread only.
+/// A menu or a menu bar that is filled with commands and sub-menus. ActionManager makes it, knows it by its
+/// id, and at last deletes it with its menu or menu bar. Commands and sub-containers are not owned and may go
+/// first. An item that is there already moves, null is ignored, a null "before" appends. GUI thread only.
 class CORE_EXPORT ActionContainer : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ActionContainer)
 
 public:
-    /// Kept for the page that asks for it; no behaviour reads it.
+    /// Stored and returned, but without effect: entries stay as they are whatever is set.
     enum OnAllDisabledBehavior { LeaveAsIs, GreyOut, HideEntry };
 
     ~ActionContainer() override;
 
-    // Plug-ins build on the order of the virtual functions.
+    // Keep the order of the virtual functions: plug-ins that are compiled already call them by their place.
     virtual void setMenu(QMenu *pMenu);
     virtual void setMenuBar(QMenuBar *pMenuBar);
     /// Null for a menu bar.
@@ -47,9 +47,9 @@ public:
     virtual void insertMenu(ActionContainer *pMenu, ActionContainer *pBefore = nullptr);
     virtual void insertMenu(ActionContainer *pMenu, ContextAction *pBefore);
 
-    /// Makes a separator, a command of the global context with an id of its own. `ppSeparator` gets the
-    /// action behind it, a child of this container; with that, ActionManager::unregisterAction() removes it.
-    /// Null without a main window.
+    /// Makes a separator: a command for the main window with an id of its own. If `ppSeparator` is not null,
+    /// it gets the action behind it, which this container owns; ActionManager::unregisterAction() with that
+    /// action removes the separator. Null without a main window.
     virtual ContextAction *insertSeparator(
         ActionContainer *pBefore = nullptr, QAction **ppSeparator = nullptr);
     virtual ContextAction *insertSeparator(ContextAction *pBefore, QAction **ppSeparator = nullptr);
@@ -58,12 +58,12 @@ protected:
     virtual void removeMenu(QMenu *pMenu);
     virtual void removeAction(QAction *pAction);
 
-    /// Shows the entry of this menu exactly if the menu has something enabled and visible to offer, and says
-    /// whether it has. Nothing calls it by itself. A menu bar always has.
+    /// Shows the entry of this menu if the menu has an enabled and visible action to offer, else hides it,
+    /// and returns whether it has one. The program never calls it by itself. A menu bar always returns true.
     virtual bool updateInternal() = 0;
 
 public:
-    /// Takes commands and sub-menus out of the widget and empties the sub-containers; separators stay.
+    /// Takes commands and sub-menus out of the widget, and empties sub-containers as well; separators stay.
     void clear();
 
     void setOnAllDisabledBehavior(OnAllDisabledBehavior behavior) { m_onAllDisabledBehavior = behavior; }
@@ -73,7 +73,7 @@ protected:
     explicit ActionContainer(const QString &strId);
 
 private slots:
-    // Empty on purpose: a container never changes by itself, a menu keeps the look its maker gave it.
+    // Empty on purpose: a container never changes by itself; its menu keeps the look that its maker gave it.
     void scheduleUpdate() { }
     void itemDestroyed() { }
 

@@ -15,9 +15,14 @@ class QAction;
 class QSettings;
 class QWidget;
 
-/// The commands and the menus of the program, by id, and the user's shortcuts. Commands and containers belong
-/// to it; the actions registered for commands do not. The first main window makes it, and it lives until the
-/// process ends; without it there are no commands and changes are ignored. GUI thread only.
+/// All commands and menus of the program, by id, and the user's shortcuts. It owns commands and containers,
+/// but not the actions registered for commands. The first main window makes it, and it lives until the
+/// process ends; while there is none, there are no commands and changes are ignored. GUI thread only.
+///
+///     auto *pTrim = new QAction(tr("&Trim"), this);
+///     connect(pTrim, &QAction::triggered, this, &TrimPlugin::trim);
+///     auto *pCommand = ActionManager::registerAction(pTrim, "Edit.Trim", ICore::getMainWindow());
+///     ActionManager::getActionContainer("MenuBar.Edit")->insertAction(pCommand);
 class CORE_EXPORT ActionManager : public QObject
 {
     Q_OBJECT
@@ -29,25 +34,25 @@ public:
 
     [[nodiscard]] static ActionManager *getInstance();
 
-    /// Takes the user's store for the shortcuts. Every main window calls it: what a former one left behind
-    /// goes (its menus, and commands without a living action), all other commands move to the new one.
+    /// Stores shortcuts in the user's settings from now on, and moves all commands to the main window, each
+    /// of which calls it. Deletes commands without a living action, and the menus of a destroyed window.
     static void initialize();
 
-    /// The store of the shortcuts, group "Shortcuts"; not owned.
+    /// The store of the shortcuts, in its group "Shortcuts"; not owned. With null nothing is read or stored.
     static void setSettings(QSettings *pSettings);
     [[nodiscard]] static QSettings *getSettings();
 
-    /// Makes the action the one that the command `strId` triggers in `pContext`, and switches the command
-    /// there until the next setContext(). The first action for an id and a context stays. A command that is
-    /// new reads its shortcut and gives its proxy to the main window. Then follow commandListChanged() and
-    /// commandAdded(). Null, and nothing happens, for a null action or context, an empty id, and a proxy that
-    /// would lead back to its own command. Null as well if a listener took the command away.
+    /// Makes `pAction` what the command `strId` triggers in `pContext`, and switches the command to that
+    /// context until the next setContext(). The first action for an id and a context stays, even destroyed,
+    /// until unregisterAction(). A new command reads its shortcut, and its proxy is added to the main window.
+    /// Emits commandListChanged() and commandAdded(). Null, without any effect, for a null action or context,
+    /// an empty id and a proxy that leads back to its own command; null also if a listener removed it.
     static ContextAction *registerAction(
         QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable = false);
 
-    /// Takes the action away from all contexts of the command, and with the last action the command goes. For
-    /// a command that exists commandListChanged() follows; a null action is ignored. The third argument is
-    /// not used.
+    /// Takes the action away from all contexts of the command, and with its last living action the command is
+    /// deleted. Whenever the command exists commandListChanged() follows; a null action is ignored. The third
+    /// argument is not used.
     static void unregisterAction(QAction *pAction, const QString &strId, const QString &strContext = {});
 
     /// Null for an unknown id.
@@ -56,28 +61,28 @@ public:
     /// In ascending order of the ids.
     [[nodiscard]] static QList<ContextAction *> getActions();
 
-    /// A menu that has this id already is returned as it is, with its title. The menu, or the menu bar, has
-    /// no parent and the id as object name.
+    /// Returns the container that has this id already, if any, with its title unchanged; null for an empty
+    /// id. A new menu or menu bar has no parent, and the id as its object name.
     static ActionContainer *createMenuContainer(const QString &strId, const QString &strTitle);
     static ActionContainer *createMenuBarContainer(const QString &strId);
 
     /// Null for an unknown id.
     [[nodiscard]] static ActionContainer *getActionContainer(const QString &strId);
 
-    /// The way through the menus as lists of shortcuts show it, such as "File > New".
+    /// The way through the menus as lists of shortcuts show it, such as "File > New"; empty for null.
     [[nodiscard]] static QString getActionFullText(const ContextAction *pCommand);
 
-    /// Switches every command to its action of this widget, which is that of the active context. One without
-    /// such an action, and for null every command, goes to that of the main window.
+    /// Switches every command to its action for this widget, which is that of the active context. A command
+    /// without one there, and every command for null, is switched to its action for the main window, if any.
     static void setContext(QWidget *pContext);
 
-    /// Gives every command the stored shortcut; one without a stored shortcut loses its own.
+    /// Gives every command its stored shortcut; a command without a stored one loses its shortcut.
     static void readFromSettings();
 
-    /// Stores the shortcut of every command, and removes the key of one without. Keys of unknown ids stay.
+    /// Stores the shortcut of every command, or removes the entry if it has none. Other entries stay.
     static void saveSettings();
 
-    /// Gives every command its default; nothing is stored.
+    /// Gives every command its default shortcut, without storing it.
     static void resetToDefault();
 
 signals:

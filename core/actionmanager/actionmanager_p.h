@@ -27,25 +27,25 @@ public:
     ~ActionManagerPrivate() override;
 
     void enterWindow(QWidget *pWindow);
-    /// Logs if it is.
+    /// Whether the action is the proxy of this command or leads to it through others; if so, logs a warning.
     [[nodiscard]] bool isOwnProxy(const QAction *pAction, const QString &strId) const;
-    /// The command's proxy, its child.
+    /// Returns the command's proxy, whose parent is the command; null if a listener removed the command.
     QPointer<ProxyAction> addAction(
         QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable);
     void removeAction(QAction *pAction, ContextAction *pCommand);
     ActionContainer *addContainer(const QString &strId, ActionContainer *pContainer, QWidget *pShownIn);
     void setContext(QWidget *pContext);
-    /// False if fewer than two enabled commands have these keys.
+    /// Triggers the one that has had these keys longest; false if fewer than two enabled commands have them.
     bool triggerFirst(const QKeySequence &keys) const;
     void putOutOfLine(const QString &strId) { m_outOfLine.insert(m_outOfLine.end(), strId); }
 
-    /// In ascending order of the ids, each watched: whoever listens to a command may unregister others.
+    /// In ascending order of the ids, each watched, because a listener to a command may unregister others.
     [[nodiscard]] QList<QPointer<ContextAction>> commands() const;
 
-    /// The commands that take part in the settings.
+    /// The commands whose shortcuts are stored in the settings.
     [[nodiscard]] QList<QPointer<ContextAction>> nonSeparators() const;
 
-    /// Empty without a store, without a key, and for what is no key sequence.
+    /// Empty without a store, without an entry, and for an entry that is no key sequence.
     [[nodiscard]] QKeySequence storedShortcut(const QString &strId) const;
 
     using Actions = QMap<QString, ContextAction *>;
@@ -53,7 +53,7 @@ public:
     QMap<QString, ActionContainer *> m_containers;
     QWidget *m_pCurrentContext = nullptr;
     QSettings *m_pSettings = nullptr;
-    quint64 m_nChanges = 0; // of shortcuts, and new commands
+    quint64 m_nChanges = 0; // counts changes of shortcuts and new commands
 
 private slots:
     void containerDestroyed();
@@ -66,16 +66,16 @@ private:
     void dropContainers();
     void putContextOutOfLine(QWidget *pContext);
 
-    /// The main window that the commands came to last.
+    /// The main window to which the commands were moved last.
     QPointer<QWidget> m_pWindow;
     bool m_bHadWindow = false;
 
-    /// The main window that the commands fell back to last; only compared.
+    /// The main window that was the fallback at the last setContext(); compared, but never dereferenced.
     QWidget *m_pFallback = nullptr;
 
-    /// Which commands have an action for a context, apart from that of the main window.
+    /// The ids of the commands that have an action for a context other than the main window.
     QHash<QWidget *, std::set<QString>> m_idsOf;
 
-    /// The commands whose live action need not be the one that the current context asks for.
+    /// The commands whose live action may differ from the one that the current context asks for.
     std::set<QString> m_outOfLine;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How commands come, go and follow the context.
+// How commands are added, removed and switched with the context.
 #include "actionmanager/actionmanager_p.h"
 
 #include "actionmanager/actioncontainer.h"
@@ -43,7 +43,7 @@ QList<QPointer<ContextAction>> ActionManagerPrivate::nonSeparators() const
     return found;
 }
 
-// The next window may have the address of the former one, and would inherit its dead actions.
+// A new window may get the address of a destroyed one, whose dead actions would then count as its own.
 void ActionManagerPrivate::enterWindow(QWidget *pWindow)
 {
     if (!pWindow || m_pWindow == pWindow)
@@ -66,8 +66,8 @@ void ActionManagerPrivate::enterWindow(QWidget *pWindow)
     m_pFallback = nullptr;
 }
 
-// A new proxy gets its shortcut and its window when it is complete: each change before would scan Qt's table
-// of shortcuts, or reach the window as an event. The shortcut comes before any default: the user's wins.
+// A new proxy gets its shortcut and window last: from then on each change searches Qt's table of shortcuts or
+// sends the window an event. The stored shortcut is set before any default, so that the user's wins.
 QPointer<ProxyAction> ActionManagerPrivate::addAction(
     QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable)
 {
@@ -89,7 +89,7 @@ QPointer<ProxyAction> ActionManagerPrivate::addAction(
     return pProxy;
 }
 
-// A command that led back to itself, also by way of others, would mirror and trigger itself without end.
+// A command that leads back to itself, directly or through others, would mirror and trigger itself forever.
 bool ActionManagerPrivate::leadsTo(const QAction *pAction, const ContextAction *pTarget)
 {
     const auto *pCommand = pAction ? qobject_cast<const ContextAction *>(pAction->parent()) : nullptr;
@@ -132,7 +132,7 @@ void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pComm
     const auto overrides = pCommand->m_overrides;
     pCommand->removeOverrideAction(pAction);
     for (const auto &entry : overrides) {
-        // The registry decides: a listener may have dropped the command and registered the id again.
+        // The registry is asked, because a listener may have dropped the command and registered the id again.
         const ContextAction *pNow = m_actions.value(strId);
         const auto it = m_idsOf.find(entry.pContext);
         if (it == m_idsOf.end() || (pNow && pNow->overrideOf(entry.pContext)))
@@ -143,7 +143,7 @@ void ActionManagerPrivate::removeOverride(QAction *pAction, ContextAction *pComm
     }
 }
 
-// Out of the registry first: who hears of the end finds no such command, and may register a new one.
+// The command leaves the registry first, so that listeners to its end do not find it and may make a new one.
 void ActionManagerPrivate::dropCommand(ContextAction *pCommand)
 {
     m_actions.remove(pCommand->getId());
@@ -181,9 +181,9 @@ void ActionManagerPrivate::dropContainers()
     }
 }
 
-// A change of context touches the commands that have an action of their own for the old one or the new one,
-// and those that are out of line; to every other command it changes nothing. Who listens may change the
-// context again: the rest of the commands then follows that.
+// A change of context affects only commands that have an action of their own for the old or the new context,
+// and those in m_outOfLine. A listener may change the context again from within; the rest of the commands
+// then follows the newer context.
 void ActionManagerPrivate::setContext(QWidget *pContext)
 {
     if (m_pFallback != ICore::getMainWindow()) {
@@ -209,7 +209,7 @@ void ActionManagerPrivate::putContextOutOfLine(QWidget *pContext)
         m_outOfLine.insert(it->begin(), it->end());
 }
 
-// Qt hands a press that several commands share to one after the other, and none of them fires by itself.
+// Qt 6.4.2 sends a key that several actions share to each in turn, marked as ambiguous, and triggers none.
 bool ActionManagerPrivate::triggerFirst(const QKeySequence &keys) const
 {
     QList<ContextAction *> rivals = m_actions.values();
@@ -230,7 +230,7 @@ bool ActionManagerPrivate::triggerFirst(const QKeySequence &keys) const
     return true;
 }
 
-// Written in portable form and parsed in native form: the files that users have are read this way.
+// Native text is parsed though portable text was stored: it accepts translated and portable key names.
 QKeySequence ActionManagerPrivate::storedShortcut(const QString &strId) const
 {
     if (!m_pSettings)

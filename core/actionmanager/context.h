@@ -11,7 +11,7 @@ class QWidget;
 struct CORE_EXPORT Context
 {
     QWidget *widget = nullptr;
-    /// Compared with regard to case.
+    /// Compared case-sensitively.
     QString id;
     /// For display.
     QString name;

@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-/// A virtual function in place of a signal: registering thousands of commands shows the difference.
+/// Overrides virtual functions, because a signal would slow down registering thousands of commands.
 class ContextAction::Proxy : public ProxyAction
 {
 public:
@@ -45,13 +45,13 @@ ContextAction::ContextAction(const QString &strId, ActionManagerPrivate *pManage
     , m_pManager(pManager)
 {
     m_pProxy->setShortcutVisibleInToolTip(true);
-    // The first connection: when a slot throws, the user is told which command it was.
+    // This is the first connection, so that the command is already known when a slot throws.
     connect(m_pProxy, &QAction::triggered, this,
         [this] { ExtensionSystem::PluginManager::setActivity(m_strId); });
     connect(m_pProxy, &QAction::changed, this, &ContextAction::updateActiveState);
 }
 
-// While this still is a command: the end of the proxy is heard of.
+// Deletes the proxy while this is still a whole command, because listeners hear of the proxy's destruction.
 ContextAction::~ContextAction()
 {
     delete m_pProxy;
@@ -85,7 +85,7 @@ bool ContextAction::isSeparator() const
     return m_pProxy && m_pProxy->isSeparator();
 }
 
-// A copy: who listens to an action may register or unregister others.
+// Works on a copy, because a listener to an action may register or unregister others.
 void ContextAction::setVisible(bool bVisible)
 {
     const auto overrides = m_overrides;
@@ -102,7 +102,7 @@ const ContextAction::Override *ContextAction::overrideOf(const QWidget *pContext
     return it == m_overrides.end() ? nullptr : &*it;
 }
 
-// The proxy dies with the command, and both may while the proxy tells the world.
+// Listeners hear of each change of the proxy, and one may delete the command and with it the proxy.
 void ContextAction::setCurrentContext(QWidget *pContext)
 {
     m_pCurrentContext = overrideOf(pContext) ? pContext : ICore::getMainWindow();
@@ -127,7 +127,7 @@ void ContextAction::addOverrideAction(QAction *pAction, QWidget *pContext, bool 
         setCurrentContext(pContext);
 }
 
-// Actions that are gone go with it.
+// Also removes entries whose action was destroyed.
 void ContextAction::removeOverrideAction(QAction *pAction)
 {
     m_overrides.removeIf([=](const Override &entry) { return !entry.pAction || entry.pAction == pAction; });
@@ -142,7 +142,7 @@ void ContextAction::setActive(bool bActive)
     emit activeStateChanged();
 }
 
-// Commands have their defaults from the start, also after a change that was taken back.
+// A command has had its default since it was made, even if its keys were changed in between.
 bool ContextAction::hadKeysBefore(const ContextAction &other) const
 {
     const auto since = [](const ContextAction &command) {
@@ -151,7 +151,7 @@ bool ContextAction::hadKeysBefore(const ContextAction &other) const
     return since(*this) < since(other);
 }
 
-// The proxy's shortcut is looked at too, as it may be set without the command.
+// Looks at the proxy's shortcut, because others may set it there without calling setKeySequence().
 void ContextAction::updateActiveState()
 {
     if (!m_pProxy)

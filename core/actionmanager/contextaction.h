@@ -15,8 +15,8 @@ class QAction;
 class QWidget;
 
 /// One command of the program: one id, one menu entry, one shortcut, and for each context widget the action
-/// that it then triggers. ActionManager makes it when an action is first registered for the id and deletes it
-/// with the last one. Registered actions are not owned. GUI thread only.
+/// that is triggered there. ActionManager makes it when an action is first registered for the id and deletes
+/// it when the last one is unregistered. Registered actions are not owned. GUI thread only.
 class CORE_EXPORT ContextAction : public QObject
 {
     Q_OBJECT
@@ -29,33 +29,33 @@ public:
 
     [[nodiscard]] QString getId() const { return m_strId; }
 
-    /// The proxy that menus show, in every context the same; owned here.
+    /// The proxy that menus show, the same one in every context. The command owns it.
     [[nodiscard]] QAction *getAction() const;
 
-    /// The shortcut in force; it lives on the proxy alone.
+    /// The shortcut in force, which is that of the proxy.
     [[nodiscard]] QKeySequence getKeySequence() const;
     void setKeySequence(const QKeySequence &keys);
 
-    /// A new default also comes into force if the command has no shortcut yet: the user's, read before, wins.
+    /// A new default is put in force if the command has no shortcut; a stored one was read before and stays.
     [[nodiscard]] QKeySequence getDefaultKeySequence() const { return m_defaultKeySequence; }
     void setDefaultKeySequence(const QKeySequence &keys);
 
     [[nodiscard]] QString getDescription() const { return m_strDescription; }
     void setDescription(const QString &strDescription) { m_strDescription = strDescription; }
 
-    /// No action is registered.
+    /// Whether no action is registered. One that was destroyed counts until ActionManager removes it.
     [[nodiscard]] bool isEmpty() const { return m_overrides.isEmpty(); }
     [[nodiscard]] bool isSeparator() const;
 
-    /// For every registered action that lives; the proxy follows the one it points at.
+    /// Shows or hides every registered action that still lives; the proxy follows the one it points at.
     void setVisible(bool bVisible);
 
-    /// Points the proxy at the action of this widget, without a look at its parents, or else at the main
-    /// window's, or else at none.
+    /// Points the proxy at the action for this widget (its parents do not count), or else at the action for
+    /// the main window, or else at none.
     void setCurrentContext(QWidget *pContext);
 
-    /// Plug-ins ask these and rely on the answers as they are: attributes and scriptability are taken but
-    /// never consulted, and every command calls itself active. Listen to activeStateChanged() instead.
+    /// These always return true, whatever is set, so that a plug-in which asks before it uses a command is
+    /// not turned away. Whether the user can use the command is told by the proxy and activeStateChanged().
     [[nodiscard]] bool hasAttribute(ActionAttribute) const { return true; }
     void setAttribute(ActionAttribute) { }
     void removeAttribute(ActionAttribute) { }
@@ -63,14 +63,14 @@ public:
     [[nodiscard]] bool isScriptable() const { return true; }
     [[nodiscard]] bool isScriptable(const QString &) const { return true; }
 
-    /// Always empty, which plug-ins rely on; ProxyAction has the one that works.
+    /// Always empty; ProxyAction::stringWithAppendedShortcut() returns the text with the shortcut.
     [[nodiscard]] QString stringWithAppendedShortcut(const QString &) const { return {}; }
 
 signals:
-    /// The proxy came to be, or ceased to be, enabled, visible and no separator.
+    /// The proxy became usable or ceased to be: it is usable while enabled, visible and not a separator.
     void activeStateChanged();
 
-    /// For listeners of plug-ins; nothing here emits it.
+    /// Never emitted; plug-ins may connect to it. New shortcuts are told by QAction::changed() of the proxy.
     void keySequenceChanged();
 
 private slots:
@@ -101,10 +101,10 @@ private:
     QKeySequence m_defaultKeySequence;
     QString m_strDescription;
     QPointer<ProxyAction> m_pProxy;
-    /// One for each context widget. There are few, and most commands have one.
+    /// One entry for each context widget. Most commands have one, so searching the list is fast.
     QList<Override> m_overrides;
     bool m_bActive = false;
-    /// The order in which commands came, and in which those with shortcuts that users chose got them.
+    /// When the command was made, and when its keys last changed, as ActionManagerPrivate::m_nChanges counts.
     quint64 m_nOrder;
     QKeySequence m_lastKeys;
     quint64 m_nKeysSince = 0;

@@ -5,7 +5,7 @@
 
 namespace {
 
-// How often a state is copied while listeners keep changing it.
+// How often a state is copied again while listeners keep changing it.
 constexpr int s_nMostRounds = 10;
 
 } // namespace
@@ -21,7 +21,7 @@ ProxyAction::ProxyAction(QObject *pParent)
     });
 }
 
-// Null after an action that died is no repetition: the proxy still has to give up its state.
+// After an action died, null must still disable the proxy, although m_pAction is null already.
 void ProxyAction::setAction(QAction *pAction)
 {
     const bool bDied = m_bPointed && !m_pAction;
@@ -75,8 +75,8 @@ void ProxyAction::actionChanged()
         updateState();
 }
 
-// Whoever hears of a change may point this proxy elsewhere. One that never lets it rest is left alone after a
-// while.
+// A listener may point this proxy at another action, which then has to be copied too. If listeners never stop
+// doing so, this stops after some rounds.
 void ProxyAction::updateState()
 {
     const QPointer<ProxyAction> pGuard(this);
@@ -100,9 +100,9 @@ void ProxyAction::showNoAction()
         setEnabled(false);
 }
 
-// Each step tells the world, and whoever listens may delete the source or this proxy, or point it elsewhere,
-// which copies and connects on its own, or change the source, so that it is copied again until nothing
-// changes. The setters of icons would tell of a change also without one.
+// Each step emits signals. A listener may delete the source or this proxy, or point it elsewhere, which
+// copies by itself; then this stops. It may also change the source, which is then copied until nothing
+// changes. In Qt 6.4.2 setIcon() always emits changed(), and setIconVisibleInMenu() does for the default.
 void ProxyAction::update(QAction *pSource, bool bInitialize)
 {
     using To = ProxyAction &;
@@ -178,9 +178,9 @@ void ProxyAction::updateToolTipWithKeySequence()
         m_bUpdatingToolTip = false;
 }
 
-// Off first: an update within an update must not leave two sets behind. An outer update may still have to
-// tell that this was toggled when an inner one has copied another action: what holds now is handed on, not
-// that.
+// The old connections go first, or an update within an update would leave two sets of them. The lambda hands
+// on isChecked() and not the argument of toggled(), because an inner update may have copied another action
+// before an outer one emits that signal.
 void ProxyAction::connectAction()
 {
     disconnectAction();

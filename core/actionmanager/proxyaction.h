@@ -9,9 +9,9 @@
 
 #include <array>
 
-/// The action that menus, tool bars and shortcuts hold for a command. It mirrors the action it points at and
-/// hands its own triggering and toggling on to it; what it points at can change at any time and is not owned.
-/// GUI thread only.
+/// The action that menus, tool bars and shortcuts hold for a command. It takes over the state of the action
+/// it points at, and passes its own triggering and toggling on to it. That action is not owned and can be
+/// replaced at any time. GUI thread only.
 class CORE_EXPORT ProxyAction : public QAction
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ class CORE_EXPORT ProxyAction : public QAction
 
 public:
     enum Attribute {
-        /// Hidden, not only disabled, while it points at no living action.
+        /// Without an action the proxy is hidden as well as disabled.
         HideWhenNoAction = 1,
-        /// Text, tool tip, status tip and what's-this follow every change.
+        /// Text, tool tip, status tip and what's-this are copied at every change of the action.
         MirrorText = 2,
-        /// Icon, icon text and whether menus show the icon follow every change.
+        /// Icon, icon text and whether menus show the icon are copied at every change of the action.
         MirrorIcon = 4
     };
     Q_DECLARE_FLAGS(Attributes, Attribute)
@@ -31,14 +31,14 @@ public:
     /// Disabled until it points at an action.
     explicit ProxyAction(QObject *pParent);
 
-    /// Null without one and after it was destroyed.
+    /// Null if it points at none, or at one that was destroyed; the state then stays until setAction().
     [[nodiscard]] QAction *action() const { return m_pAction; }
 
-    /// The action it points at already changes nothing. Null leaves the texts and the icon as they are.
+    /// The same action again changes nothing. Null, even after one that died, disables it and keeps its look.
     void setAction(QAction *pAction);
 
-    /// Copies what makes up the look of a command from an action, but not whether it is enabled, checked or
-    /// visible.
+    /// Copies the look of a command from an action, but not whether it is enabled, checked or visible, and
+    /// does not point at it. Null is ignored.
     void initialize(QAction *pAction);
 
     void setAttribute(Attribute attribute);
@@ -51,7 +51,7 @@ public:
     [[nodiscard]] static QString stringWithAppendedShortcut(const QString &strText, const QKeySequence &keys);
 
 protected:
-    /// It points at another action, or the one it points at was destroyed.
+    /// Called when it points at another action, and when the action that it points at was destroyed.
     virtual void liveActionChanged() { }
 
 private slots:
@@ -71,7 +71,7 @@ private:
     QString m_strToolTip;
     bool m_bUpdatingToolTip = false;
 
-    /// Whether it was pointed at an action last, living or not.
+    /// Whether setAction() was last called with an action, even if that was destroyed since.
     bool m_bPointed = false;
     bool m_bMirroring = false;
     quint32 m_nChanges = 0;

@@ -56,7 +56,7 @@ ShortcutInfo infoOf(const ContextAction *pCommand)
     return info;
 }
 
-// Of all keys in the store, also those of commands that are not there.
+// All shortcuts in the store, also those of commands that are absent.
 Texts storedTexts()
 {
     Texts texts;
