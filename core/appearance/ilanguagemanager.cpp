@@ -21,7 +21,7 @@ LanguageInfo *infoOf(const QLocale &locale)
         QLocale::countryToString(locale.country()), locale.nativeLanguageName(), locale.nativeCountryName()};
 }
 
-// "app_de_DE.qm" stands for de_DE.
+// "app_de_DE.qm" is the catalog of de_DE.
 QString idOf(const QString &strFile)
 {
     const QString strBase = strFile.left(strFile.lastIndexOf(QLatin1Char('.')));

@@ -19,12 +19,12 @@ struct LanguageInfo
     QString nativeLanguage; ///< name in that language
     QString nativeCountry; ///< name in that language
 
-    /// What the user chooses from: "Deutsch (Germany)".
+    /// The text from which the user chooses, such as "Deutsch (Germany)".
     [[nodiscard]] QString title() const { return QStringLiteral("%1 (%2)").arg(nativeLanguage, country); }
 };
 
-/// The languages whose catalogues are installed, and the user's choice among them. It lives as long as the
-/// process and owns its entries. A saved choice takes effect at the next start. GUI thread only, except
+/// The languages whose catalogs are installed, and the user's choice among them. It lives until the process
+/// ends and owns its entries. A saved choice takes effect at the next start. GUI thread only, except
 /// getInstance().
 class CORE_EXPORT ILanguageManager : public QObject
 {
@@ -34,28 +34,28 @@ class CORE_EXPORT ILanguageManager : public QObject
 public:
     [[nodiscard]] static ILanguageManager &getInstance();
 
-    /// Reads the choice from the framework's user settings and lists built-in English and every catalogue
-    /// "translations/app_<id>.qm" beside the program. Called once: a second call lists all of them again.
-    /// Always true.
+    /// Reads the choice from the user's settings, and lists English, which is built in, and a language for
+    /// every catalog "translations/app_<id>.qm" beside the program. Call it once: a second call lists all of
+    /// them again. Always returns true.
     bool initialize();
 
-    /// English first, then one entry per catalogue in order of the file names. Nothing is left out, not even
-    /// a second entry of the same language.
+    /// English first, then one entry for each catalog in order of the file names. Nothing is left out, not
+    /// even a second entry for the same language.
     [[nodiscard]] const QList<LanguageInfo *> &getLanguages() const { return m_languages; }
 
-    /// Of the running program: de_DE, the part before the first "_", and the same again for file names.
+    /// Of the running program: the id, such as de_DE; its part before the first "_"; the same for file names.
     [[nodiscard]] QString getCurrentLangId() const;
     [[nodiscard]] QString getCurrentLangCode() const;
     [[nodiscard]] QString getCurrentLangNoCountry() const;
 
-    /// As stored; empty when never saved.
+    /// As stored; empty when no choice was ever saved.
     [[nodiscard]] QString getSaveLangId() const;
 
-    /// Stores the id of a listed language, spelled exactly so; false and nothing stored for any other, and
-    /// when the store cannot be written.
+    /// Stores the id of a listed language, compared case-sensitively. Returns false for any other id, which
+    /// is not stored, and when the store cannot be written.
     bool saveLanguage(const QString &strId);
 
-    /// Replaces the store; not owned.
+    /// Replaces the store, which is not owned. With null nothing is read or saved.
     void setSettings(QSettings *pSettings) { m_pSettings = pSettings; }
 
 private:

@@ -89,7 +89,7 @@ bool IThemesManager::applyAsItStands(const QString &strFile)
     return true;
 }
 
-// Each of the two files may be missing; only the base makes it a theme.
+// Either of the two files may be missing, but "Dark" is in force only if the base is there.
 bool IThemesManager::applyDark()
 {
     const QString strFile = QStringLiteral("app_dark.qss");
@@ -117,8 +117,8 @@ bool IThemesManager::saveThemes(const QString &strId)
     return ExtensionSystem::PluginManager::storeSettings(m_pSettings);
 }
 
-// Themes other than "Dark" keep no raw sheet, so they are applied as they stand and then lost. Programs that
-// follow the scale of the display call this for "Dark" only, and that is relied on as it stands.
+// Other themes than "Dark" keep no raw sheet: initialize() would apply theirs as it stands, and the next line
+// would replace it by an empty one. Therefore this is called for "Dark" only.
 void IThemesManager::processDPIChange()
 {
     if (m_strRawSheet.isEmpty())

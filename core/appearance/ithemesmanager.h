@@ -9,7 +9,7 @@
 
 class QSettings;
 
-/// One theme. Both hold the same text, such as "Dark".
+/// One theme. Both members hold the same text, such as "Dark".
 struct ThemesInfo
 {
     QString id;
@@ -17,9 +17,9 @@ struct ThemesInfo
 };
 
 /// The themes whose style sheets are installed, the user's choice among them, and the one in force. It lives
-/// as long as the process and owns its entries. A saved choice takes effect at the next start. Who owns the
-/// program's look calls initialize() and processDPIChange(); nothing in the core does. GUI thread only,
-/// except getInstance().
+/// until the process ends and owns its entries. A saved choice takes effect at the next start. The plug-in
+/// that gives the program its look calls initialize() and processDPIChange(); nothing in the core does. GUI
+/// thread only, except getInstance().
 class CORE_EXPORT IThemesManager : public QObject
 {
     Q_OBJECT
@@ -28,9 +28,9 @@ class CORE_EXPORT IThemesManager : public QObject
 public:
     [[nodiscard]] static IThemesManager &getInstance();
 
-    /// Lists the sheets "resources/styles/app_*.qss" beside the program, gives the application the saved one,
-    /// at first "Dark", and then a KPAppStyle. False when no sheet could be applied: "Dark" is the theme of
-    /// the next start then, if it is there. Called once: a second call lists all themes again.
+    /// Lists the sheets "resources/styles/app_*.qss" beside the program, gives the application that of the
+    /// saved theme, at first "Dark", and then a KPAppStyle. Returns false if no sheet could be applied; then
+    /// "Dark", if listed, is saved. Call it once: a second call lists all themes again.
     bool initialize();
 
     /// In order of the file names.
@@ -40,18 +40,18 @@ public:
     [[nodiscard]] QString getCurrentThemeId() const { return m_current.id; }
     [[nodiscard]] QString getCurrentThemeName() const { return m_current.name; }
 
-    /// As stored, "Dark" when nothing is.
+    /// As stored; "Dark" when nothing is.
     [[nodiscard]] QString getSaveThemeId() const;
 
-    /// Stores the id of a listed theme, spelled exactly so; false and nothing stored for any other, and when
-    /// the store cannot be written.
+    /// Stores the id of a listed theme, compared case-sensitively. Returns false for any other id, which is
+    /// not stored, and when the store cannot be written.
     bool saveThemes(const QString &strId);
 
-    /// Gives the application the sheet of "Dark" again, with the sizes for the main window's screen. While
-    /// another theme is in force it leaves the application without a sheet: programs call it for "Dark" only.
+    /// Gives the application the sheet of "Dark" again, with sizes for the main window's screen. Call it only
+    /// while "Dark" is in force: else the sheet is taken away, or "Dark" comes if it is saved by now.
     void processDPIChange();
 
-    /// Replaces the store; not owned.
+    /// Replaces the store, which is not owned. With null nothing is read or saved.
     void setSettings(QSettings *pSettings) { m_pSettings = pSettings; }
 
 private:
@@ -65,5 +65,5 @@ private:
     ThemesInfo m_current;
     QList<ThemesInfo *> m_themes;
     QSettings *m_pSettings = nullptr;
-    QString m_strRawSheet; ///< of "Dark" only
+    QString m_strRawSheet; ///< the sheet of "Dark" with its size tokens; empty under other themes
 };

@@ -96,7 +96,7 @@ constexpr Metric s_metrics[] = {
 
 constexpr std::size_t s_nMetrics = 128;
 
-// The table by metric: styles are asked often.
+// The rows indexed by metric, because styles are asked for metrics very often.
 constexpr auto s_byMetric = [] {
     std::array<Metric, s_nMetrics> byMetric {};
     for (const Metric &row : s_metrics)
@@ -111,7 +111,7 @@ int layoutMargin(const QStyleOption *pOption, const QWidget *pWidget)
     return DisplayScale::proportional(DisplayScale::logicalDpi(pWidget), bWindow ? 11 : 9);
 }
 
-// Never lower than the text in it.
+// The title bar is never lower than its text.
 int titleBarHeight(const QStyleOptionTitleBar *pOption, const QWidget *pWidget)
 {
     int nFloor = 18;
@@ -138,7 +138,7 @@ CheckBoxColours checkBoxColours(QStyle::State state)
     return {0xff494949, 0xff2a2a2a};
 }
 
-// Both legs at 45 degrees, through the middles of pixels: equally sharp at every size.
+// Both legs lie at 45 degrees through the centers of pixels, so the mark is equally sharp at every size.
 void drawCheckMark(QPainter *pPainter, const QRect &rect, const QColor &colour)
 {
     const int nLeg = qMax(1, qRound(rect.width() * 0.2));
@@ -210,9 +210,9 @@ int KPAppStyle::pixelMetric(PixelMetric metric, const QStyleOption *pOption, con
     default:
         break;
     }
-    // Metrics of a style's own lie beyond the table.
+    // Metrics that a style defines for itself, from QStyle::PM_CustomBase on, lie beyond the table.
     const Metric row = static_cast<std::size_t>(metric) < s_nMetrics ? s_byMetric[metric] : Metric {};
-    // The button that shows the rest of a tool bar is one size on all screens.
+    // The extension button of a tool bar is measured for the main window, so it is the same on all screens.
     const QWidget *pMeasured = metric == PM_ToolBarExtensionExtent ? nullptr : pWidget;
     switch (row.rule) {
     case Rule::Base:

@@ -5,8 +5,8 @@
 
 #include <QProxyStyle>
 
-/// The style of all widgets: the platform's own with metrics that follow the logical DPI of the widget's
-/// screen, and with check boxes in the colours of the program. IThemesManager makes it and the application
+/// The style of all widgets: that of the platform, with metrics that follow the logical DPI of the widget's
+/// screen, and with check boxes in the colors of the program. IThemesManager makes it and the application
 /// owns it. GUI thread only.
 class CORE_EXPORT KPAppStyle : public QProxyStyle
 {
@@ -16,7 +16,7 @@ class CORE_EXPORT KPAppStyle : public QProxyStyle
 public:
     KPAppStyle() = default;
 
-    // Plug-ins build on the order of the virtual functions.
+    // Keep the order of the virtual functions: plug-ins that are compiled already call them by their place.
     void drawPrimitive(PrimitiveElement element, const QStyleOption *pOption, QPainter *pPainter,
         const QWidget *pWidget) const override;
     void drawControl(ControlElement element, const QStyleOption *pOption, QPainter *pPainter,

@@ -6,7 +6,7 @@ namespace {
 constexpr QLatin1Char s_mark('$');
 constexpr QLatin1String s_unit("px");
 
-// The number in "12px", the first unit of which is at `nUnit`. Units may stand anywhere.
+// The number in a token such as "12px", whose first "px" is at `nUnit`. More of them may stand anywhere.
 int numberOf(QStringView token, qsizetype nUnit)
 {
     if (nUnit + s_unit.size() == token.size())
@@ -36,10 +36,10 @@ QString StyleSheetTokens::resolve(const QString &strSheet, int nDPI)
         const QStringView token = nClose < 0 ? QStringView() : sheet.sliced(nDone, nClose - nDone);
         const qsizetype nUnit = token.indexOf(s_unit);
         if (nUnit < 0) {
-            nOpen = nClose; // it may begin the next token
+            nOpen = nClose; // its second "$" may begin the next token
             continue;
         }
-        // Not DisplayScale::proportional(): a number in a file may be as large as it likes.
+        // DisplayScale::proportional() returns an int, which a number from a file may exceed.
         strResult += QString::number(static_cast<qint64>(nDPI) * numberOf(token, nUnit) / 96);
         strResult += s_unit;
         nDone = nClose + 1;
