@@ -13,7 +13,7 @@
 AppearancePlugin::AppearancePlugin() = default;
 AppearancePlugin::~AppearancePlugin() = default;
 
-// Nothing is shown yet, so that each widget is dressed once.
+// The theme is set before any window is shown, so that each widget is styled only once.
 bool AppearancePlugin::initialize(const QStringList &, QString *errorString)
 {
     MainWindow *pMainWindow = ICore::getMainWindow();
@@ -28,8 +28,8 @@ bool AppearancePlugin::initialize(const QStringList &, QString *errorString)
     return true;
 }
 
-// The sheets of the other themes carry no sizes of their own, and would be lost. The window also tells the
-// scale that it starts with.
+// Only the sheet of "Dark" has sizes to adapt; the other themes would lose theirs in processDPIChange(). The
+// window also emits dpiChanged() for its first scale, for which nothing is left to do.
 void AppearancePlugin::followDensity()
 {
     const int nDPI = DisplayScale::logicalDpi(ICore::getMainWindow());

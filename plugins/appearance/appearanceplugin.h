@@ -7,8 +7,8 @@
 
 class ThemeMenu;
 
-/// Dresses the program in the theme that the user chose, keeps it in step with the density of the screen, and
-/// puts the choice into the menus.
+/// Gives the program the theme that the user chose, adapts it when the density of the screen changes, and
+/// adds the choice of themes to the menus.
 class AppearancePlugin : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
@@ -25,5 +25,5 @@ private:
     void followDensity();
 
     std::unique_ptr<ThemeMenu> m_pMenu;
-    int m_nDPI = 0; // that the widgets are dressed for
+    int m_nDPI = 0; // the DPI that the widgets are styled for
 };

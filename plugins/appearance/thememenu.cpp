@@ -12,7 +12,7 @@
 
 namespace {
 
-// The themes that come with the program; any other goes by the name of its file.
+// The themes that come with the program have translated names; any other is called like its file.
 constexpr const char *s_names[] = {
     QT_TRANSLATE_NOOP("ThemeMenu", "Dark"),
     QT_TRANSLATE_NOOP("ThemeMenu", "Light"),
@@ -56,8 +56,8 @@ ThemeMenu::ThemeMenu()
     connect(this, &QActionGroup::triggered, this, &ThemeMenu::choose);
 }
 
-// The check mark stays with the theme in force. Going back to that one after another choice is a choice too,
-// but needs no next start; another one is told, and stored, each time it is chosen.
+// The check mark stays at the theme in force until the next start. Choosing that theme takes back an earlier
+// choice and needs no message; any other choice is stored and announced each time it is made.
 void ThemeMenu::choose(QAction *pAction)
 {
     IThemesManager &manager = IThemesManager::getInstance();

@@ -3,8 +3,8 @@
 
 #include <QActionGroup>
 
-/// The menu View > Theme: one entry per installed theme, the one in force checked. Without a menu View there
-/// is none. Its maker owns it, the main window the menu. GUI thread only.
+/// The menu View > Theme: one entry for each installed theme, with a check mark at the one in force. Nothing
+/// is added without a menu View. The plug-in owns this, and ActionManager owns the menu. GUI thread only.
 class ThemeMenu : public QActionGroup
 {
     Q_OBJECT
