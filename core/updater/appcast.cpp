@@ -12,7 +12,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Updater)
 };
 
-// The members by their names, in one table.
+// The text members of a platform's entry and where they are stored.
 constexpr struct
 {
     const char *pName;

@@ -33,9 +33,9 @@ constexpr int s_nTimeoutMs = 30000;
 constexpr int s_nLongestReason = 500; ///< in characters
 constexpr int s_nHandlerTimeoutMs = 3000;
 constexpr qint64 s_nReadBuffer = 1024 * 1024;
-constexpr qint64 s_nLargestPage = 1024 * 1024; ///< of an error
+constexpr qint64 s_nLargestPage = 1024 * 1024; ///< bytes of a page that comes with an error status
 
-// Asks for each type in turn. That none is known is an answer too.
+// "$0" is xdg-mime, the arguments are types. Exit code 4 (the action failed) means: no program for a type.
 constexpr char s_pHandlerQuery[] =
     "for type; do \"$0\" query default \"$type\" || [ $? = 4 ] || exit 1; done";
 
@@ -59,7 +59,7 @@ Downloader::Downloader(QWidget *pParent)
 {
     m_pUi->setupUi(this);
     setWindowFlags(Qt::Dialog | Qt::WindowCloseButtonHint);
-    // The program ends with its main window, also while something is downloaded: see closeEvent().
+    // The program ends with its main window, also during a download; see closeEvent().
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowIcon(IUi::getIcon());
     m_pManager->setTransferTimeout(s_nTimeoutMs);
@@ -71,6 +71,7 @@ Downloader::Downloader(QWidget *pParent)
 Downloader::~Downloader()
 {
     releaseReply();
+    // Qt: "Deleting a running QThread (i.e. isFinished() returns false) will result in a program crash."
     const auto threads = findChildren<QThread *>();
     for (QThread *pThread : threads)
         pThread->wait();
@@ -93,7 +94,7 @@ void Downloader::startDownload(const QUrl &url)
     begin(url);
 }
 
-// Also after a redirect: everything starts again.
+// Starts from the beginning. A redirect comes here as well, so nothing of the first answer is kept.
 void Downloader::begin(const QUrl &url)
 {
     releaseReply();
@@ -111,7 +112,7 @@ void Downloader::begin(const QUrl &url)
     if (const QString strReason = m_file.create(); !strReason.isEmpty())
         return fail(strReason);
     request(url);
-    // In front of the main window, yet not its child, which would go with it.
+    // A transient window stays in front of the main window; a child would be deleted with it.
     winId();
     const MainWindow *pMainWindow = ICore::getMainWindow();
     windowHandle()->setTransientParent(pMainWindow ? pMainWindow->windowHandle() : nullptr);
@@ -143,7 +144,7 @@ void Downloader::resetTexts()
     m_pUi->timeLabel->setText(tr("Time Remaining") + QStringLiteral(": ") + tr("Unknown"));
 }
 
-// Compressed transfers are declined: their sizes are not those of the file.
+// Compressed transfers are declined because the sizes that they announce are not those of the file.
 void Downloader::request(const QUrl &url)
 {
     QNetworkRequest request(url);
@@ -173,7 +174,7 @@ void Downloader::onRedirected(const QUrl &url)
     begin(target);
 }
 
-// Nothing of this reply reaches us any more. It may be the one whose signal is being handled.
+// No more signals of this reply arrive here. It is deleted later, since it may be emitting one right now.
 void Downloader::releaseReply()
 {
     if (!m_pReply)
@@ -228,8 +229,8 @@ void Downloader::saveFile(qint64 received, qint64 total)
         completeLater();
 }
 
-// Appends what has arrived to the partial file. The page of an error is not part of the installer. False
-// means that the download has ended, for lack of a good answer or with a message.
+// Appends the bytes that have arrived to the partial file. Returns false if they are not the installer,
+// because the status is not 200, or if the download has failed; fail() has told the user then.
 bool Downloader::takeData()
 {
     const int nStatus = m_pReply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -246,7 +247,7 @@ bool Downloader::takeData()
     return strReason.isEmpty();
 }
 
-// Unread it would fill the buffer, and the reply would never end.
+// An unread page would fill the read buffer, and the reply would never finish.
 void Downloader::skipPage(int nStatus)
 {
     m_nSkipped += qMax<qint64>(0, m_pReply->skip(m_pReply->bytesAvailable()));
@@ -259,7 +260,7 @@ void Downloader::failWithStatus(int nStatus)
     fail(tr("Cannot download update: %1.").arg(tr("the server answered with status %1").arg(nStatus)));
 }
 
-// A reply ends here only when its last progress did not complete the download, or when it failed.
+// Called only if the download failed, or if its last progress signal did not complete it.
 void Downloader::onFinished()
 {
     if (m_pReply->error() != QNetworkReply::NoError)
@@ -277,7 +278,7 @@ void Downloader::onFinished()
     completeLater();
 }
 
-// Whoever hears of the end may delete this, and with it the reply, which must not be in a signal then.
+// A receiver of downloadFinished() may delete this object and its reply, which must not be emitting then.
 void Downloader::completeLater()
 {
     releaseReply();
@@ -301,7 +302,7 @@ void Downloader::finish()
     if (const QString strReason = m_file.complete(); !strReason.isEmpty())
         return fail(strReason);
     m_state = State::Ready;
-    // The box shall not run inside a signal of the network, nor for an installer that another one replaces.
+    // Queued: the box must not run in a network signal, nor for an installer that was replaced.
     const auto offer = [this] {
         if (m_state == State::Ready)
             installUpdate();
@@ -310,14 +311,14 @@ void Downloader::finish()
     emit downloadFinished(m_strUrlId, m_file.path());
 }
 
-// No caller can leave the key out.
+// A caller that sets no key cannot switch the check off that the configuration demands.
 void Downloader::requireKey()
 {
     if (m_check.strKey.isEmpty())
         m_check.strKey = InstallerCheck::configuredKey();
 }
 
-// A large installer takes its time, so another thread reads it. What fails is deleted.
+// Reading a large installer takes long, so another thread does it. A file that fails the check is deleted.
 void Downloader::checkThen(const QString &strFileName, Continuation next)
 {
     requireKey();
@@ -341,13 +342,13 @@ void Downloader::checkThen(const QString &strFileName, Continuation next)
     pThread->start();
 }
 
-// Not when the window was closed meanwhile, or something else begun.
+// False if the window was closed or other work was started while the worker ran; its result is then ignored.
 bool Downloader::isAwaited(const QObject *pWorker) const
 {
     return m_state == State::Checking && m_pWorker == pWorker;
 }
 
-// What cannot be deleted shall at least not look like an installer.
+// A file that cannot be deleted is at least renamed, so that nobody takes it for an installer.
 void Downloader::discard(const QString &strFileName, const QString &strReason)
 {
     m_pUi->openButton->setEnabled(false);
@@ -376,7 +377,7 @@ void Downloader::installUpdate()
         pBox->setInformativeText(tr("Click OK to begin installing the update."));
         pBox->setDetailedText(QDir::toNativeSeparators(m_file.path()));
         pBox->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-        // A Return that was meant for something else installs nothing.
+        // The box may appear while the user types; a stray Return must not install anything.
         pBox->setDefaultButton(QMessageBox::Cancel);
     };
     const auto answer = IUi::run(nullptr, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"), ask);
@@ -388,7 +389,7 @@ void Downloader::installUpdate()
     m_pUi->timeLabel->setText(tr("Click Open to apply the update."));
 }
 
-// The file may have waited long for this, so it is checked once more.
+// The file is checked again, because it may have been replaced since the download ended.
 void Downloader::openDownload()
 {
     if (QFile::exists(m_file.path()))
@@ -399,8 +400,8 @@ void Downloader::openDownload()
     });
 }
 
-// What starts programs on a Unix desktop says yes before it has found one, so what knows them is asked. A
-// system without it, such as Windows, tells when it starts one.
+// On a Unix desktop QDesktopServices::openUrl() of Qt 6.4.2 returns true before any program was found for the
+// file, so xdg-mime is asked first. Without xdg-mime, as on Windows, the answer of openUrl() has to do.
 void Downloader::findHandler()
 {
     const QString strTool = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
@@ -445,7 +446,7 @@ void Downloader::cancelDownload()
     const QPointer<QNetworkReply> pReply = m_pReply;
     const auto answer = IUi::question(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
         tr("Are you sure you want to cancel the download?"));
-    // It may have ended while the question stood there.
+    // The download may have ended, or another one begun, while the question was open.
     if (answer != QMessageBox::Yes || !pReply || pReply != m_pReply)
         return;
     hide();
@@ -453,7 +454,7 @@ void Downloader::cancelDownload()
     pReply->abort();
 }
 
-// A transfer that took too long is cancelled too, though not by the user.
+// Qt reports a timeout as OperationCanceledError, too; State::Canceled is set if the user canceled.
 void Downloader::onError()
 {
     QNetworkReply::NetworkError code = m_pReply->error();
@@ -469,8 +470,8 @@ void Downloader::onError()
     close();
 }
 
-// The end of a download that failed, with its one message, which shall not run inside a signal of the
-// network.
+// Ends a failed download with its one message. The message is queued, since its event loop must not run
+// inside a signal of the network.
 void Downloader::fail(const QString &strReason)
 {
     const QString strShown = UpdateTexts::shortened(strReason, s_nLongestReason);
@@ -484,8 +485,8 @@ void Downloader::fail(const QString &strReason)
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
-// The close button asks as Stop does. When the main window is closed the program ends, and would live on
-// without a window if this one refused.
+// The close button asks as Stop does, but not after the main window was closed: Qt then asks every window to
+// close, and a refusal here would leave the program running without a main window.
 void Downloader::closeEvent(QCloseEvent *pEvent)
 {
     const MainWindow *pMainWindow = ICore::getMainWindow();

@@ -18,11 +18,11 @@ namespace Ui {
 class Downloader;
 }
 
-/// The small window that downloads an installer into the user's folder of downloads, shows how far it is, and
-/// then offers to run it. Each Updater owns one. Until the installer is complete, and checked if there is a
-/// key, its file has the suffix ".part"; what had its name before then goes to the trash, or stays if that
-/// cannot be, and the installer gets a free name. The window stays in front of the main window, and goes
-/// without a question when that is closed. GUI thread only; it must not outlive the application object.
+/// The small window that downloads an installer into downloadFolder(), shows the progress, and then offers to
+/// run the installer. Each Updater owns one. The file has the suffix ".part" until the installer is complete
+/// and, if there is a key, checked. An older file of the same name then goes to the trash; if that is
+/// impossible, it stays and the installer gets a free name. The window stays in front of the main window and
+/// closes with it, without a question. GUI thread only; it must not outlive the application object.
 class CORE_EXPORT Downloader : public QWidget
 {
     Q_OBJECT
@@ -34,30 +34,30 @@ public:
 
     [[nodiscard]] bool useCustomInstallProcedures() const { return m_bUseCustomInstallProcedures; }
 
-    /// What the next download has to pass. Without a key the configured one counts.
+    /// What the next download must pass. If `check` has no key, the configured key is used.
     void setInstallerCheck(const InstallerCheck &check) { m_check = check; }
 
-    /// False, and nothing else, when the window is not shown.
+    /// Also restores a minimized window. Returns false and does nothing if the window is hidden.
     bool bringToFront();
 
-    /// "~/Downloads/", with the slash.
+    /// The folder "Downloads" in the user's home, with a slash at the end.
     [[nodiscard]] static QString downloadFolder();
 
 public slots:
     void setUrlId(const QString &url) { m_strUrlId = url; }
 
-    /// Ends a download under way and starts this one. Every way it can fail ends in one message.
+    /// Aborts a running download and starts this one. Any failure leads to one message to the user.
     void startDownload(const QUrl &url);
 
-    /// An empty name, and one that could lead elsewhere, becomes "Kelpa_Update.bin".
+    /// A name that UpdateTexts::safeFileName() refuses is replaced by its default.
     void setFileName(const QString &file);
     void setUserAgentString(const QString &agent) { m_strUserAgentString = agent; }
 
-    /// The window then offers nothing: whoever hears downloadFinished() installs.
+    /// With true the window does not offer to run the installer; that is up to downloadFinished()'s receiver.
     void setUseCustomInstallProcedures(bool custom) { m_bUseCustomInstallProcedures = custom; }
 
 signals:
-    /// `url` is the id that was set, `filepath` the finished installer. Whoever hears it may delete this.
+    /// `url` is what setUrlId() was given, `filepath` the installer. The receiver may delete this object.
     void downloadFinished(const QString &url, const QString &filepath);
 
 protected:
@@ -111,7 +111,7 @@ private:
     QUrl m_url; ///< of the request under way
     int m_nRedirects = 0;
     PartFile m_file;
-    qint64 m_nSkipped = 0; ///< bytes of an error's page
+    qint64 m_nSkipped = 0; ///< bytes dropped so far from a page that came with an error status
     State m_state = State::Idle;
-    QPointer<QObject> m_pWorker; ///< the thread or process whose result counts
+    QPointer<QObject> m_pWorker; ///< the thread or process whose result is awaited; others are ignored
 };

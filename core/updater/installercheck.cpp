@@ -20,7 +20,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Downloader)
 };
 
-// Empty unless it is well formed and has exactly this size.
+// The decoded bytes; empty unless the text is well-formed Base64 for exactly `nSize` bytes.
 QByteArray fromBase64(const QString &strText, qsizetype nSize)
 {
     const auto result =
@@ -61,8 +61,8 @@ bool hasSum(const QString &strSha256, const QByteArray &content)
     return QString::fromLatin1(sum.toHex()) == strSha256.toLower();
 }
 
-// False, and why, unless all of it could be read. A file that changes meanwhile gives one or the other
-// content, where a mapped one would end the program.
+// Returns false and gives the reason if the file cannot be read. It is not mapped into memory: if another
+// program truncates a mapped file, reading it ends this program with SIGBUS.
 bool readWhole(const QString &strFileName, QByteArray *pContent, QString *pReason)
 {
     QFile file(strFileName);
@@ -77,7 +77,7 @@ bool readWhole(const QString &strFileName, QByteArray *pContent, QString *pReaso
     return bOpen && file.error() == QFileDevice::NoError;
 }
 
-// A store that is not there is fine; one that hides what it says is not.
+// A missing store is fine. One that exists but cannot be read may hold a key that we do not see.
 bool isDamaged(const QSettings &machine)
 {
     const QFileInfo file(machine.fileName());
@@ -86,7 +86,7 @@ bool isDamaged(const QSettings &machine)
 
 } // namespace
 
-// Where the machine's key cannot be read there may be one, so nothing passes.
+// If the machine's store cannot be read, it may hold a key; so an invalid key is returned and nothing passes.
 QString InstallerCheck::configuredKey()
 {
     const QString strDamaged = QStringLiteral("?");
@@ -96,7 +96,7 @@ QString InstallerCheck::configuredKey()
         return strDamaged;
     if (!pMachine || !pMachine->contains(strName))
         return QStringLiteral(KELPA_UPDATE_KEY);
-    // A value with a comma comes as a list; it is no key, but neither is it none.
+    // QSettings gives a value with a comma as a list. It is joined again, so that it counts as a wrong key.
     const QString strPolicy = pMachine->value(strName).toStringList().join(QLatin1Char(','));
     return strPolicy.isEmpty() ? strDamaged : strPolicy;
 }
@@ -114,7 +114,7 @@ QString InstallerCheck::objection() const
     return {};
 }
 
-// A signature covers the whole file at once, so the file is read into memory, in blocks.
+// libsodium verifies a detached signature over one block of memory, so the whole file has to be read.
 QString InstallerCheck::check(const QString &strFileName) const
 {
     if (!isNeeded())

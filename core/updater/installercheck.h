@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// What decides whether a downloaded installer may be opened. Plain values; check() may run on any thread.
+/// Decides whether a downloaded installer may be opened. Plain values; check() may run on any thread.
 struct CORE_EXPORT InstallerCheck
 {
     static constexpr qint64 LargestSize = qint64(1) << 30; ///< bytes; what is larger never passes a check
@@ -14,17 +14,17 @@ struct CORE_EXPORT InstallerCheck
     QString strSha256; ///< hexadecimal digits; when empty only the signature counts
     QString strSignature; ///< Base64
 
-    /// The key of the machine's settings store ("Updates/PublicKey"), or else the one built in. The user's
-    /// own store cannot change it. When the machine's store is damaged or its key is empty, a text that is no
-    /// key, so that nothing passes. GUI thread only.
+    /// "Updates/PublicKey" of the machine's settings store; if that has none, the key that was built in. The
+    /// user's own store cannot change it. If the machine's store cannot be read or its key is empty, this is
+    /// a text that is not a valid key, so that no installer passes. GUI thread only.
     [[nodiscard]] static QString configuredKey();
 
     [[nodiscard]] bool isNeeded() const { return !strKey.isEmpty(); }
 
-    /// Why no file at all could pass, for people; empty when one may.
+    /// Why every file would fail the check, as text for the user; empty if a file can pass.
     [[nodiscard]] QString objection() const;
 
-    /// Why this file must not be opened, for people; empty when it may. Needs as much memory as the file
-    /// is large.
+    /// Why this file must not be opened, as text for the user; empty if it may be. Reads the whole file into
+    /// memory.
     [[nodiscard]] QString check(const QString &strFileName) const;
 };

@@ -31,7 +31,7 @@ KPReleaseNoteDlg::KPReleaseNoteDlg(QWidget *pParent)
     };
     setMinimumSize(scaled(480, 360));
     resize(scaled(640, 520));
-    m_pUi->m_pBtnClose->setFocus(); // a key that was meant for something else does no harm
+    m_pUi->m_pBtnClose->setFocus(); // a key typed before the dialog appeared does no harm
     connect(m_pUi->m_pBtnUpdate, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_pUi->m_pBtnClose, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_pUi->m_pBtnSkip, &QPushButton::clicked, this, [this] { done(SkipVersion); });
@@ -63,8 +63,8 @@ void KPReleaseNoteDlg::setReleaseNotes(const QString &strNotes)
     m_pView->load(QUrl(strNotes));
 }
 
-// Only the first end counts: the page in place of a failed one finishes too, and so does a link that leads
-// outside.
+// Only the first result counts: the page that is shown in place of a failed one emits loadFinished() as well,
+// and so may a page that navigates by itself.
 void KPReleaseNoteDlg::onLoadFinished(bool bOk)
 {
     if (!m_bLoading)

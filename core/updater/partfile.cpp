@@ -8,7 +8,7 @@
 
 namespace {
 
-// The texts stand in the download dialog.
+// Gives the texts the translation context of the download window, which shows them.
 struct Downloader
 {
     Q_DECLARE_TR_FUNCTIONS(Downloader)
@@ -25,7 +25,7 @@ QString hasChanged(const QString &strPath)
         .arg(PartFile::inQuotes(strPath));
 }
 
-// A full disk may take a beginning first; only the next attempt names the reason.
+// A nearly full disk may take only the first bytes; the error is reported by the attempt to write the rest.
 bool writeAll(QFile *pFile, const QByteArray &content)
 {
     qint64 nDone = 0;
@@ -38,8 +38,8 @@ bool writeAll(QFile *pFile, const QByteArray &content)
     return true;
 }
 
-// Where the trash cannot be made, Qt 6.4 would take the current folder for it. One that is made here is for
-// its owner alone, as Qt makes it.
+// If the trash folder cannot be created, QFile::moveToTrash() of Qt 6.4.2 uses the current folder instead, so
+// this creates it first, with access for its owner only, as Qt does.
 bool hasTrash()
 {
 #ifdef Q_OS_LINUX
@@ -59,7 +59,7 @@ bool hasTrash()
     return true;
 }
 
-// Of a link only the link goes.
+// A symbolic link is removed, its target stays. False if the old file could not be moved out of the way.
 bool makeWay(const QFileInfo &old)
 {
     if (old.isSymLink())

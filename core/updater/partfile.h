@@ -3,9 +3,9 @@
 
 #include <QString>
 
-/// The file of a download: it grows under its name and ".part", and gets the name itself when it is complete.
-/// What can fail gives the reason, for people, or an empty text. A plain value; GUI thread only, since it
-/// translates.
+/// The file of a download. It is written under its name with the suffix ".part" and gets the name itself when
+/// it is complete. Functions that can fail return the reason as text for the user, or an empty text. A plain
+/// value, for the GUI thread only.
 class PartFile
 {
 public:
@@ -15,19 +15,19 @@ public:
     {
     }
 
-    /// Where the file lies once it is complete, and until then.
+    /// The paths of the complete file and of the growing one.
     [[nodiscard]] QString path() const { return m_strPath; }
     [[nodiscard]] QString partPath() const { return m_strPath + QStringLiteral(".part"); }
 
-    /// Bytes appended so far.
+    /// Number of bytes appended so far.
     [[nodiscard]] qint64 size() const { return m_nSize; }
 
-    /// Makes the folder and an empty part. What has the name of the file stays.
+    /// Creates the folder and an empty part file, replacing an older one. A file at path() is not touched.
     [[nodiscard]] QString create();
     [[nodiscard]] QString append(const QByteArray &data);
 
-    /// What had the name of the file goes to the trash. If that cannot be, it stays, and the file gets a free
-    /// name: see path().
+    /// Gives the file its name. An older file of that name goes to the trash; if that is impossible it stays,
+    /// and this file gets a free name, which path() then returns.
     [[nodiscard]] QString complete();
 
     [[nodiscard]] static QString inQuotes(const QString &strPath);

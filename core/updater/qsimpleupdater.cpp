@@ -12,13 +12,13 @@ namespace {
 QBasicMutex s_mutex;
 QSimpleUpdater *s_pInstance = nullptr;
 
-// In parallel, in the order of their creation.
+// Two lists of the same length: the updater of an address has the same index.
 QStringList s_urls;
 QList<Updater *> s_updaters;
 
 } // namespace
 
-// The updaters own windows, which must not outlive the application object.
+// The updaters own windows, so a post routine deletes them while the application object still exists.
 QSimpleUpdater *QSimpleUpdater::getInstance()
 {
     const QMutexLocker locker(&s_mutex);

@@ -4,10 +4,10 @@
 #include <core_global.h>
 #include <updater/updater.h>
 
-/// The program's updates, by the address of their feed: every operation acts on the Updater of the address
-/// that it takes first, and makes it on first use. Redirects do not change the address to use here. The first
-/// call makes the object, on any thread; all else is for the GUI thread. It goes with the application object,
-/// before its windows.
+/// Entry to the updates of the program and of plug-ins: each operation acts on the Updater of the feed whose
+/// address it takes first, and creates that Updater if there is none. A redirect of the feed does not change
+/// this address. getInstance() may be called on any thread, everything else on the GUI thread only. The
+/// destructor of the application object deletes the instance, before it deletes the remaining windows.
 class CORE_EXPORT QSimpleUpdater : public QObject
 {
     Q_OBJECT
@@ -41,13 +41,13 @@ public:
         return getUpdater(url)->userAgentString();
     }
 
-    /// Why the last check found out nothing, as a sentence for people; empty when it did.
+    /// Why the last check failed, as a sentence for the user; empty if it succeeded.
     [[nodiscard]] QString getLastError(const QString &url) { return getUpdater(url)->lastError(); }
 
-    /// Ends the checks under way, which then could not reach their server.
+    /// Aborts the running checks. Each of them ends like a check that could not reach its server.
     void abort(const QString &url) { getUpdater(url)->abort(); }
 
-    /// Brings the window of a download that has not been installed or cancelled to the front; false when
+    /// Brings the window of a download to the front that runs or waits to be installed. Returns false if
     /// there is none.
     bool showDownload(const QString &url) { return getUpdater(url)->showDownload(); }
 
@@ -85,12 +85,12 @@ public slots:
     }
 
 signals:
-    /// As the updaters emit them: with the address that redirects led to.
+    /// Passed on from the updaters: `url` is the address that redirects of the feed led to.
     void checkingFinished(const QString &url);
     void appcastDownloaded(const QString &url, const QByteArray &data);
     void downloadFinished(const QString &url, const QString &filepath);
 
-    /// With the address to use here: after each checkingFinished(), and when the user puts an offer off.
+    /// `firstUrl` is the address used here. Emitted after checkingFinished() and like Updater::offerPutOff().
     void checkEnded(const QString &firstUrl);
     void offerPutOff(const QString &firstUrl, const QString &version, bool permanently);
 

@@ -25,10 +25,10 @@ Q_LOGGING_CATEGORY(lcUpdater, "kelpa.core.updater")
 
 constexpr int s_nTimeoutMs = 30000;
 constexpr int s_nLongestError = 500;
-constexpr auto s_hops = QNetworkRequest::User; ///< redirects that led to a request
-constexpr char s_pReason[] = "reason"; ///< why a reply was aborted
+constexpr auto s_hops = QNetworkRequest::User; ///< attribute: redirects before this request
+constexpr char s_pReason[] = "reason"; ///< property: why the reply was aborted
 
-// Only what the configuration or a person names may be fetched by other means than the web's.
+// The feed names this address and is not trusted, so nothing but http and https reaches the desktop.
 bool openInBrowser(const QString &strUrl)
 {
     const QUrl url(strUrl);
@@ -38,7 +38,7 @@ bool openInBrowser(const QString &strUrl)
     return false;
 }
 
-// Qt names the address, and with it what may be secret in that.
+// Qt's error texts quote the whole address, which may hold a password; shown() leaves that out.
 QString errorOf(const QNetworkReply &reply)
 {
     const QString strUrl = reply.url().toString();
@@ -94,7 +94,7 @@ bool Updater::showDownload()
     return m_pDownloader->bringToFront();
 }
 
-// Whoever hears that a check has ended may delete this, or begin and end others.
+// A receiver of checkingFinished() may delete this object, or start and end other checks.
 void Updater::abort()
 {
     const QPointer<Updater> pThis = this;
@@ -111,7 +111,7 @@ void Updater::abort()
     }
 }
 
-// A feed that is too large is not even received.
+// An answer is aborted as soon as it exceeds the limit, so that an endless feed cannot fill the memory.
 void Updater::get(const QUrl &url, int nRedirects)
 {
     QNetworkRequest request(url);
@@ -129,7 +129,7 @@ void Updater::get(const QUrl &url, int nRedirects)
     });
 }
 
-// The reply is still in use by its own signal, even when this and its manager end in here.
+// The reply is still emitting a signal, so it must survive if a receiver deletes this object and the manager.
 void Updater::onReply(QNetworkReply *reply)
 {
     reply->setParent(nullptr);
@@ -149,7 +149,7 @@ void Updater::onReply(QNetworkReply *reply)
         emit checkingFinished(strUrl);
 }
 
-// True when the reply was a redirect, which either is followed or ends the check.
+// Returns true if the reply was a redirect; it was then followed, or it ended the check with an error.
 bool Updater::follow(const QNetworkReply *pReply)
 {
     const QUrl target = pReply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
@@ -177,7 +177,7 @@ void Updater::failToReach(const QNetworkReply *pReply)
     endWithout(tr("Cannot reach %1: %2.").arg(shown(m_strUrl), strReason));
 }
 
-// The error is there for whoever asks; the check itself counts as one that found nothing.
+// A failed check ends like one that found no update; lastError() tells the difference.
 void Updater::endWithout(const QString &strError)
 {
     m_strLastError = UpdateTexts::shortened(strError, s_nLongestError);
@@ -185,7 +185,7 @@ void Updater::endWithout(const QString &strError)
     end(false);
 }
 
-// A dialog may come first, and the program may end while it is open.
+// A dialog may open in here, and this object may be deleted while it is open.
 void Updater::end(bool bAvailable)
 {
     const QPointer<Updater> pThis = this;
@@ -219,7 +219,8 @@ void Updater::setUpdateAvailable(bool available)
         congratulate();
 }
 
-// While the dialog is open another check may end, and the program may. What the user sees is what counts.
+// While the dialog is open, this object may be deleted, or another check may replace m_appcast; the answer
+// applies to the version that the dialog shows.
 void Updater::offer()
 {
     if (m_bOffering || showDownload())

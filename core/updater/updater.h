@@ -11,8 +11,8 @@ class Downloader;
 class QNetworkAccessManager;
 class QNetworkReply;
 
-/// Looks at one feed for a version newer than a given one, and offers it. QSimpleUpdater makes one for each
-/// feed and owns it. GUI thread only; it must not outlive the application object, since it owns a window.
+/// Looks for a newer version in one feed and offers it to the user. QSimpleUpdater creates and owns one for
+/// each feed. GUI thread only; it must not outlive the application object, since it owns a window.
 class CORE_EXPORT Updater : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     explicit Updater(QObject *pParent = nullptr);
     ~Updater() override;
 
-    /// Where the feed was found last: a redirect replaces it for good.
+    /// The address set last; a redirect that was followed replaces it for later checks, too.
     [[nodiscard]] QString url() const { return m_strUrl; }
     [[nodiscard]] QString openUrl() const { return m_appcast.strOpenUrl; }
     [[nodiscard]] QString changelog() const { return m_appcast.strChangelog; }
@@ -39,26 +39,29 @@ public:
     [[nodiscard]] bool downloaderEnabled() const { return m_bDownloaderEnabled; }
     [[nodiscard]] bool useCustomInstallProcedures() const;
 
-    /// Why the last check found out nothing, as a sentence for people; empty when it did.
+    /// Why the last check failed, as a sentence for the user; empty if it succeeded.
     [[nodiscard]] QString lastError() const { return m_strLastError; }
 
-    /// Ends the checks under way; each ends as one that could not reach its server.
+    /// Aborts the running checks. Each of them ends like a check that could not reach its server.
     void abort();
 
-    /// Brings the window of a download under way, or done and not yet installed, to the front; false when
-    /// there is none. Meanwhile nothing is offered: an offer does the same.
+    /// Brings the window of a download to the front that runs or waits to be installed. Returns false if
+    /// there is none. While there is one, a check shows it in place of an offer.
     bool showDownload();
 
 signals:
-    /// A check ended; any dialog that it led to has been closed.
+    /// A check ended, and the dialog it opened, if any, is closed. The receiver may delete this object.
     void checkingFinished(const QString &url);
+    /// Only with customAppcast(): the feed, which is then not read here. checkingFinished() follows.
     void appcastDownloaded(const QString &url, const QByteArray &data);
     void downloadFinished(const QString &url, const QString &filepath);
 
-    /// The user wants to hear of this version later, or never again.
+    /// The user chose to be reminded of this version later or, if `permanently`, to skip it.
     void offerPutOff(const QString &version, bool permanently);
 
 public slots:
+    /// Starts a check. An offer is shown if notifyOnUpdate() or notifyOnFinish() is set; that there is no
+    /// update is told only if notifyOnFinish() is set and `bSilentIfNoUpdate` is false.
     void checkForUpdates(bool bSilentIfNoUpdate);
     void setUrl(const QString &url) { m_strUrl = url; }
     void setModuleName(const QString &name) { m_strModuleName = name; }
@@ -100,6 +103,6 @@ private:
     QString m_strModuleVersion;
     Appcast m_appcast;
     QString m_strLastError;
-    Downloader *m_pDownloader; ///< a window of its own, owned here
+    Downloader *m_pDownloader; ///< owned here without being a child, since it is a window
     QNetworkAccessManager *m_pManager;
 };

@@ -10,13 +10,13 @@
 
 namespace {
 
-// The texts stand in the download dialog.
+// Gives the texts the translation context of the download window, which shows them.
 struct Downloader
 {
     Q_DECLARE_TR_FUNCTIONS(Downloader)
 };
 
-// Names that open a device in whatever folder they stand, with any suffix.
+// On Windows these names open a device in every folder, also with a suffix.
 bool isDeviceName(const QString &strName)
 {
     static const QRegularExpression s_devices(
@@ -26,7 +26,7 @@ bool isDeviceName(const QString &strName)
     return s_devices.match(strName).hasMatch();
 }
 
-// Control and format characters hide what a name is; a lone surrogate cannot be written at all.
+// Control and format characters can make a name look like another one.
 bool isForbidden(QChar c)
 {
     static const QString s_reserved = QStringLiteral("/\\:*?\"<>|");
@@ -56,7 +56,6 @@ bool UpdateTexts::isNewer(const QString &strX, const QString &strY)
     return x.size() > y.size();
 }
 
-// Whole numbers need no rounding to two decimals.
 QString UpdateTexts::size(qint64 nBytes)
 {
     if (nBytes < 1024)
@@ -94,7 +93,7 @@ double UpdateTexts::estimatedSeconds(qint64 nReceived, qint64 nTotal, qint64 nEl
 
 QString UpdateTexts::safeFileName(const QString &strName)
 {
-    constexpr int nLongest = 200; // bytes; leaves room for the suffix of a partial file
+    constexpr int nLongest = 200; // bytes; file systems allow 255, and ".part" or a number is added
     const bool bBad = strName.isEmpty() || strName.toUtf8().size() > nLongest || !strName.isValidUtf16()
         || strName.startsWith(QLatin1Char('.')) || strName.endsWith(QLatin1Char('.'))
         || strName != strName.trimmed() || isDeviceName(strName)

@@ -6,50 +6,51 @@
 #include <QString>
 #include <QUrl>
 
-/// Decisions and texts of the updater over plain values. Any thread, except those that translate: GUI thread.
+/// Decisions and texts of the updater over plain values. Any thread, but GUI thread for those that translate.
 namespace UpdateTexts {
 
-/// Whether dotted version `strX` is newer than `strY`. Parts compare as numbers, one that is no number as 0;
-/// when all shared parts are equal, the version with more parts is the newer one.
+/// Whether dotted version `strX` is newer than `strY`. Parts are compared as numbers; a part that is not a
+/// number counts as 0. If all shared parts are equal, the version with more parts is newer.
 [[nodiscard]] CORE_EXPORT bool isNewer(const QString &strX, const QString &strY);
 
-/// Whole bytes, KB or MB of 1024, truncated.
+/// A size in whole bytes, KB of 1024 bytes or MB of 1024 KB, rounded down. Translated.
 [[nodiscard]] CORE_EXPORT QString size(qint64 nBytes);
 
-/// Whole seconds, minutes or hours, rounded.
+/// A time in seconds, in minutes if longer than 60, or in hours if longer than 7200, rounded. Translated.
 [[nodiscard]] CORE_EXPORT QString duration(double fSeconds);
 
-/// Seconds that `nTotal` bytes take at the speed so far, which is that of whole bytes per second: the time of
-/// the whole download, not of what is missing. Below one byte per second it counts as one. Negative when
-/// nothing can be said yet.
+/// Seconds that all `nTotal` bytes take, not only the missing ones, at the average speed so far: `nReceived`
+/// divided by `nElapsedSeconds`, rounded down to whole bytes per second and at least one. Negative while
+/// nothing has been received or no time has passed.
 [[nodiscard]] CORE_EXPORT double estimatedSeconds(qint64 nReceived, qint64 nTotal, qint64 nElapsedSeconds);
 
-/// The name under which a download is saved: `strName`, or the default when that could leave the folder, is
-/// no name on one of the platforms, or is not what it looks like.
+/// The name under which a download is saved: `strName`, or "Kelpa_Update.bin" if that is empty, could lead to
+/// another folder, is not allowed on one of the platforms, or hides what it is.
 [[nodiscard]] CORE_EXPORT QString safeFileName(const QString &strName);
 
-/// The name that the address of an installer ends with, as it is spelled there; without query and fragment.
+/// The part of an address after its last slash, not decoded, without query and fragment.
 [[nodiscard]] CORE_EXPORT QString fileNameOf(const QString &strUrl);
 
-constexpr int LongestVersion = 60; ///< in characters, where one is shown
+constexpr int LongestVersion = 60; ///< characters of a version that are shown
 
-/// What of a text from outside is shown: all, or its first `nLongest` characters and three dots.
+/// The text itself, or its first `nLongest` characters and three dots if it is longer.
 [[nodiscard]] CORE_EXPORT QString shortened(const QString &strText, int nLongest);
 
-constexpr int LongestLog = 200; ///< characters of what came from outside
+constexpr int LongestLog = 200; ///< characters of a text from outside that are logged
 
-/// An address as it is told and logged: without user, password and query, and shortened to `LongestLog`.
+/// An address for messages and logs: without user, password and query, and shortened to `LongestLog`.
 [[nodiscard]] CORE_EXPORT QString shown(const QUrl &url);
 
-/// Whether a text begins like an address of the web: http or https.
+/// Whether a text begins with "http://" or "https://", in any case.
 [[nodiscard]] CORE_EXPORT bool isWebAddress(const QString &strText);
 
-/// Whether what a feed names may be fetched or opened: an address of the web with a host.
+/// Whether an address from a feed may be fetched or opened: http or https with a host.
 [[nodiscard]] CORE_EXPORT bool isWebUrl(const QUrl &url);
 
 constexpr int MostRedirects = 10;
 
-/// Why a redirect must not be followed, for people; empty when it may. `nFollowed` were followed already.
+/// Why a redirect must not be followed, as translated text for the user; empty if it may be. `nFollowed` is
+/// the number of redirects followed before.
 [[nodiscard]] CORE_EXPORT QString redirectObjection(const QUrl &from, const QUrl &to, int nFollowed);
 
 } // namespace UpdateTexts
