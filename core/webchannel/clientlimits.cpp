@@ -16,11 +16,11 @@ namespace ClientLimits {
 
 namespace {
 
-// A full buffer stops a socket. Zero is none.
+// A socket whose read buffer is full stops reading. The size 0 would not do, since it means: no limit.
 constexpr qint64 PausedBufferSize = 1;
 
-// What a socket reads it works off in one go, and large frames wait in its buffer: there is room for a little
-// more than what waits.
+// QWebSocket handles all that its buffer holds in one go, so the buffer must be small; but an incomplete
+// frame stays in the buffer, so there must be room beyond what is already there.
 qint64 roomFor(const QTcpSocket &tcp)
 {
     return tcp.bytesAvailable() + ClientPolicy::ReadSize;
@@ -32,7 +32,7 @@ void makeRoom(QTcpSocket *pTcp)
         pTcp->setReadBufferSize(roomFor(*pTcp));
 }
 
-// Only the object tree leads to it.
+// QWebSocket gives no access to its TCP socket. That is a child of the server, identified by the peer.
 QTcpSocket *tcpSocketOf(const QWebSocketServer &server, const QWebSocket &socket)
 {
     const auto all = server.findChildren<QTcpSocket *>();
@@ -42,14 +42,14 @@ QTcpSocket *tcpSocketOf(const QWebSocketServer &server, const QWebSocket &socket
     return it == all.end() ? nullptr : *it;
 }
 
-// Small messages leave the room as it is. Pings are answered unseen by the transport, so what a client that
-// only sends leaves unread is looked at here too.
+// Keeps the buffer's room up to date and drops a client that does not read its answers. The transport checks
+// that as well, but does not see pings, which QWebSocket answers by itself.
 void watch(QTcpSocket *pTcp, QWebSocket *pSocket)
 {
     auto nReads = std::make_shared<int>(0);
     QObject::connect(pSocket, &QWebSocket::bytesWritten, pTcp, [nReads] { *nReads = 0; });
     const auto onRead = [pTcp, nReads, pWatched = QPointer<QWebSocket>(pSocket)] {
-        // Within its own signal the socket would not take notice of the new room.
+        // Queued: while Qt 6.4.2 emits readyRead(), setReadBufferSize() does not make a full socket read on.
         if (pTcp->readBufferSize() != roomFor(*pTcp))
             QMetaObject::invokeMethod(
                 pTcp, [pTcp] { makeRoom(pTcp); }, Qt::QueuedConnection);
@@ -60,8 +60,9 @@ void watch(QTcpSocket *pTcp, QWebSocket *pSocket)
     QObject::connect(pTcp, &QTcpSocket::readyRead, pTcp, onRead);
 }
 
-// The server deletes a TCP socket as soon as it has disconnected. Where that happens in an event loop within
-// the web socket's own signal, the web socket would not survive it: so it goes after it, when all is sent.
+// QWebSocketServer of Qt 6.4.2 deletes a TCP socket when it has disconnected. If that happens in an event
+// loop inside a signal of the web socket, the web socket uses a deleted object afterwards. So the TCP socket
+// is deleted after the web socket, once all data is sent. False if the server's connection was not found.
 bool keepUntilDestroyed(const QWebSocketServer &server, QWebSocket *pSocket, QTcpSocket *pTcp)
 {
     QObject::connect(pSocket, &QObject::destroyed, pTcp, [pTcp] {
@@ -75,7 +76,8 @@ bool keepUntilDestroyed(const QWebSocketServer &server, QWebSocket *pSocket, QTc
 
 } // namespace
 
-// Answers do not wait until the client has confirmed the ones before.
+// LowDelayOption sends an answer at once, also while the client has not acknowledged the one before. The
+// timer that is looked for is the one that WebSocketTransport::eventFilter() has to hold back.
 bool apply(const QWebSocketServer &server, QWebSocket *pSocket)
 {
     pSocket->setMaxAllowedIncomingMessageSize(ClientPolicy::MessageSize);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Holds one client's socket to the bounds of the policy.
+// Applies the bounds of ClientPolicy to the socket of one client.
 #pragma once
 
 #include <QtGlobal>
@@ -9,15 +9,16 @@ class QWebSocketServer;
 
 namespace ClientLimits {
 
-/// For a socket just taken from its server, before it works off anything. Whether its own signals may run an
-/// event loop in which the client leaves.
+/// Call it for a socket just taken from its server, before the socket delivers messages. True if the client
+/// may leave in an event loop inside one of the socket's signals, such as that of a dialog, without a crash.
 [[nodiscard]] bool apply(const QWebSocketServer &server, QWebSocket *pSocket);
 
-/// The socket takes in nothing more between the two.
+/// After pause() the socket reads nothing more from the client until resume().
 void pause(QWebSocket *pSocket);
 void resume(QWebSocket *pSocket);
 
-/// Cuts off a client that has left more than `nBytes` unread: logged, and disconnected() follows at once.
+/// Drops a client that has more than `nBytes` left to read, with a line in the log. disconnected() is emitted
+/// before this returns.
 void dropIfUnread(QWebSocket *pSocket, qint64 nBytes);
 
 } // namespace ClientLimits

@@ -14,7 +14,7 @@ Q_LOGGING_CATEGORY(lcWebChannel, "kelpa.core.webchannel")
 namespace ClientPolicy {
 namespace {
 
-// A page reached through a name that was made to point here still sends that name.
+// If an attacker's host name resolves to this machine, a page from there still sends that name as its host.
 bool isOwnHost(const QByteArray &host, quint16 nPort)
 {
     const QByteArray port = ':' + QByteArray::number(nPort);
@@ -22,7 +22,7 @@ bool isOwnHost(const QByteArray &host, quint16 nPort)
     return lower == "127.0.0.1" + port || lower == "localhost" + port || lower == "[::1]" + port;
 }
 
-// Given twice, it is not clear which one counts: then none does.
+// A query with two keys is refused, since it is not clear which of them counts.
 bool carriesKey(const QString &strQuery, const QByteArray &key)
 {
     const QStringList keys =
@@ -33,11 +33,12 @@ bool carriesKey(const QString &strQuery, const QByteArray &key)
 struct Request
 {
     int nType;
-    bool bAnswered; // and so has an id
-    const char *pMember; // of the object it names; none: it names no object
+    bool bAnswered; // the channel answers it, so it needs an id
+    const char *pMember; // of the object that it names; null: it names no object
 };
 
-// What clients send. Text for debugging is not among them: Qt would write it to the standard output.
+// Types of messages that clients send, as numbered by QWebChannel: init, idle, invokeMethod, connectToSignal,
+// disconnectFromSignal, setProperty. Type 5, debug, is left out: Qt writes its text to the standard output.
 constexpr Request s_requests[] = {
     {3, true, nullptr},
     {4, false, nullptr},
@@ -47,15 +48,15 @@ constexpr Request s_requests[] = {
     {9, false, "property"},
 };
 
-// The channel listens for the death of its objects by the same means as its clients do: one that stopped
-// listening would stop it too, and leave it with an object that is gone.
+// QWebChannel of Qt 6.4.2 keeps one connection to destroyed() of an object for its clients and for itself. A
+// client that disconnects from it would leave the channel with a pointer to a deleted object.
 bool isDeath(const QJsonValue &signal)
 {
     const int nSignal = signal.toInt(-1);
     return nSignal == 0 || nSignal == 1 || signal.toString().startsWith(QLatin1String("destroyed"));
 }
 
-// Members are named or numbered.
+// A name must not be too long. A member may also be given by its number, which needs no check.
 bool isShort(const QJsonObject &message, const char *pName)
 {
     const QJsonValue name = message.value(QLatin1String(pName));
@@ -90,7 +91,7 @@ bool equalInConstantTime(const QByteArray &first, const QByteArray &second)
     return difference == 0;
 }
 
-// Each look into an object takes its time: small messages are measured by these.
+// In a message shorter than the limit no name can be too long, so most messages skip that check.
 bool isForChannel(const QJsonObject &message, qsizetype nCharacters)
 {
     const int nType = message.value(QLatin1String("type")).toInt(-1);

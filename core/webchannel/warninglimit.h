@@ -5,18 +5,18 @@
 
 #include <QElapsedTimer>
 
-/// Keeps what one source makes us log to a few lines a second, and tells how many were left out: with the
-/// first line of a later second, and at its end. GUI thread only.
+/// Limits the log lines that one source causes to ClientPolicy::WarningsPerSecond. The number of lines left
+/// out is logged with the first line of a later second, or by the destructor. GUI thread only.
 class CORE_EXPORT WarningLimit
 {
     Q_DISABLE_COPY_MOVE(WarningLimit)
 
 public:
-    /// `pLeftOut` is the line that tells, with one "%d"; it must live as long as the program.
+    /// `pLeftOut` is the format of the line with that number, with one "%d". It must outlive this object.
     explicit WarningLimit(const char *pLeftOut);
     ~WarningLimit();
 
-    /// Whether the next line may be written; it counts as asked for either way.
+    /// Whether the next line may be logged. Call it once for each line, since each call is counted.
     [[nodiscard]] bool mayWarn();
 
 private:

@@ -13,8 +13,8 @@
 
 namespace {
 
-// Of a header that comes twice Qt gives the first value as the origin and the last one as the header. One
-// without a value it leaves out.
+// If a header comes twice, Qt 6.4.2 returns the first value by origin() and the last one by rawHeader(); a
+// header without a value is missing in both.
 std::optional<QByteArray> originOf(const QWebSocket &socket)
 {
     const QByteArray first = socket.origin().toLatin1();
@@ -35,7 +35,7 @@ const char *reasonOf(ClientPolicy::Verdict verdict)
     return verdict == ClientPolicy::Verdict::RefuseHost ? "foreign host" : "foreign origin without the key";
 }
 
-// A client's text is quoted, the URL with the key is not.
+// The URL is not logged, because it may contain the key.
 void logRefusal(const ClientPolicy::Handshake &handshake, ClientPolicy::Verdict verdict)
 {
     qCWarning(lcWebChannel) << "Refused a web channel client:" << reasonOf(verdict)
@@ -44,7 +44,7 @@ void logRefusal(const ClientPolicy::Handshake &handshake, ClientPolicy::Verdict 
                                    QString::fromLatin1(handshake.origin.value_or(QByteArray())));
 }
 
-// Nothing the client sends is read any more.
+// The socket is deleted when control returns to the event loop, so nothing more is read from the client.
 void refuse(QWebSocket *pSocket)
 {
     pSocket->close(QWebSocketProtocol::CloseCodePolicyViolated);
@@ -63,13 +63,13 @@ WebSocketClientWrapper::WebSocketClientWrapper(QWebSocketServer *server, QObject
     connect(server, &QWebSocketServer::newConnection, this, &WebSocketClientWrapper::handleNewConnection);
     m_full.setSingleShot(true);
     connect(&m_full, &QTimer::timeout, this, &WebSocketClientWrapper::boundConnections);
-    // Before its handshake only the server within the server knows of a connection.
+    // QWebSocketServer reports a connection only after its handshake; its inner TCP server reports all.
     if (auto *pListener = server->findChild<QTcpServer *>())
         connect(pListener, &QTcpServer::newConnection, this, &WebSocketClientWrapper::boundConnections);
 }
 
-// While the server does not accept, connections wait in the system. Without this Qt's server would go on
-// asking for one at the limit of handles, and never rest.
+// While accepting is paused, connections wait in the system. Without this limit the process could run out of
+// file descriptors; QTcpServer of Qt 6.4.2 then tries to accept without end and keeps a core busy.
 void WebSocketClientWrapper::boundConnections()
 {
     if (m_server->findChildren<QTcpSocket *>().size() < ClientPolicy::Connections) {
@@ -85,7 +85,7 @@ QString WebSocketClientWrapper::getKey() const
     return QString::fromLatin1(m_key);
 }
 
-// The signal that refuses an origin within the handshake does not show the URL, and so not the key.
+// Judges clients only after the handshake: originAuthenticationRequired() does not tell the URL with the key.
 void WebSocketClientWrapper::handleNewConnection()
 {
     QWebSocket *pSocket = m_server->nextPendingConnection();

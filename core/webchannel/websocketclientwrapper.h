@@ -10,9 +10,9 @@
 class QWebSocketServer;
 class WebSocketTransport;
 
-/// Turns each client that a web-socket server takes in into a transport of the web channel, once it has
-/// passed the policy. Owns neither server nor transports (their sockets do); the main window owns it and
-/// deletes it before the server. GUI thread only.
+/// Creates a web channel transport for each client of a web-socket server that ClientPolicy accepts. It owns
+/// neither the server nor the transports, which belong to their sockets. The main window owns it and deletes
+/// it before the server. GUI thread only.
 class CORE_EXPORT WebSocketClientWrapper : public QObject
 {
     Q_OBJECT
@@ -20,19 +20,19 @@ class CORE_EXPORT WebSocketClientWrapper : public QObject
     Q_DISABLE_COPY_MOVE(WebSocketClientWrapper)
 
 public:
-    /// Also bounds how long a handshake of the server may take, how many finished ones may wait, and how many
-    /// connections there are at once.
+    /// Also sets the server's limits for the time of a handshake, for finished handshakes that wait, and for
+    /// connections at a time.
     explicit WebSocketClientWrapper(QWebSocketServer *server, QObject *parent = nullptr);
 
-    /// What a page of another origin appends to the server's URL as "?key=" to be let in. New in each run.
+    /// A page of another origin is accepted if it appends "?key=" and this to the URL. New in each run.
     [[nodiscard]] QString getKey() const;
 
 signals:
     void clientConnected(WebSocketTransport *client);
 
 private slots:
-    /// Takes one socket. A refused one leaves one line in the log, but not more than a few a second, and gets
-    /// no transport.
+    /// Takes one socket from the server. A refused client gets no transport; the refusal is logged, but only
+    /// a limited number of times per second.
     void handleNewConnection();
 
 private:
@@ -41,5 +41,5 @@ private:
     QWebSocketServer *m_server;
     const QByteArray m_key;
     WarningLimit m_refusals {"%d more refused web channel clients were not logged."};
-    QTimer m_full; ///< runs while no further connection is taken
+    QTimer m_full; ///< runs while no further connections are accepted
 };

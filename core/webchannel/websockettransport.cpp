@@ -16,7 +16,7 @@
 
 namespace {
 
-// One thread for all clients: what they send does not hold up what the program computes elsewhere.
+// One thread for all clients, apart from the global pool, so that their messages do not delay other work.
 QThreadPool *parsingPool()
 {
     static QPointer<QThreadPool> s_pPool;
@@ -29,7 +29,7 @@ QThreadPool *parsingPool()
 
 } // namespace
 
-// Queued: neither the socket nor the watcher can do without themselves in their own signals.
+// Queued, because these slots may delete the socket and the watcher, which must not die in their own signals.
 WebSocketTransport::WebSocketTransport(QWebSocket *socket, Qt::ConnectionType delivery)
     : QWebChannelAbstractTransport(socket)
     , m_socket(socket)
@@ -40,7 +40,7 @@ WebSocketTransport::WebSocketTransport(QWebSocket *socket, Qt::ConnectionType de
         socket, &QWebSocket::disconnected, this, &WebSocketTransport::onDisconnected, Qt::QueuedConnection);
     connect(
         &m_parsing, &QFutureWatcherBase::finished, this, &WebSocketTransport::onParsed, Qt::QueuedConnection);
-    // After five seconds without the rest of a frame it drops the client.
+    // QWebSocket of Qt 6.4.2 drops a client if the rest of a frame does not come within five seconds.
     const auto timers = socket->findChildren<QTimer *>();
     for (QTimer *pTimer : timers)
         pTimer->installEventFilter(this);
@@ -81,8 +81,8 @@ void WebSocketTransport::textMessageReceived(const QString &message)
         parseWaiting();
 }
 
-// Whoever gets the message may delete this transport, also in an event loop of its own, for a dialog. The
-// socket stays until its signal has returned.
+// The receiver of the message may delete this transport, also while it runs an event loop for a dialog. The
+// socket must stay until its signal has returned, so it is deleted here and not by the destructor.
 void WebSocketTransport::workOffInSocket(const QString &strMessage)
 {
     const QPointer<WebSocketTransport> pThis(this);
@@ -102,7 +102,7 @@ WebSocketTransport::Parsed WebSocketTransport::parse(const QString &strMessage)
     return result;
 }
 
-// What the client sent before it left still counts.
+// Messages that the client sent before it left are still handled.
 void WebSocketTransport::onDisconnected()
 {
     m_bClientGone = true;
@@ -142,7 +142,7 @@ void WebSocketTransport::workOff(const Parsed &parsed)
         setPaused(false);
 }
 
-// So that what waits here stays little.
+// A paused socket takes no further messages, so that m_waiting stays short.
 void WebSocketTransport::setPaused(bool bPaused)
 {
     if (bPaused != m_bPaused)

@@ -12,32 +12,33 @@
 
 class QWebSocket;
 
-/// One client of the web channel: a JSON object per text frame, both ways. Child of its socket, and takes the
-/// socket with it when it is deleted; both go when the client has disconnected and its messages are handled.
-/// GUI thread only; a message of more than a million characters is parsed beside it. A client's next message
-/// waits until the one before is worked off, also while that shows a dialog.
+/// One client of the web channel; each text frame is one JSON object, in both directions. The transport is a
+/// child of its socket, and deleting it also deletes the socket. Both are deleted once the client has
+/// disconnected and its messages are handled. GUI thread only; a message of more than a million characters is
+/// parsed on another thread. A client's next message waits until the one before is handled, also while that
+/// one shows a dialog.
 class CORE_EXPORT WebSocketTransport : public QWebChannelAbstractTransport
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(WebSocketTransport)
 
 public:
-    /// Messages are delivered within the socket's signal only where that is safe: they may show a dialog, in
-    /// whose event loop the client leaves.
+    /// Pass Qt::DirectConnection only if ClientLimits::apply() was true: a message may show a dialog, and the
+    /// client may leave in its event loop.
     explicit WebSocketTransport(QWebSocket *socket, Qt::ConnectionType delivery = Qt::QueuedConnection);
     ~WebSocketTransport() override;
 
-    /// Sends one line of compact JSON. A client that leaves too much unread is dropped; one that reads may
-    /// fall further behind.
+    /// Sends the message as compact JSON. A client that leaves too many bytes unread is dropped; the limit is
+    /// higher for a client that reads at least something.
     void sendMessage(const QJsonObject &message) override;
 
-    /// A client that is not listened to, because a message is being worked off, is not late with the rest of
-    /// another.
+    /// Holds back QWebSocket's timeout for the rest of a frame while a message is being handled, because the
+    /// socket is not read meanwhile.
     bool eventFilter(QObject *pTimer, QEvent *pEvent) override;
 
 private slots:
-    /// Anything but a JSON object that the channel knows is logged and dropped, the socket stays. A client
-    /// that goes on so is not logged more often than a few times a second.
+    /// A text that is not a JSON object for the channel is dropped and logged, a limited number of times per
+    /// second; the socket stays open.
     void textMessageReceived(const QString &message);
 
 private:
@@ -56,11 +57,11 @@ private:
     void onDisconnected();
 
     QWebSocket *m_socket;
-    QQueue<QString> m_waiting; ///< the first one is being worked off
+    QQueue<QString> m_waiting; ///< the first one is being handled
     bool m_bPaused = false;
-    bool m_bInSocket = false; ///< in the signal of the socket
+    bool m_bInSocket = false; ///< while a message is handled within the socket's signal
     QFutureWatcher<Parsed> m_parsing;
-    QElapsedTimer m_unread; ///< since the client has left too much unread and taken in nothing
+    QElapsedTimer m_unread; ///< runs since the client has too much unread and reads nothing
     WarningLimit m_warnings {"%d more malformed messages of this client were not logged."};
     bool m_bClientGone = false;
 };
