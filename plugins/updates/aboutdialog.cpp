@@ -45,7 +45,7 @@ QString stateText(PluginState state)
     return {};
 }
 
-// Errors of a plug-in that is not in the list, such as one that could not be read, get rows of their own.
+// The reason for the plug-in's state and its errors, each text once.
 QStringList errorsOf(const QString &strName, const QString &strReason)
 {
     QStringList result;
@@ -120,6 +120,7 @@ void AboutDialog::fillPlugins()
         pItem->setToolTip(3, strErrors);
     }
     const auto errors = PluginManager::errors();
+    // A plug-in whose metadata could not be read has errors, but is missing in the list above.
     for (const PluginError &error : errors) {
         if (!names.contains(error.plugin))
             new QTreeWidgetItem(m_pPlugins,

@@ -5,8 +5,8 @@
 
 class QTreeWidget;
 
-/// What runs here: the versions of the program and of Qt, and every plug-in that was found, with its state
-/// and what went wrong with it. GUI thread only.
+/// Shows the versions of the program and of Qt, the system, and every plug-in that was found, with its state
+/// and its errors. GUI thread only.
 class AboutDialog : public QDialog
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class AboutDialog : public QDialog
 public:
     explicit AboutDialog(QWidget *pParent);
 
-    /// All of it as plain text.
+    /// Everything that the dialog shows, as plain text for the clipboard.
     [[nodiscard]] QString text() const;
 
 private:

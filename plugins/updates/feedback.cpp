@@ -25,7 +25,7 @@ QList<std::pair<QString, QString>> details()
             QSysInfo::prettyProductName() + QLatin1String(", ") + QSysInfo::currentCpuArchitecture()}};
 }
 
-// A plus sign would be read as a space.
+// QUrlQuery does not encode plus signs, and servers read a plus sign as a space.
 QString encoded(const QString &strText)
 {
     return QString::fromLatin1(QUrl::toPercentEncoding(strText));

@@ -3,14 +3,14 @@
 
 #include <QUrl>
 
-/// The way to those who make the program.
+/// Lets the user write to the makers of the program.
 namespace Feedback {
 
-/// The configured address with what they want to know: versions of the program and of Qt, and the system. A
-/// mail address gets it as the text. Empty unless it is an address of the web or of mail.
+/// The address with the versions of the program and of Qt and the name of the system added: as the text of
+/// the mail for "mailto:", to the query for http and https. Empty for every other address.
 [[nodiscard]] QUrl addressWithDetails(const QString &strAddress);
 
-/// Opens it on the desktop; what cannot be opened gives one message.
+/// Opens addressWithDetails() on the desktop. If that fails, a message box tells the user.
 void open(const QString &strAddress);
 
 } // namespace Feedback

@@ -21,7 +21,7 @@ constexpr auto s_deadline = 33s;
 constexpr auto s_dueInterval = 1h;
 constexpr int s_nReminderDays = 3;
 
-// The entry of a feed that is for this system.
+// The name of the feed's entry for this system.
 QString platformKey()
 {
 #if defined(Q_OS_WIN)
@@ -76,7 +76,7 @@ void UpdateCheck::start()
         checkIfDue();
 }
 
-// Once: who closes the question has answered it.
+// The question is asked only once: closing it counts as an answer.
 void UpdateCheck::askForAgreement()
 {
     UpdateSettings::setAsked();
@@ -105,7 +105,7 @@ void UpdateCheck::checkNow()
 {
     if (m_state == State::Manual)
         return;
-    // Also one that began before the user set another feed.
+    // A download may come from the feed that was set before the current one.
     for (const QString &strUrl : {m_strUrl, UpdateSettings::url(UpdateSettings::Feed)}) {
         if (QSimpleUpdater::getInstance()->showDownload(strUrl))
             return;
@@ -119,7 +119,7 @@ void UpdateCheck::checkNow()
     begin(State::Manual);
 }
 
-// A background check under way turns into one that shows what it finds.
+// If a background check is running, it is not repeated but turned into one that shows its result.
 void UpdateCheck::begin(State state)
 {
     const bool bUnderWay = m_state != State::Idle;
@@ -136,7 +136,7 @@ void UpdateCheck::begin(State state)
         pUpdater->checkForUpdates(m_strUrl, true);
 }
 
-// Nothing happens when the answer, a dialog, is on the screen already.
+// If the check has an answer and shows it in a dialog, there is nothing left to abort and the dialog stays.
 void UpdateCheck::onDeadline()
 {
     m_bDeadlineMissed = true;
@@ -154,11 +154,11 @@ void UpdateCheck::onEnded(const QString &strUrl)
     KPNotificationBar *pBar = ICore::getMainWindow() ? ICore::getMainWindow()->getNotificationBar() : nullptr;
     if (pBar && pBar->text() == tr("Looking for a new version..."))
         pBar->hide();
-    // The box shall not run inside a signal of the network.
+    // Queued, because the event loop of the box must not run inside a signal of the network.
     QMetaObject::invokeMethod(this, &UpdateCheck::answer, Qt::QueuedConnection);
 }
 
-// An update has had its dialog.
+// Says nothing of an update that is available: the Updater has offered it in a dialog already.
 void UpdateCheck::answer()
 {
     QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();

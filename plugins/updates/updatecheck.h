@@ -6,8 +6,8 @@
 
 class QTimer;
 
-/// Looks for a newer version: when the user asks, which always ends with an answer, and once a day by itself
-/// if the user agreed, which only speaks up when there is one. The plug-in owns it; GUI thread only.
+/// Looks for a newer version when the user asks, and once a day by itself if the user agreed. The first way
+/// always gives an answer, the second only tells of a new version. The plug-in owns it; GUI thread only.
 class UpdateCheck : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
     explicit UpdateCheck(QObject *pParent);
     ~UpdateCheck() override;
 
-    /// Begins with the automatic checks, or asks once whether they are wanted.
+    /// Starts the automatic checks, or asks the user once whether they are wanted. Without a feed neither.
     void start();
 
-    /// Looks now, and answers within 35 seconds. A check under way becomes this one. While an update is
-    /// downloaded, or waits to be installed, it shows the window of that instead.
+    /// Looks now and answers within 35 seconds. A running check becomes one that answers the user. While an
+    /// update is being downloaded or waits to be installed, that window is shown instead.
     void checkNow();
 
 private:
@@ -39,7 +39,7 @@ private:
     void agree();
 
     State m_state = State::Idle;
-    QString m_strUrl; ///< of the last check
+    QString m_strUrl; ///< feed of the last check
     bool m_bDeadlineMissed = false;
     QTimer *m_pDeadline;
     QTimer *m_pDue;

@@ -35,7 +35,7 @@ void setValue(const QString &strKey, const QVariant &newValue)
         pSettings->setValue(strKey, newValue);
 }
 
-// An address with a comma is read as a list unless it is in quotes.
+// QSettings reads an address with a comma as a list unless it is in quotes, so the list is joined again.
 QString read(UpdateSettings::Address address, QSettings::Scope scope)
 {
     return value(s_addresses[address].strKey, scope).toStringList().join(QLatin1Char(',')).trimmed();

@@ -4,35 +4,35 @@
 #include <QDateTime>
 #include <QString>
 
-/// What the user, or else the machine, has set about updates. GUI thread only, while the program has
-/// settings.
+/// The settings about updates: those of the user or else, for addresses, those of the machine. GUI thread
+/// only. Without a settings store the defaults are returned and changes are ignored.
 class UpdateSettings
 {
 public:
     enum Address { Feed, Report, Suggestion };
 
-    /// One that is not set leads to a domain that nobody can own.
+    /// The default of an address that is not set is in the top-level domain "example", which nobody can own.
     [[nodiscard]] static QString url(Address address);
 
-    /// Setting nothing, or what counts without the user (the machine's address, else the default), takes the
-    /// user's choice away.
+    /// An empty text, or the address that counts without the user's (the machine's or the default), removes
+    /// the user's setting.
     static void setUrl(Address address, const QString &strUrl);
 
-    /// Whether a feed is set; otherwise nothing must be contacted.
+    /// Whether a feed is set. If not, the program must not contact any server.
     [[nodiscard]] static bool hasFeed();
 
     [[nodiscard]] static bool isAutomatic();
     static void setAutomatic(bool bAutomatic);
 
-    /// The user was asked whether checks may be automatic, or has decided without being asked.
+    /// Whether the user was asked about automatic checks, or has decided without being asked.
     [[nodiscard]] static bool wasAsked();
     static void setAsked();
 
-    /// A day has passed since the last automatic check, or the clock was set back.
+    /// Whether a day has passed since the last automatic check, or the clock was set back behind it.
     [[nodiscard]] static bool isCheckDue(const QDateTime &now);
     static void setChecked(const QDateTime &now);
 
-    /// Whether the user wants to be told of this version now.
+    /// False for the version that was skipped, and for every version until the time of remindAfter().
     [[nodiscard]] static bool isWanted(const QString &strVersion, const QDateTime &now);
     static void skip(const QString &strVersion);
     static void remindAfter(const QDateTime &time);

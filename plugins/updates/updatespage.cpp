@@ -45,7 +45,7 @@ void UpdatesPage::initValues()
     m_pAutomatic->setChecked(UpdateSettings::isAutomatic());
     for (const auto address : {UpdateSettings::Feed, UpdateSettings::Report, UpdateSettings::Suggestion}) {
         m_addresses[address]->setText(UpdateSettings::url(address));
-        m_addresses[address]->setCursorPosition(0); // a long one from its beginning
+        m_addresses[address]->setCursorPosition(0); // shows the beginning of a long address
     }
     IOptionPage::initValues();
 }

@@ -8,7 +8,7 @@
 class QCheckBox;
 class QLineEdit;
 
-/// The page "Updates" of the preferences.
+/// The page "Updates" of the preferences: automatic checks and the three addresses.
 class UpdatesPage : public IOptionPage
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private:
     std::array<QLineEdit *, 3> m_addresses; ///< in the order of UpdateSettings::Address
 };
 
-/// Hands the page to the preferences dialog.
+/// Creates the page for the preferences dialog, which finds this factory in the object pool.
 class UpdatesPageFactory : public IOptionPageFactory
 {
     Q_OBJECT

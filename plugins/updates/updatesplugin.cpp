@@ -43,7 +43,7 @@ bool UpdatesPlugin::initialize(const QStringList &arguments, QString *errorStrin
     return true;
 }
 
-// The main window has made these commands for whoever serves them; one that it has not made comes from here.
+// The main window creates these commands without a function. A command that it did not create is added here.
 void UpdatesPlugin::serve(const char *pId, const QString &strText, const std::function<void()> &handler)
 {
     const QString strId = QLatin1String(pId);

@@ -12,8 +12,8 @@ class QAction;
 class UpdateCheck;
 class UpdatesPageFactory;
 
-/// Serves the commands of the Help menu that concern the program itself: updates, about, problems and
-/// suggestions.
+/// Handles the commands of the Help menu that concern the program itself: updates, about, problems and
+/// suggestions. Adds a page to the preferences.
 class UpdatesPlugin : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
@@ -33,5 +33,5 @@ private:
 
     std::unique_ptr<UpdateCheck> m_pCheck;
     std::unique_ptr<UpdatesPageFactory> m_pPages;
-    QList<std::pair<QString, QAction *>> m_commands; ///< that the plug-in had to make
+    QList<std::pair<QString, QAction *>> m_commands; ///< created here, with their ids
 };
