@@ -26,7 +26,7 @@ RecentList::RecentList(IMainMdiArea *pArea, QWidget *pParent)
     pLayout->addWidget(m_pList);
     setFocusProxy(m_pList);
     connect(pArea, &IMainMdiArea::resetRecentFiles, this, &RecentList::fill);
-    // The list is filled anew while the project opens.
+    // Queued: opening a project clears this list, which must not happen while it emits a signal.
     connect(m_pList, &QListWidget::itemActivated, pArea, [pArea](const QListWidgetItem *pItem) {
         const QString strFile = pItem->data(Qt::UserRole).toString();
         QMetaObject::invokeMethod(

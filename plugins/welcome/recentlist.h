@@ -6,7 +6,7 @@
 class IMainMdiArea;
 class QListWidget;
 
-/// The recent projects without a page around them, for when the page cannot be shown. GUI thread only.
+/// A plain list of the recent projects, shown if the home page cannot be shown. GUI thread only.
 class RecentList : public QWidget
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 class QCheckBox;
 
-/// Whether the home page is wanted, in the user's settings and in the preferences dialog.
+/// The page of the preferences dialog that switches the home page on and off, with the setting behind it.
 class WelcomeOptionPage : public IOptionPage
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private:
     QCheckBox *m_pShow;
 };
 
-/// In the pool while it lives.
+/// Creates the page. The constructor puts the factory into the object pool, the destructor takes it out.
 class WelcomeOptionPageFactory : public IOptionPageFactory
 {
     Q_OBJECT

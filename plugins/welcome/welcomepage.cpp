@@ -42,7 +42,7 @@ constexpr Text s_texts[] = {
     {"found", QT_TRANSLATE_NOOP("WelcomePage", "The page has reached the program again.")},
 };
 
-/// A project that lies in the folder "examples" beside the program, and its picture in the page's resources.
+/// A project in the folder "examples" beside the program; its picture is in the page's resources.
 struct Example
 {
     const char *pName;
@@ -74,7 +74,7 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
-// The shades between are those of the two colours that every theme has.
+// The shades in between are mixed from the colors of window and text, so that they fit every theme.
 QJsonObject colours(const QPalette &palette)
 {
     const QColor window = palette.color(QPalette::Window);
@@ -106,7 +106,7 @@ QJsonObject commands()
     return result;
 }
 
-// Pages of our own need no key today; with it they stay welcome whatever becomes of their origin.
+// The server accepts the page by its origin "qrc:". The key is for engines that may send another origin.
 QString server()
 {
     QUrl url = ICore::getMainWindow()->getServer()->serverUrl();
@@ -134,7 +134,7 @@ QJsonObject WelcomePage::data(const QWidget &widget)
         {QStringLiteral("server"), server()},
         {QStringLiteral("texts"), texts()},
         {QStringLiteral("direction"), widget.isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr")},
-        // For what the engine draws by itself, such as scroll bars.
+        // The engine needs it for what it draws itself, such as scroll bars.
         {QStringLiteral("scheme"),
             isDark(widget.palette()) ? QStringLiteral("dark") : QStringLiteral("light")},
         {QStringLiteral("colours"), colours(widget.palette())},

@@ -7,9 +7,9 @@
 
 class QWidget;
 
-/// What the home page is told before it runs: where to find the program, its texts in the language of the
-/// user, the colours and font of a widget, and the examples that are installed. All else it asks for over the
-/// web channel. GUI thread only.
+/// The data that the home page gets before its scripts run: the address of the web channel, the translated
+/// texts, the colors and the font of a widget, and the installed examples. The page asks for everything else
+/// over the web channel. GUI thread only.
 class WelcomePage
 {
     Q_DECLARE_TR_FUNCTIONS(WelcomePage)
@@ -17,7 +17,7 @@ class WelcomePage
 public:
     [[nodiscard]] static QUrl url();
 
-    /// The page takes it when the recent projects are on the screen.
+    /// The page sets this title when it has drawn the recent projects.
     [[nodiscard]] static QString title();
     [[nodiscard]] static QJsonObject data(const QWidget &widget);
 

@@ -15,7 +15,7 @@
 
 namespace {
 
-// As the metadata describes it; the framework translates that.
+// Makes lupdate see the description in welcome.json, which the framework translates in this context.
 [[maybe_unused]] constexpr const char *s_option =
     QT_TRANSLATE_NOOP("ExtensionSystem::CommandLine", "Do not show the home page in this run.");
 
@@ -23,7 +23,7 @@ namespace {
 
 WelcomePlugin::WelcomePlugin() = default;
 
-// The code of the widget goes with this library, so the widget must not outlive it.
+// The widget's code is in this library, so the widget must be gone before the library is unloaded.
 WelcomePlugin::~WelcomePlugin()
 {
     delete m_pWidget;
@@ -41,13 +41,13 @@ bool WelcomePlugin::initialize(const QStringList &arguments, QString *errorStrin
         return true;
     m_pWidget = new WelcomeWidget(pMainWindow->getMdiArea());
     pMainWindow->setWelcomeWidget(m_pWidget);
-    // Behind the projects of the command line, which the same kind of timer opens.
+    // The main window opens the projects of the command line by a timer of 0 ms; this one comes after it.
     connect(pMainWindow, &MainWindow::extsInitialized, this,
         [this] { QTimer::singleShot(0, this, &WelcomePlugin::start); });
     return true;
 }
 
-// A project of the command line may still be asking the user something.
+// If a project of the command line still shows a dialog, the page waits for the end of that dialog.
 void WelcomePlugin::start()
 {
     if (QWidget *pDialog = QApplication::activeModalWidget())
@@ -56,7 +56,7 @@ void WelcomePlugin::start()
         ICore::getMainWindow()->setVisibleWelcomeWidget(EditorManager::getEditors().isEmpty());
 }
 
-// Some dialogs are only hidden when they are done; those that are deleted are hidden first.
+// Hiding is the end of every dialog: some are only hidden, and ~QDialog() hides the others.
 bool WelcomePlugin::eventFilter(QObject *pWatched, QEvent *pEvent)
 {
     if (pEvent->type() == QEvent::Hide) {

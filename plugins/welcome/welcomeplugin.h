@@ -10,8 +10,8 @@
 class WelcomeOptionPageFactory;
 class WelcomeWidget;
 
-/// Shows the home page while no project is open, unless the user's settings or the option "--no-welcome" say
-/// otherwise.
+/// Shows the home page while no project is open, unless the preferences or the option "--no-welcome" switch
+/// it off.
 class WelcomePlugin : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
@@ -29,5 +29,5 @@ private:
     void start();
 
     std::unique_ptr<WelcomeOptionPageFactory> m_pOptions;
-    QPointer<WelcomeWidget> m_pWidget; ///< the child of the area of documents
+    QPointer<WelcomeWidget> m_pWidget; ///< child of the area of documents
 };

@@ -18,7 +18,7 @@
 
 Q_LOGGING_CATEGORY(lcWelcome, "kelpa.welcome")
 
-// The resources of a static library come in only when asked for. Not in a namespace: the macro forbids it.
+// Resources of a static library need Q_INIT_RESOURCE(), which Qt's documentation forbids in a namespace.
 static void initResources()
 {
     Q_INIT_RESOURCE(welcome);
@@ -46,7 +46,7 @@ bool WelcomeWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
     return QWidget::eventFilter(pWatched, pEvent);
 }
 
-// The engine takes its time and the window's first picture must not wait for it: this one is only on its way.
+// Loading the engine takes long, so it is queued: the window's first picture reaches the screen before.
 void WelcomeWidget::paintEvent(QPaintEvent *)
 {
     QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
@@ -80,7 +80,7 @@ void WelcomeWidget::changeEvent(QEvent *pEvent)
     }
 }
 
-// A project that came up meanwhile needs no page.
+// If a project was opened in the meantime, the view is not created before the widget is painted again.
 void WelcomeWidget::createView()
 {
     if (isHidden()) {
@@ -100,7 +100,7 @@ void WelcomeWidget::createView()
     takeFocus();
 }
 
-// Several changes in a row are one.
+// Several changes in a row lead to one update of the page.
 void WelcomeWidget::updateLater()
 {
     if (m_bUpdating || !m_pView)
@@ -123,7 +123,7 @@ void WelcomeWidget::onLoaded(bool bOk)
 {
     if (bOk || m_bRecovering)
         return;
-    // Not within a signal of the view; and what failed may say so twice.
+    // Queued, since recover() may delete the view, which is emitting. One failure may be reported twice.
     m_bRecovering = true;
     QMetaObject::invokeMethod(this, &WelcomeWidget::recover, Qt::QueuedConnection);
 }
@@ -154,7 +154,7 @@ void WelcomeWidget::showList()
     takeFocus();
 }
 
-// A window that comes up gives the focus to some button. Menus and dialogs keep theirs.
+// When a window is shown, some button gets the focus, so take it from there. Menus and dialogs keep theirs.
 void WelcomeWidget::takeFocus()
 {
     const QWidget *pFocus = QApplication::focusWidget();

@@ -6,17 +6,16 @@
 class IMainMdiArea;
 class WebView;
 
-/// Covers the area of documents with the home page. The browser engine is loaded when this widget has been
-/// painted for the first time; until then, and until the page paints, it shows its background. A page that
-/// fails is loaded once more, then the recent projects are listed without it. Child of the area; the plug-in
-/// deletes it. GUI thread only.
+/// Covers the area of documents with the home page. The browser engine is loaded after the first painting of
+/// this widget; it shows its background until the page paints. If the page fails, it is loaded once more; if
+/// it fails again, a RecentList takes its place. Child of the area; the plug-in deletes it. GUI thread only.
 class WelcomeWidget : public QWidget
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(WelcomeWidget)
 
 public:
-    /// Hidden: the main window shows it when there is no editor.
+    /// Starts hidden. The main window shows it while there is no editor.
     explicit WelcomeWidget(IMainMdiArea *pArea);
 
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
@@ -36,7 +35,7 @@ private:
     void takeFocus();
 
     IMainMdiArea *m_pArea;
-    WebView *m_pView = nullptr; ///< until it failed twice
+    WebView *m_pView = nullptr; ///< null before the first painting, and after the page failed twice
     QWidget *m_pContent = nullptr; ///< the view or the list
     bool m_bPainted = false;
     bool m_bUpdating = false;
