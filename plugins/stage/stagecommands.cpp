@@ -14,7 +14,7 @@ struct StageCommands
     Q_DECLARE_TR_FUNCTIONS(StageCommands)
 };
 
-// Points compare with a tolerance; what undo restores is exact.
+// The coordinates are compared one by one, because operator== of QPointF has a tolerance.
 bool leadsNowhere(const StageMoveCommand::Move &move)
 {
     return move.from.x() == move.to.x() && move.from.y() == move.to.y();
@@ -58,7 +58,7 @@ void StageRemoveCommand::undo()
         m_pModel->insertElement(m_nScene, m_indexes.at(i), m_elements.at(i));
 }
 
-// From the last to the first, so that the indexes still to come stay true.
+// Removes from the last to the first, so that the indexes of the others stay valid.
 void StageRemoveCommand::redo()
 {
     for (auto it = m_indexes.crbegin(); it != m_indexes.crend(); ++it)
@@ -74,7 +74,7 @@ StageMoveCommand::StageMoveCommand(StageModel *pModel, int nScene, const QList<M
 {
 }
 
-// Commands without an id never merge.
+// QUndoStack does not merge commands whose id is -1.
 int StageMoveCommand::id() const
 {
     return m_kind == Kind::Step ? 1 : -1;

@@ -8,7 +8,7 @@
 
 class StageModel;
 
-// The edits of a project. Each one belongs to the undo stack of the document that owns the model.
+// The edits of a project. Each command belongs to the undo stack of the document that owns the model.
 
 /// Puts one element in front of all others.
 class StageAddCommand : public QUndoCommand
@@ -25,7 +25,7 @@ private:
     const StageElement m_element;
 };
 
-/// Removes the elements at the indexes, given in any order.
+/// Removes the elements at `indexes`, which may be in any order but must not hold duplicates.
 class StageRemoveCommand : public QUndoCommand
 {
 public:
@@ -40,8 +40,8 @@ private:
     QList<StageElement> m_elements;
 };
 
-/// Moves elements. Steps by the keyboard that follow one another with the same elements become one entry of
-/// the history, and none when they lead back to the start; each drag with the mouse is an entry of its own.
+/// Moves elements. Successive steps by the keyboard with the same elements are merged into one entry of the
+/// history, which vanishes if they lead back to the start; each drag with the mouse is an entry of its own.
 class StageMoveCommand : public QUndoCommand
 {
 public:

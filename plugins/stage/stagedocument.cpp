@@ -35,7 +35,7 @@ bool inRange(int nValue, int nMax)
     return nValue >= 1 && nValue <= nMax;
 }
 
-// One for all documents, since the system gives a user only about a hundred.
+// One watcher for all documents: each takes an inotify instance, of which Linux gives a user 128 by default.
 std::shared_ptr<QFileSystemWatcher> sharedWatcher()
 {
     static std::weak_ptr<QFileSystemWatcher> s_pShared;
@@ -45,7 +45,7 @@ std::shared_ptr<QFileSystemWatcher> sharedWatcher()
     return pWatcher;
 }
 
-// The name with the suffix, cut where it would be longer than file systems allow.
+// Appends the suffix and shortens the name before it if the file system would refuse the length.
 QString withSuffix(QString strName, const QString &strSuffix)
 {
     constexpr int nMaxBytes = 255;
@@ -56,7 +56,7 @@ QString withSuffix(QString strName, const QString &strSuffix)
 
 } // namespace
 
-// Model and stack are children: they are still there when the base class announces the end of the document.
+// Model and stack are children, so they still exist when ~IDocument() emits destroyed().
 StageDocument::StageDocument()
     : m_pModel(new StageModel(this))
     , m_pWatcher(sharedWatcher())
@@ -99,7 +99,7 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
     project.frameRate = nThird;
     project.responsive = bFlag;
     project.scenes.append(StageScene {tr("Scene 1"), {}, {}});
-    getUndoStack()->resetClean(); // nothing of it is on disk
+    getUndoStack()->resetClean(); // nothing of this project is on disk yet
     m_pModel->setProject(project);
     return true;
 }
@@ -118,7 +118,7 @@ bool StageDocument::revert()
     return true;
 }
 
-// On failure the user is told, and the project in memory stays.
+// If it fails, the user is told and the project in memory stays as it is.
 bool StageDocument::read(const QString &strAction)
 {
     const StageReader::Result result = StageReader::readFile(getFileName());
@@ -135,7 +135,7 @@ bool StageDocument::read(const QString &strAction)
 
 bool StageDocument::close()
 {
-    // What listens to the closing may delete the document at once.
+    // A receiver of aboutToClose() may delete this document.
     const QPointer<StageDocument> pThis = this;
     if (!IDocument::close())
         return false;
@@ -171,7 +171,7 @@ bool StageDocument::saveAs()
         return false;
     if (!strFileName.endsWith(s_suffix, Qt::CaseInsensitive)) {
         strFileName += s_suffix;
-        // The dialog asked about the name without the suffix only.
+        // The dialog has asked about replacing a file only for the name without the suffix.
         if (QFileInfo::exists(strFileName)
             && IUi::question(nullptr, s_title,
                    tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strFileName)),
@@ -213,7 +213,7 @@ bool StageDocument::saveAsOwn(const QString &strFileName)
     return true;
 }
 
-// At closing, the box of close() gives the reason. The document may be gone when this returns.
+// If close() calls save(), it shows the reason itself. The document may be deleted while the box is open.
 void StageDocument::tellFailure(const QString &strFile)
 {
     if (isSavedByClose())
@@ -229,7 +229,7 @@ void StageDocument::tellFailure(const QString &strFile)
         QMetaObject::invokeMethod(this, &StageDocument::saveElsewhere, Qt::QueuedConnection);
 }
 
-// By the main window, which keeps the recent projects, and therefore once save() has returned.
+// The main window saves, since it also keeps the recent projects. Queued, so that save() has returned before.
 void StageDocument::saveElsewhere()
 {
     IEditor *pEditor = EditorManager::getEditorOfDocument(this);
@@ -246,7 +246,8 @@ void StageDocument::watchFile()
         m_pWatcher->addPath(getFileName());
 }
 
-// A project whose file went is not saved any more. One that was replaced, as each save does, is not watched.
+// QFileSystemWatcher stops watching a file that is replaced, as saving does, so the file is added again. A
+// project whose file was deleted counts as unsaved.
 void StageDocument::onFileChanged(const QString &strPath)
 {
     if (strPath != getFileName())
@@ -279,7 +280,7 @@ bool StageDocument::saveBackup()
     return true;
 }
 
-// Once, and until there is a backup or nothing to back up.
+// Shows the first failure until a backup succeeds or is no longer needed; an empty text takes it away.
 void StageDocument::warnOfBackup(const QString &strText)
 {
     MainWindow *pMainWindow = ICore::getMainWindow();
@@ -291,7 +292,7 @@ void StageDocument::warnOfBackup(const QString &strText)
         pMainWindow->hideNotification();
 }
 
-// Not that of a file which is there: it may be all that an earlier run left of somebody's work.
+// Skips existing files, since one may be the backup of an earlier run and the only copy of the user's work.
 QString StageDocument::freeBackupName() const
 {
     const QFileInfo file(getFileName());
@@ -304,7 +305,7 @@ QString StageDocument::freeBackupName() const
     return folder.absoluteFilePath(strName);
 }
 
-// Only the one written here.
+// Never removes a backup that this document did not write.
 void StageDocument::removeBackup()
 {
     if (!m_strBackup.isEmpty() && !QFile::remove(m_strBackup) && QFile::exists(m_strBackup))

@@ -25,7 +25,8 @@
 
 namespace {
 
-// A tab takes "&" for a key and every "[*]" for the mark of a change, and is as wide as its text.
+// In a tab "&" marks a key and "[*]" is the place of the mark for changes, so both are escaped in the name.
+// The name is shortened because a tab is as wide as its text.
 QString tabText(const QString &strName, const QWidget *pTab)
 {
     const int nWidest = DisplayScale::proportional(DisplayScale::logicalDpi(pTab), 240);
@@ -44,7 +45,7 @@ StageEditor::StageEditor()
     connect(this, &IEditor::documentModifyChanged, this, &StageEditor::updateTitle);
 }
 
-// The main window clears the file path in its title when a document closes; the next one is shown by then.
+// The main window clears its title when a document closes; an editor deleted after that sets it again.
 StageEditor::~StageEditor()
 {
     delete m_pSubWindow;
@@ -148,7 +149,7 @@ void StageEditor::updateTitle()
     const QString strFileName = pDocument->getFileName();
     m_pSubWindow->setWindowTitle(tabText(QFileInfo(strFileName).completeBaseName(), m_pSubWindow));
     m_pSubWindow->setWindowFilePath(strFileName);
-    // The tool tip of the sub-window itself would come up over the stage.
+    // A tool tip of the sub-window would appear over the whole stage, so the tab alone gets one.
     QMdiArea *pArea = m_pSubWindow->mdiArea();
     if (auto *pTabs = pArea ? pArea->findChild<QTabBar *>() : nullptr)
         pTabs->setTabToolTip(static_cast<int>(pArea->subWindowList().indexOf(m_pSubWindow)),
@@ -158,7 +159,7 @@ void StageEditor::updateTitle()
         ICore::getMainWindow()->updateActivatedMdiSubFilePath(m_pSubWindow);
 }
 
-// The user picked the tab. An editor on its way out has no document any more.
+// Activates the editor when the user picks its tab, but not while it closes or after its document is gone.
 void StageEditor::onSubWindowActivated(QMdiSubWindow *pSubWindow)
 {
     if (pSubWindow && pSubWindow == m_pSubWindow && getDocument() && !m_bClosing)
@@ -171,8 +172,8 @@ void StageEditor::showStatus(const QString &strStatus)
         pMainWindow->statusBar()->showMessage(strStatus);
 }
 
-// The question about unsaved changes runs an event loop: the close box may be pressed again, and document or
-// editor may be deleted, before the answer comes. Nothing may follow the last line.
+// The question about unsaved changes runs an event loop: until the answer, close may be requested again, and
+// document or editor may be deleted. The signal in the last line deletes the document, so nothing may follow.
 void StageEditor::requestClose()
 {
     const QPointer<IDocument> pDocument = getDocument();

@@ -10,9 +10,8 @@ class QMdiSubWindow;
 class StageDocument;
 class StageView;
 
-/// Shows a project in a sub-window of the main window's area of documents. It owns the sub-window, which
-/// comes to life when the editor is first activated and dies with the editor; the area may delete it before.
-/// GUI thread only.
+/// Shows a project in a sub-window of the main window's area of documents. It creates the sub-window when it
+/// is first activated and deletes it in its destructor; the area may delete it earlier. GUI thread only.
 class StageEditor : public IEditor
 {
     Q_OBJECT
@@ -22,7 +21,7 @@ public:
     StageEditor();
     ~StageEditor() override;
 
-    /// Both null before the first activation, and when the area of documents is gone.
+    /// Both are null before the first activation, and once the area of documents has been deleted.
     [[nodiscard]] StageView *getView() const;
     [[nodiscard]] QMdiSubWindow *getSubWindow() const;
 

@@ -3,7 +3,7 @@
 
 #include <document/idocumentfactory.h>
 
-/// Makes the documents of the format "kelpa".
+/// Creates the documents of the format "kelpa" with their editors and dialogs. StagePlugin owns it.
 class StageFactory : public IDocumentFactory
 {
     Q_OBJECT

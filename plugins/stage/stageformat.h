@@ -5,20 +5,20 @@
 
 #include <array>
 
-/// The facts of the project format that reader, writer and editor share.
+/// Facts of the project format that reader, writer and editor share. Lengths of texts are in UTF-16 units.
 namespace StageFormat {
 
 constexpr int nVersion = 1;
 constexpr qint64 nMaxFileBytes = 64LL * 1024 * 1024;
 constexpr int nMaxValues = 2'000'000; ///< JSON values in a file
-constexpr int nMaxStageSize = 16384;
-constexpr int nMaxFrameRate = 240;
+constexpr int nMaxStageSize = 16384; ///< pixels
+constexpr int nMaxFrameRate = 240; ///< frames per second
 constexpr int nMaxScenes = 1000;
 constexpr int nMaxElements = 20'000; ///< in all scenes together
 constexpr int nMaxNameLength = 256;
 constexpr int nMaxTextLength = 100'000;
 constexpr int nMaxPathLength = 4096;
-constexpr double dMaxCoordinate = 1'000'000;
+constexpr double dMaxCoordinate = 1'000'000; ///< stage pixels, to each side
 
 struct NumberMember
 {

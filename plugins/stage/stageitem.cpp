@@ -11,7 +11,7 @@ namespace {
 
 constexpr int nMaxImageSide = 4096;
 
-// In twice the size it is shown at, so that it stays sharp when zoomed in. A null image when there is none.
+// Loads the image at twice its size on the stage, so that it stays sharp up to a zoom of 2. Null if it fails.
 QImage loadImage(const StageElement &element)
 {
     if (!QFileInfo(element.source).isFile())
@@ -109,12 +109,12 @@ void StageItem::paintText(QPainter *pPainter) const
     font.setBold(m_element.bold);
     pPainter->setFont(font);
     pPainter->setPen(m_element.fill.isValid() ? m_element.fill : QColor(Qt::black));
-    // What lies on the stage does not turn round with the window.
+    // Text on the stage keeps its direction when the program's windows run from right to left.
     pPainter->setLayoutDirection(Qt::LeftToRight);
     pPainter->drawText(rect(), Qt::TextWordWrap | alignment(m_element.align), m_element.text);
 }
 
-// An image that cannot be shown leaves a crossed frame in its place.
+// Paints a crossed frame in place of an image that could not be loaded.
 void StageItem::paintImage(QPainter *pPainter) const
 {
     if (!m_image.isNull()) {

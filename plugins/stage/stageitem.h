@@ -6,8 +6,8 @@
 #include <QGraphicsItem>
 #include <QImage>
 
-/// Paints one element at its place on the stage. It holds a copy of the element; the view that owns it keeps
-/// the copy's place up to date.
+/// Paints one element at its place on the stage. It holds a copy of the element, whose place the view updates
+/// by setPlace(). The scene of the view owns it.
 class StageItem : public QGraphicsItem
 {
 public:

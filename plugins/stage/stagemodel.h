@@ -6,9 +6,9 @@
 #include <QObject>
 #include <QPointF>
 
-/// The project of one open document, with a signal for each change. Changes come from undo commands, which
-/// address elements by their index: at the time a command runs it means the same element again. The document
-/// owns it. GUI thread only.
+/// The project of one open document, with a signal for each change. Undo commands make the changes; as undo
+/// and redo run in order, an index means the same element each time a command runs. Only elements() checks
+/// its index: an unknown scene has none. The document owns the model. GUI thread only.
 class StageModel : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] const StageProject &project() const { return m_project; }
 
-    /// Replaces all; emits reset().
+    /// Replaces the whole project and emits reset().
     void setProject(const StageProject &project);
 
     void insertElement(int nScene, int nIndex, const StageElement &element);
@@ -29,7 +29,7 @@ public:
     [[nodiscard]] const QList<StageElement> &elements(int nScene) const;
     [[nodiscard]] int elementCount() const;
 
-    /// The name of the type with the first number that no element has yet.
+    /// The name of the type with the first number, as in "text-2", that is no element's id in any scene.
     [[nodiscard]] QString freeId(StageElement::Type type) const;
 
 signals:

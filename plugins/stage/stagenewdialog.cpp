@@ -24,7 +24,7 @@ namespace {
 
 const QString s_suffix = QStringLiteral(".kelpa");
 
-// A file that neither exists nor is open, in a folder that is there.
+// A path in the user's documents folder where no file exists, and which no open project has.
 QString freePath(const QString &strName)
 {
     QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
@@ -97,7 +97,7 @@ QSpinBox *StageNewDialog::addNumberRow(QFormLayout *pLayout, const QString &strL
     return pBox;
 }
 
-// accept() asks about an existing file, however its name was given.
+// The file dialog does not ask about replacing a file, because accept() does, also for a typed name.
 void StageNewDialog::browse()
 {
     const QString strPath = QFileDialog::getSaveFileName(this, tr("New Project"), getFilePath(),

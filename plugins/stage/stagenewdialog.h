@@ -10,8 +10,8 @@ class QLineEdit;
 class QPushButton;
 class QSpinBox;
 
-/// Asks for the file and the stage of a new project: width, height, frames per second, responsive. OK is
-/// enabled only for a file that can be made.
+/// Asks for the file of a new project and for its stage: width, height, frames per second, responsive; these
+/// are the values of StageDocument::createContent(). OK is enabled only if the file can be created.
 class StageNewDialog : public ICreateDocumentDlg
 {
     Q_OBJECT
@@ -20,14 +20,14 @@ class StageNewDialog : public ICreateDocumentDlg
 public:
     explicit StageNewDialog(QWidget *pParent);
 
-    /// Absolute, with the suffix.
+    /// The path as typed, cleaned, with the suffix ".kelpa" added if it is missing; absolute once accepted.
     [[nodiscard]] QString getFilePath() override;
     [[nodiscard]] int getFirstValue() override;
     [[nodiscard]] int getSecondValue() override;
     [[nodiscard]] int getThirdValue() override;
     [[nodiscard]] bool getFlag() override;
 
-    /// Asks before an existing file is replaced.
+    /// Asks the user first if the file exists; stays open if the user does not want to replace it.
     void accept() override;
 
 private:

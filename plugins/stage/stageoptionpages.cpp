@@ -26,9 +26,9 @@ namespace {
 
 constexpr int s_minIntervalSeconds = 10;
 constexpr int s_maxIntervalSeconds = 24 * 60 * 60;
-constexpr int s_maxBreakpoint = 100000; // pixels, beyond any stage
+constexpr int s_maxBreakpoint = 100000; // pixels; more than any stage has
 
-// Lets only positions be typed.
+// Accepts only valid positions of breakpoints in the lists.
 class PositionDelegate : public QStyledItemDelegate
 {
 public:
@@ -40,7 +40,7 @@ public:
         QWidget *pEditor = QStyledItemDelegate::createEditor(pParent, option, index);
         if (auto *pSpin = qobject_cast<QSpinBox *>(pEditor)) {
             pSpin->setRange(1, s_maxBreakpoint);
-            pSpin->setButtonSymbols(QAbstractSpinBox::NoButtons); // a row is too low for them
+            pSpin->setButtonSymbols(QAbstractSpinBox::NoButtons); // they do not fit into a row's height
         }
         return pEditor;
     }
@@ -72,7 +72,7 @@ DocumentManager::Breakpoints breakpointsOf(const QListWidget *pList)
     return breakpoints;
 }
 
-// An author may have emptied both lists; the built-in ones are only for stores that hold none yet.
+// The built-in lists are only for a store without breakpoints; a stored empty list was emptied by the user.
 std::pair<DocumentManager::Breakpoints, DocumentManager::Breakpoints> storedBreakpoints()
 {
     const QSettings *pSettings = ICore::settings(QSettings::UserScope);
@@ -118,7 +118,7 @@ void StageOptionPage::discardChanges()
     IOptionPage::discardChanges();
 }
 
-// What could not be written stays marked as changed.
+// If the settings cannot be written, the page stays marked as changed.
 void StageOptionPage::saveChanges()
 {
     if (PluginManager::storeSettings(PluginManager::settings()))
@@ -156,7 +156,7 @@ void GeneralOptionPage::fill()
 {
     const QString strSaved = ILanguageManager::getInstance().getSaveLangId();
     const int nIndex = m_pLanguage->findData(strSaved);
-    // Nothing chosen: what is stored is no longer installed.
+    // The index is -1, which selects nothing, if the stored language is no longer installed.
     m_pLanguage->setCurrentIndex(strSaved.isEmpty() ? 0 : nIndex);
 }
 
@@ -200,9 +200,9 @@ void BackupOptionPage::fill()
 void BackupOptionPage::saveChanges()
 {
     DocumentManager::setAutoBackupEnabled(m_pEnable->isChecked());
-    if (m_bIntervalChanged) // one out of the range stays as it is unless the user gave another
+    if (m_bIntervalChanged) // a stored value beyond the spin box's range is kept
         DocumentManager::setAutobackupTimeout(m_pInterval->value());
-    saveSettings(storedBreakpoints()); // it saves them too, and then they are stored
+    saveSettings(storedBreakpoints()); // saveSettings() writes the breakpoints too, so they must be right
     const auto apply =
         m_pEnable->isChecked() ? DocumentManager::startWaitingBackup : DocumentManager::stopWaitingBackup;
     for (IDocument *pDocument : DocumentManager::getDocuments())

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pages that every installation has. They read and write the settings of the core.
+// The preferences pages that every installation has. They read and write the settings of the core.
 #pragma once
 
 #include <ui/ioptionpage.h>
@@ -9,7 +9,7 @@ class QComboBox;
 class QListWidget;
 class QSpinBox;
 
-/// What the stage's own pages share: a change by the user marks the page, filling the controls does not.
+/// Base of the stage's own pages. It marks a page as changed when the user edits it, not when it is filled.
 class StageOptionPage : public IOptionPage
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     void saveChanges() override;
 
 protected:
-    /// Puts what the settings hold into the controls.
+    /// Sets the controls to the values of the settings.
     virtual void fill() = 0;
     void markChanged();
 
@@ -54,7 +54,7 @@ class BackupOptionPage : public StageOptionPage
 public:
     BackupOptionPage();
 
-    /// Open projects follow at once: their wait starts anew or ends.
+    /// Also restarts or stops the backup timers of the open projects.
     void saveChanges() override;
 
 private:
@@ -62,7 +62,7 @@ private:
 
     QCheckBox *m_pEnable;
     QSpinBox *m_pInterval;
-    bool m_bIntervalChanged = false; ///< since it was filled
+    bool m_bIntervalChanged = false; ///< by the user, since fill()
 };
 
 class EditingOptionPage : public StageOptionPage

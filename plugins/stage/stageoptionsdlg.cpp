@@ -20,7 +20,7 @@ StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     , m_pList(new QListWidget(this))
     , m_pStack(new QStackedWidget(this))
 {
-    addPages(); // before the buttons, as Tab goes
+    addPages(); // before the buttons, for the order of Tab
     m_pButtons =
         new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
     setWindowTitle(tr("Preferences"));
@@ -42,7 +42,7 @@ StageOptionsDlg::StageOptionsDlg(QWidget *pParent)
     updateButtons();
 }
 
-// While the pages are whole: an editor gives its value to its page when it dies.
+// An open editor of a list passes its value to its page when it is deleted, so it must end before the page.
 StageOptionsDlg::~StageOptionsDlg()
 {
     endTyping();
@@ -67,7 +67,7 @@ void StageOptionsDlg::addPage(IOptionPage *pPage)
     connect(pPage, &IOptionPage::dataChanged, this, &StageOptionsDlg::updateButtons);
 }
 
-// What the settings say now, whatever was left in the controls.
+// Makes the pages read the settings again when they are shown, so that nothing old is left in the controls.
 void StageOptionsDlg::showDialog()
 {
     if (!isVisible()) {
@@ -81,7 +81,7 @@ void StageOptionsDlg::showDialog()
     activateWindow();
 }
 
-// A value is the control's when the focus leaves what it is typed into.
+// Controls take a typed value when they lose the focus, so the focus is moved to a button.
 void StageOptionsDlg::endTyping()
 {
     if (m_pStack->isAncestorOf(focusWidget()))
@@ -95,7 +95,7 @@ void StageOptionsDlg::onApply()
         if (pPage->isChanged())
             pPage->saveChanges();
         if (pPage->isChanged())
-            break; // told once: the others would go into the same file
+            break; // told only once: other pages would fail with the same file
     }
     updateButtons();
 }
@@ -111,7 +111,7 @@ void StageOptionsDlg::onCancel()
     IOptionsDlg::reject();
 }
 
-// What could not be saved stays before the author, who has been told why.
+// If a page could not be saved, the dialog stays open; the page has told the user why.
 void StageOptionsDlg::onOK()
 {
     onApply();
@@ -119,7 +119,7 @@ void StageOptionsDlg::onOK()
         accept();
 }
 
-// Escape and the window's own close button.
+// Escape and the window's close button come here; both count as Cancel.
 void StageOptionsDlg::reject()
 {
     onCancel();

@@ -7,8 +7,8 @@ class QDialogButtonBox;
 class QListWidget;
 class QStackedWidget;
 
-/// The preferences: a list of pages, its own and those of other plug-ins. Nothing is written before Apply or
-/// OK. The main window keeps it; GUI thread only.
+/// The preferences dialog: a list of pages, its own and those of other plug-ins. Changes are written only by
+/// Apply and OK. It is a child of the main window, which keeps it for the next time. GUI thread only.
 class StageOptionsDlg : public IOptionsDlg
 {
     Q_OBJECT

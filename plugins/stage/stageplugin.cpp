@@ -15,7 +15,7 @@ using ExtensionSystem::PluginManager;
 
 namespace {
 
-// With this group in the store the program knows that it has run before.
+// MainWindow::IsFirstRun() looks for this group, so its name must stay.
 const QString s_geometry = QStringLiteral("Designer/Geometry");
 const QString s_state = QStringLiteral("Designer/State");
 
@@ -30,7 +30,7 @@ void saveWindow()
 
 StagePlugin::StagePlugin() = default;
 
-// The code of the tool bar goes with this library, so the bar must not outlive it.
+// The tool bar's code is in this library, so the bar must be gone before the library is unloaded.
 StagePlugin::~StagePlugin()
 {
     delete m_pToolBar;
@@ -52,7 +52,7 @@ bool StagePlugin::initialize(const QStringList &, QString *errorString)
     return true;
 }
 
-// Every tool bar is there, and the window is not shown yet.
+// At this time every plug-in has added its tool bars, and the window is not shown yet.
 void StagePlugin::extensionsInitialized()
 {
     if (const QSettings *pSettings = ICore::settings(QSettings::UserScope)) {

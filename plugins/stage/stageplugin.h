@@ -10,8 +10,8 @@
 class StageFactory;
 class StageToolBar;
 
-/// Brings the project format "kelpa" into the program: its factory and its tool bar. It also keeps place and
-/// tool bars of the main window from one start to the next.
+/// Adds the project format "kelpa" to the program: its factory and its tool bar. It also saves and restores
+/// the place and the tool bars of the main window.
 class StagePlugin : public ExtensionSystem::IPlugin
 {
     Q_OBJECT
@@ -27,5 +27,5 @@ public:
 
 private:
     std::unique_ptr<StageFactory> m_pFactory;
-    QPointer<StageToolBar> m_pToolBar; ///< the main window's child
+    QPointer<StageToolBar> m_pToolBar; ///< child of the main window
 };

@@ -6,7 +6,7 @@
 #include <QList>
 #include <QString>
 
-/// One shape on the stage. Lengths are stage pixels, angles are degrees clockwise around the middle.
+/// One shape on the stage. Lengths are in stage pixels; angles are in degrees, clockwise around its center.
 struct StageElement
 {
     enum class Type { Rectangle, Ellipse, Text, Image };
@@ -19,7 +19,7 @@ struct StageElement
     double height = 0;
     double rotation = 0;
     double opacity = 1;
-    QColor fill; ///< invalid: none; the colour of the letters of a text
+    QColor fill; ///< invalid: none; for a text, the color of its letters
     QColor stroke; ///< invalid: none
     double strokeWidth = 1;
 
@@ -36,7 +36,7 @@ struct StageElement
     bool operator==(const StageElement &) const = default;
 };
 
-/// Elements from back to front.
+/// One scene; its elements are in order from back to front.
 struct StageScene
 {
     QString name;
@@ -46,7 +46,7 @@ struct StageScene
     bool operator==(const StageScene &) const = default;
 };
 
-/// All that a project file holds, as plain values.
+/// The content of a project file, as plain values.
 struct StageProject
 {
     int width = 1280;

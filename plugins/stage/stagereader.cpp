@@ -20,7 +20,7 @@ using namespace StageFormat;
 
 namespace {
 
-// The wrong value in a message: as it stands in the file, but no longer than a line.
+// A wrong value as it stands in the file, shortened for a message.
 QString shown(const QJsonValue &value)
 {
     if (value.isArray())
@@ -32,8 +32,8 @@ QString shown(const QJsonValue &value)
     return strText.size() > 40 ? strText.left(40) + QStringLiteral("...") : strText;
 }
 
-// Takes the members it knows out of each object; what is left over is kept as unknown. After the first fault
-// it goes on with harmless values, and the result is thrown away.
+// Takes the known members out of each object; the rest is kept as unknown. After the first error it continues
+// with valid substitutes, and the caller discards the result.
 class Parser
 {
     Q_DECLARE_TR_FUNCTIONS(StageReader)
@@ -322,14 +322,13 @@ StageReader::Extent StageReader::extentOf(const QByteArray &text)
             const bool bCloses = c == ']' || c == '}';
             nLevel += c == ',' ? 0 : (bCloses ? -1 : 1);
             extent.nValues += bCloses ? 0 : 1;
-            extent.nIndentation += 2 + 4 * nLevel; // a new line, and a blank after a colon
+            extent.nIndentation += 2 + 4 * nLevel; // 2: a new line, and the blank that may follow a colon
         }
     }
     return extent;
 }
 
-// The values are counted before parsing, since a parsed one takes many times the bytes that it has in the
-// file.
+// The values are counted before parsing, since a parsed value takes many times its size in the file.
 QString StageReader::excess(const QByteArray &text)
 {
     if (text.size() > nMaxFileBytes)
@@ -368,7 +367,7 @@ StageReader::Result StageReader::readFile(const QString &strFileName)
     QFile file(strFileName);
     if (!file.open(QIODevice::ReadOnly))
         return failure(file.errorString());
-    // One byte more than there may be tells that it is too large: some files are longer than they say.
+    // Reads one byte more than allowed: excess() then notices a file that is longer than its reported size.
     const QByteArray text = file.read(nMaxFileBytes + 1);
     if (file.error() != QFileDevice::NoError)
         return failure(file.errorString());

@@ -5,17 +5,17 @@
 
 #include <optional>
 
-/// Reads project files and trusts nothing in them.
+/// Reads project files. Every value is checked, since a file may be damaged or hostile.
 namespace StageReader {
 
-/// A project, or the place in the file and the reason why there is none.
+/// A project, or if there is none, the place in the file and the reason as text for the user.
 struct Result
 {
     std::optional<StageProject> project;
     QString error;
 };
 
-/// The JSON values in a text without blanks, and the bytes that indentation would add to it, or some more.
+/// Upper bounds for a JSON text: its number of values, and the bytes that indenting a compact text adds.
 struct Extent
 {
     int nValues = 1;
@@ -23,13 +23,13 @@ struct Extent
 };
 [[nodiscard]] Extent extentOf(const QByteArray &text);
 
-/// Why a text is too large for fromJson(); empty when it is not.
+/// Why a text is too large for fromJson(), as text for the user; empty if it is not.
 [[nodiscard]] QString excess(const QByteArray &text);
 
-/// Paths of images are taken as relative to `strFolder`.
+/// Relative paths of images are resolved against `strFolder`.
 [[nodiscard]] Result fromJson(const QByteArray &text, const QString &strFolder);
 
-/// Never waits: what is not a regular file is refused.
+/// Refuses everything but regular files, because reading a pipe or a device could block the program.
 [[nodiscard]] Result readFile(const QString &strFileName);
 
 } // namespace StageReader

@@ -8,7 +8,7 @@
 StageSubWindow::StageSubWindow(QWidget *pParent)
     : QMdiSubWindow(pParent)
 {
-    // Its menu has the keys of the command that closes the project: neither would fire.
+    // Two actions with one shortcut block each other; this menu's Close has that of the program's Close.
     const auto actions = systemMenu()->actions();
     for (QAction *pAction : actions)
         pAction->setShortcuts(QList<QKeySequence>());

@@ -3,7 +3,7 @@
 
 #include <QMdiSubWindow>
 
-/// A sub-window that leaves it to its owner whether it closes.
+/// A sub-window that does not close by itself; its owner decides and deletes it.
 class StageSubWindow : public QMdiSubWindow
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     explicit StageSubWindow(QWidget *pParent = nullptr);
 
 signals:
-    /// The user wants it closed. The receiver may delete the window later, not within the signal.
+    /// The user wants to close it. The receiver may use deleteLater(), but not delete it within the signal.
     void closeRequested();
 
 protected:

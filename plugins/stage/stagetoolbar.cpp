@@ -58,7 +58,7 @@ ActionContainer *editMenu()
     return ActionManager::getActionContainer(QStringLiteral("MenuBar.Edit"));
 }
 
-// Asks for a file and takes the image's own size, or one that fits when that is unknown or large.
+// Asks for a file and sets the image's own size: 200 by 200 if it is unknown, scaled to 600 by 600 at most.
 bool chooseImage(QWidget *pParent, StageElement &element)
 {
     element.source = QFileDialog::getOpenFileName(pParent, StageToolBar::tr("Add Image"), QString(),
@@ -100,7 +100,7 @@ StageToolBar::~StageToolBar()
         ActionManager::unregisterAction(it.value(), it.key());
 }
 
-// The bar shows the command, and the menu has it before the preferences.
+// Adds the command to this bar, and to the menu "Edit" before the preferences.
 void StageToolBar::addCommand(
     const QString &strId, QAction *pAction, const QString &strDescription, QKeySequence::StandardKey key)
 {
@@ -129,7 +129,7 @@ void StageToolBar::addUndoCommands()
         pMenu->insertSeparator(ActionManager::getAction(s_preferences));
 }
 
-// The view itself takes the Delete key, so that it still deletes letters elsewhere.
+// Delete gets no shortcut, which would take the key from text fields; StageView handles the key itself.
 void StageToolBar::addElementActions()
 {
     for (const ElementAction &row : elementActions) {
@@ -195,7 +195,7 @@ void StageToolBar::addElement(StageElement::Type type)
     element.height = row.nHeight;
     element.fill = QColor(QLatin1String(row.pFill));
     element.text = type == StageElement::Type::Text ? tr("Text") : QString();
-    // While the dialog is open its editor may go, or another be activated.
+    // While the file dialog is open, the editor may be deleted, or another one activated.
     const QPointer<StageEditor> pEditor = qobject_cast<StageEditor *>(m_pEditor);
     if (type == StageElement::Type::Image && !chooseImage(ICore::getMainWindow(), element))
         return;

@@ -11,8 +11,8 @@ class IEditor;
 class MainWindow;
 class StageEditor;
 
-/// What can be done on the stage of the active editor, as commands that live as long as the bar and are in
-/// the menu "Edit" too: the bar can be hidden. The main window owns it. GUI thread only.
+/// The tool bar with the commands for the stage of the active editor. They are in the menu "Edit" as well,
+/// because the bar can be hidden, and live as long as the bar. The main window owns it. GUI thread only.
 class StageToolBar : public QToolBar
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private:
     void addElement(StageElement::Type type);
 
     QPointer<IEditor> m_pEditor;
-    QMap<QString, QAction *> m_commands; // by id
+    QMap<QString, QAction *> m_commands; ///< by command id
     QAction *m_pDelete = nullptr;
     QList<QAction *> m_addActions;
 };

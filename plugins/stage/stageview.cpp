@@ -22,7 +22,7 @@ namespace {
 constexpr double dMinZoom = 0.02;
 constexpr double dMaxZoom = 32;
 constexpr double dZoomStep = 1.25;
-constexpr double dMargin = 20; // of the desk around the stage, in stage pixels
+constexpr double dMargin = 20; // around the stage, in stage pixels
 constexpr QColor deskColor(0x4a, 0x4f, 0x57);
 
 struct StepKey
@@ -56,7 +56,7 @@ StageView::StageView(IDocument *pDocument, StageModel *pModel, QWidget *pParent)
     setDragMode(RubberBandDrag);
     setTransformationAnchor(AnchorUnderMouse);
     setBackgroundBrush(deskColor);
-    setAcceptDrops(false); // a project dropped on the stage is for the main window
+    setAcceptDrops(false); // leaves a dropped project file to the main window
     connect(pModel, &StageModel::reset, this, &StageView::rebuild);
     connect(pModel, &StageModel::elementInserted, this, &StageView::insertItem);
     connect(pModel, &StageModel::elementRemoved, this, &StageView::removeItem);
@@ -65,7 +65,7 @@ StageView::StageView(IDocument *pDocument, StageModel *pModel, QWidget *pParent)
     rebuild();
 }
 
-// The scene dies with the children and would tell a view that is none any more.
+// The scene is deleted as a child, after this destructor, and would signal a view that is partly destroyed.
 StageView::~StageView()
 {
     disconnect(scene(), nullptr, this, nullptr);
@@ -94,7 +94,7 @@ void StageView::rebuild()
     viewport()->update();
 }
 
-// A fixed rectangle, so that a far away element does not change what "fit" shows.
+// The rectangle is fixed, so that an element far away from the stage does not change what zoomToFit() shows.
 void StageView::updateSceneRect()
 {
     scene()->setSceneRect(stageRect().adjusted(-dMargin, -dMargin, dMargin, dMargin));
@@ -102,7 +102,7 @@ void StageView::updateSceneRect()
         zoomToFit();
 }
 
-// An edit of another scene, by undo or redo, brings that scene into sight.
+// Undo and redo may change another scene; the view then switches to that scene.
 void StageView::insertItem(int nScene, int nIndex)
 {
     if (nScene != m_nScene)
@@ -210,8 +210,7 @@ void StageView::submitMoves(const QList<StageMoveCommand::Move> &moves, StageMov
     describeSelection();
 }
 
-// While the button is down the scene moves its items freely; the release makes one command of it, in whole
-// pixels.
+// While the button is down, QGraphicsScene moves the items; releasing it makes one command, in whole pixels.
 void StageView::mouseReleaseEvent(QMouseEvent *pEvent)
 {
     QGraphicsView::mouseReleaseEvent(pEvent);
@@ -263,7 +262,7 @@ bool StageView::handleKey(int nKey, Qt::KeyboardModifiers modifiers)
     return true;
 }
 
-// Tab stays among the elements; Escape is the way out.
+// Tab goes from element to element and never leaves the view, so Escape without a selection does.
 void StageView::leaveOrDeselect()
 {
     if (scene()->selectedItems().isEmpty())
@@ -285,7 +284,7 @@ bool StageView::focusNextPrevChild(bool bNext)
     return true;
 }
 
-// What a screen reader tells about the stage.
+// Sets the description that a screen reader reads for the stage, and announces the selection.
 void StageView::describeSelection()
 {
     const QList<int> selected = selectedElements();
@@ -338,7 +337,7 @@ void StageView::drawBackground(QPainter *pPainter, const QRectF &rect)
     pPainter->fillRect(stageRect(), background.isValid() ? background : QColor(Qt::white));
 }
 
-// What lies beside the stage will not be seen by an audience: it shines through only.
+// Dims what lies beside the stage, because a published page does not show it.
 void StageView::drawForeground(QPainter *pPainter, const QRectF &rect)
 {
     if (!m_pModel)

@@ -10,8 +10,8 @@ class IDocument;
 class StageItem;
 class StageModel;
 
-/// One scene of a project, to look at and to work on. Every edit becomes a command of the document; the view
-/// itself changes nothing but selection and zoom. It may outlive both document and model. GUI thread only.
+/// Shows one scene of a project for editing. Every edit is submitted to the document as a command; the view
+/// itself changes only selection and zoom. It may outlive both document and model. GUI thread only.
 class StageView : public QGraphicsView
 {
     Q_OBJECT
@@ -29,13 +29,13 @@ public:
     void selectElements(const QList<int> &indexes);
     void selectAll();
 
-    /// Gives the element a free id, puts it in the middle of the stage and selects it. False: the project is
-    /// full.
+    /// Gives the element a free id, puts it in the center of the stage and selects it. False if the project
+    /// has as many elements as the format allows, or is gone.
     bool addElement(StageElement element);
     void deleteSelected();
     void moveSelected(double dx, double dy);
 
-    /// The whole stage in sight, also after the view changes its size, until another zoom is chosen.
+    /// Shows the whole stage, and keeps doing so when the view is resized, until zoomBy().
     void zoomToFit();
     void zoomBy(double dFactor);
 

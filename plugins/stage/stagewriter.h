@@ -9,11 +9,11 @@ struct StageProject;
 /// Writes project files.
 namespace StageWriter {
 
-/// The text of a project file, without indentation when that would make it larger than a file may be. Images
-/// under and beside `strFolder`, where the file will lie, become relative to it.
+/// The text of a project file; not indented if that would make it larger than a file may be. Paths of images
+/// become relative to `strFolder`, the folder of the file, unless they are on another drive.
 [[nodiscard]] QByteArray toJson(const StageProject &project, const QString &strFolder);
 
-/// As FileWriter::write(). What the reader would refuse as too large is not written.
+/// As FileWriter::write(), but returns StageReader::excess() and writes nothing if the text is too large.
 [[nodiscard]] QString writeFile(const StageProject &project, const QString &strFileName);
 
 } // namespace StageWriter
