@@ -39,26 +39,21 @@ private slots:
         QCOMPARE(ActionManager::getActionContainer("MenuBar.Paths"), nullptr);
     }
 
-    void garbageInTheStoreGivesTheDefault_data()
-    {
-        const auto row = columns<QVariant>("stored");
-        row("a word", "Nonsense");
-        row("a good and a bad key", "Ctrl+A, Bogus");
-        row("a hundred thousand letters", QString(100000, 'x'));
-        row("bytes that are no text", QByteArray("\xff\xfe\0\x01", 4));
-    }
     void garbageInTheStoreGivesTheDefault()
     {
-        QFETCH(QVariant, stored);
-        m_program.settings().setValue("Shortcuts/Edit.Garbage", stored);
-        QTest::ignoreMessage(
-            QtWarningMsg, QRegularExpression("user.ini: the shortcut of Edit.Garbage is no key"));
-        m_program.settings().setValue("Shortcuts/Edit.Absent", stored);
-        Registered command("Edit.Garbage", m_program.window());
-        command.pCommand->setDefaultKeySequence(keys("Ctrl+B"));
-        QCOMPARE(command.pCommand->getKeySequence(), keys("Ctrl+B"));
-        ActionManager::saveSettings();
-        QVERIFY(m_program.settings().contains("Shortcuts/Edit.Absent"));
+        const QVariant garbage[] = {
+            "Nonsense", "Ctrl+A, Bogus", QString(100000, 'x'), QByteArray("\xff\xfe\0\x01", 4)};
+        for (const QVariant &stored : garbage) {
+            for (const char *pKey : {"Shortcuts/Edit.Garbage", "Shortcuts/Edit.Absent"})
+                m_program.settings().setValue(pKey, stored);
+            QTest::ignoreMessage(
+                QtWarningMsg, QRegularExpression("user.ini: the shortcut of Edit.Garbage is no key"));
+            Registered command("Edit.Garbage", m_program.window());
+            command.pCommand->setDefaultKeySequence(keys("Ctrl+B"));
+            QCOMPARE(command.pCommand->getKeySequence(), keys("Ctrl+B"));
+            ActionManager::saveSettings();
+            QCOMPARE(m_program.settings().value("Shortcuts/Edit.Absent"), stored);
+        }
     }
 
     // The next window often gets the address of the former one.

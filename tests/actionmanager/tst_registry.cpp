@@ -9,19 +9,23 @@ namespace {
 
 using Action = QPointer<QAction>;
 
-// What menus and tool bars show of an action.
+// What menus and tool bars show of an action. The tool tip is the last of the texts.
 struct Look
 {
-    bool bEnabled = false, bVisible = true, bCheckable = false, bChecked = false;
-    QString text, iconText, toolTip;
+    bool bEnabled = false, bVisible = true, bCheckable = false, bChecked = false, bSeparator = false;
+    QString icons, texts;
+    QAction::MenuRole role = QAction::NoRole;
 
     bool operator==(const Look &) const = default;
 };
 
 Look lookOf(const QAction *p)
 {
-    return {p->isEnabled(), p->isVisible(), p->isCheckable(), p->isChecked(), p->text(), p->iconText(),
-        p->toolTip()};
+    const auto icons = QStringList {p->iconText(), QString::number(p->icon().cacheKey())}.join('|')
+        + (p->isIconVisibleInMenu() ? "|in menus" : "");
+    const QStringList texts {p->text(), p->statusTip(), p->whatsThis(), p->toolTip()};
+    return {p->isEnabled(), p->isVisible(), p->isCheckable(), p->isChecked(), p->isSeparator(), icons,
+        texts.join('|'), p->menuRole()};
 }
 
 // What a command is to do, by the book: every command is looked at on every change of context.
@@ -31,7 +35,7 @@ struct ModelCommand
     std::map<QWidget *, Action> actions;
     QWidget *pCurrent = nullptr;
     QKeySequence keys, builtIn;
-    bool bHides = false, bMirrorsText = false, bMirrorsIcon = false;
+    bool bHides = false, bMirrorsText = false, bMirrorsIcon = false, bTipShowsKeys = true;
 
     void point(QWidget *pContext, QWidget *pMain)
     {
@@ -46,18 +50,18 @@ struct ModelCommand
         if (!pAction)
             return;
         const Look before = std::exchange(look, lookOf(pAction));
-        if (!bMirrorsText) {
-            look.text = before.text;
-            look.toolTip = before.toolTip;
-        }
+        look.bSeparator = before.bSeparator;
+        look.role = before.role;
+        if (!bMirrorsText)
+            look.texts = before.texts;
         if (!bMirrorsIcon)
-            look.iconText = before.iconText;
+            look.icons = before.icons;
     }
     [[nodiscard]] Look shown() const
     {
         Look result = look;
-        if (!keys.isEmpty())
-            result.toolTip += '\t' + keys.toString(QKeySequence::NativeText);
+        if (bTipShowsKeys && !keys.isEmpty())
+            result.texts += '\t' + keys.toString(QKeySequence::NativeText);
         return result;
     }
     QAction *live() const { return actions.count(pCurrent) ? actions.at(pCurrent).data() : nullptr; }
@@ -70,7 +74,15 @@ struct Model
     std::vector<Context> contexts;
     std::map<QString, ModelCommand> commands;
     std::map<QString, QString> store;
-    QStringList told; ///< the ids of commands that came, and nothing for each change of the list
+    QStringList told; ///< the ids of commands that came, and of all for each change of the list
+
+    [[nodiscard]] QString ids() const
+    {
+        QStringList ids;
+        for (const auto &[strId, command] : commands)
+            ids.append(strId);
+        return ids.join(' ');
+    }
 
     void setContext(QWidget *pWidget)
     {
@@ -89,7 +101,7 @@ struct Model
             command.keys = QKeySequence(store.at(strId), QKeySequence::NativeText);
         command.actions.emplace(pWidget, pAction);
         command.point(pWidget, pMain);
-        told.append({QString(), strId});
+        told.append({ids(), strId});
     }
 
     void remove(QAction *pAction, const QString &strId)
@@ -102,7 +114,7 @@ struct Model
         command.point(command.pCurrent, pMain);
         if (command.actions.empty())
             commands.erase(strId);
-        told.append(QString());
+        told.append(ids());
     }
 
     QWidget *activeContext(QWidget *pWidget) const
@@ -137,7 +149,11 @@ private slots:
         m_program.window()->installEventFilter(this);
         m_nOwnActions = m_program.window()->actions().size();
         const auto *pManager = ActionManager::getInstance();
-        connect(pManager, &ActionManager::commandListChanged, this, [this] { m_told.append(QString()); });
+        connect(pManager, &ActionManager::commandListChanged, this, [this] {
+            m_told.append(ids());
+            if (!m_bListens)
+                compare();
+        });
         connect(pManager, &ActionManager::commandAdded, this, [this](auto strId) { m_told.append(strId); });
     }
 
@@ -172,21 +188,40 @@ private slots:
         QVERIFY(ContextManager::getContexts().isEmpty());
     }
 
-    void aCommandOfAPanelIsOffElsewhereAndComesBack()
+    void aNewProxyHasTheLookOnly()
     {
-        QWidget panel;
-        QAction stranger;
-        Registered local("Cells.Merge", &panel);
-        const QSignalSpy spy(local.pCommand, &ContextAction::activeStateChanged);
-        ActionManager::setContext(nullptr);
-        QCOMPARE(spy.size(), 1);
-        QVERIFY(!local.proxy()->isEnabled() && local.pCommand->isActive());
-        Registered global("Cells.Merge", m_program.window());
-        global.proxy()->setAction(&stranger);
-        ActionManager::setContext(&panel);
-        QCOMPARE(local.proxy()->action(), &local.action);
-        local.pCommand->setVisible(false);
-        QVERIFY(!global.action.isVisible() && !local.action.isVisible() && !local.proxy()->isVisible());
+        ProxyAction proxy(nullptr);
+        QAction action("Copy");
+        action.setCheckable(true);
+        action.setChecked(true);
+        proxy.initialize(&action);
+        QCOMPARE(proxy.text(), "Copy");
+        QVERIFY(proxy.isCheckable() && !proxy.isEnabled() && !proxy.isChecked());
+    }
+
+    // Its own end, and that of its action, while it tells that it changed. Where it points from then on, a
+    // change that it still tells of does not go.
+    void aProxySurvivesItsListeners()
+    {
+        const QPointer<ProxyAction> pProxy = new ProxyAction(nullptr);
+        auto pAction = std::make_unique<QAction>();
+        QAction next, last;
+        pAction->setCheckable(true);
+        next.setCheckable(true);
+        last.setCheckable(true);
+        pProxy->setAction(pAction.get());
+        auto connection = connect(pProxy, &QAction::changed, this, [&] { pAction.reset(); });
+        pAction->setChecked(true);
+        QVERIFY(!pAction);
+        disconnect(connection);
+        pProxy->setAction(&next);
+        connection = connect(pProxy, &QAction::changed, &last, [&] { pProxy->setAction(&last); });
+        next.setChecked(true);
+        QVERIFY(next.isChecked() && !last.isChecked() && !pProxy->isChecked());
+        disconnect(connection);
+        connect(pProxy, &QAction::changed, this, [&] { delete pProxy; });
+        pProxy->setAction(&next);
+        QVERIFY(!pProxy);
     }
 
     void whatIsNoActionIsRefused()
@@ -212,14 +247,17 @@ private slots:
         QFETCH(bool, listens);
         m_random.seed(seed);
         m_bListens = listens;
-        for (int i = 0; i < 4000; ++i) {
-            const int nStep = below(listens ? 10 : 15);
+        for (int i = 0; i < 2000; ++i) {
+            const int nStep = below(listens ? 10 : 20);
             m_nReactions = listens ? 3 : 0;
             step(nStep);
             m_nReactions = 0;
             if (listens)
                 settle();
             compare();
+            const QStringList told = std::exchange(m_told, {}), toTell = std::exchange(m_model.told, {});
+            if (!listens)
+                QCOMPARE(told, toTell);
             if (QTest::currentTestFailed()) {
                 qInfo("after step %d of kind %d", i, nStep);
                 return;
@@ -243,7 +281,14 @@ private slots:
     }
 
 private:
-    int below(int nEnd) { return static_cast<int>(m_random.bounded(nEnd)); }
+    int below(qsizetype nEnd) { return static_cast<int>(m_random.bounded(static_cast<int>(nEnd))); }
+    static QString ids()
+    {
+        QStringList ids;
+        for (const ContextAction *pCommand : ActionManager::getActions())
+            ids.append(pCommand->getId());
+        return ids.join(' ');
+    }
     QString anyText() { return QString("&Do %1...").arg(below(9)); }
     QString anyId() { return QString("Test.%1").arg(below(10)); }
     QKeySequence anyKeys()
@@ -262,9 +307,10 @@ private:
         static constexpr void (tst_Registry::*s_steps[])() = {&tst_Registry::createPanel,
             &tst_Registry::createOrDestroyPanel, &tst_Registry::focusAny, &tst_Registry::focusRest,
             &tst_Registry::registerAny, &tst_Registry::registerAny, &tst_Registry::registerAny,
-            &tst_Registry::unregisterAny, &tst_Registry::destroyAny, &tst_Registry::toggleAny,
+            &tst_Registry::unregisterAny, &tst_Registry::destroyAny, &tst_Registry::changeAny,
             &tst_Registry::changeKeys, &tst_Registry::save, &tst_Registry::read, &tst_Registry::reset,
-            &tst_Registry::trigger, &tst_Registry::changeContext};
+            &tst_Registry::changeContext, &tst_Registry::trigger, &tst_Registry::trigger,
+            &tst_Registry::changeAny, &tst_Registry::changeAny, &tst_Registry::changeByHand};
         const auto pStep = s_steps[nKind];
         (this->*pStep)();
     }
@@ -317,6 +363,9 @@ private:
             pAction = new QAction(anyText());
             pAction->setEnabled(below(4));
             pAction->setCheckable(below(2));
+            pAction->setSeparator(!below(9));
+            pAction->setIconVisibleInMenu(below(2)); // which Qt does not always tell of
+            pAction->setMenuRole(QAction::MenuRole(below(3)));
             connect(pAction, &QAction::triggered, this, [this, pAction] { fired(pAction); });
             m_actions.push_back(pAction);
         }
@@ -324,6 +373,11 @@ private:
         QWidget *pContext = anyContext();
         m_model.add(pAction, strId, pContext);
         ContextAction *pCommand = ActionManager::registerAction(pAction, strId, pContext, false);
+        if (pCommand && !pCommand->property("active").isValid())
+            pCommand->setProperty("active", isActive(pCommand));
+        if (pCommand)
+            connect(pCommand, &ContextAction::activeStateChanged, this, &tst_Registry::noteActive,
+                Qt::UniqueConnection);
         if (m_bListens) {
             QAction *pProxy = pCommand ? pCommand->getAction() : new QAction(this);
             connect(pProxy, &QAction::changed, this, &tst_Registry::react, Qt::UniqueConnection);
@@ -345,6 +399,19 @@ private:
         command.point(pContext, m_model.pMain);
     }
 
+    static bool isActive(const ContextAction *pCommand)
+    {
+        const QAction *pProxy = pCommand->getAction();
+        return pProxy->isEnabled() && pProxy->isVisible() && !pProxy->isSeparator();
+    }
+
+    void noteActive()
+    {
+        auto *pCommand = static_cast<ContextAction *>(sender());
+        QVERIFY(pCommand->property("active").toBool() != isActive(pCommand));
+        pCommand->setProperty("active", isActive(pCommand));
+    }
+
     void mirror(ProxyAction *pProxy, ProxyAction::Attribute attribute, bool *pMirrors)
     {
         *pMirrors = below(2);
@@ -362,7 +429,7 @@ private:
     void react()
     {
         if (m_nReactions > 0 && m_nReactions-- > 0)
-            step(QList<int> {4, 7, 9, 15}.at(below(4)));
+            step(QList<int> {4, 7, 9, 14}.at(below(4)));
     }
 
     // Whatever the listeners did, a command looks like its action, and the next change of context is by the
@@ -399,22 +466,53 @@ private:
         delete pAction;
     }
 
-    void toggleAny()
+    void changeAny()
     {
+        static const QVariant s_icons[] = {QIcon(QPixmap(1, 1)), QIcon(QPixmap(2, 2))};
+        static constexpr const char *s_properties[] = {"enabled", "visible", "checkable", "checked", "icon",
+            "text", "iconText", "toolTip", "statusTip", "whatsThis"};
         QAction *pAction = anyAction();
-        const int nKind = below(5);
-        if (pAction && nKind == 0)
-            pAction->setEnabled(!pAction->isEnabled());
-        else if (pAction && nKind == 1)
-            pAction->setVisible(!pAction->isVisible());
-        else if (pAction && nKind == 2)
-            pAction->setText(anyText());
-        else if (pAction && nKind == 3)
-            pAction->setIconText(anyText());
-        else if (pAction && pAction->isCheckable())
-            pAction->toggle();
+        const int n = below(std::size(s_properties)), nOn = below(2);
+        if (pAction)
+            pAction->setProperty(s_properties[n],
+                n < 4        ? QVariant(nOn == 1)
+                    : n == 4 ? s_icons[nOn]
+                             : anyText());
     }
-    void changeContext() { ActionManager::setContext(anyContext()); }
+
+    // What a plug-in does to a command, or to its proxy behind its back.
+    void changeByHand()
+    {
+        const QString strId = anyId();
+        QAction *pAction = anyAction();
+        const int nKind = below(4);
+        const bool bOn = below(2);
+        ContextAction *pCommand = ActionManager::getAction(strId);
+        if (!pCommand || !pAction)
+            return;
+        ModelCommand &command = m_model.commands.at(strId);
+        auto *pProxy = static_cast<ProxyAction *>(pCommand->getAction());
+        if (nKind == 0) {
+            pProxy->setToolTip("by hand");
+        } else if (nKind == 1) {
+            pProxy->setShortcutVisibleInToolTip(command.bTipShowsKeys = bOn);
+        } else if (nKind == 2) {
+            pCommand->setVisible(bOn);
+            for (const auto &[pContext, pOne] : command.actions)
+                QVERIFY(!pOne || pOne->isVisible() == bOn);
+        } else {
+            pProxy->setAction(pAction);
+            command.follow(pAction);
+            m_model.setContext(nullptr);
+            ActionManager::setContext(nullptr);
+        }
+    }
+    void changeContext()
+    {
+        QWidget *pContext = below(4) ? anyContext() : nullptr;
+        m_model.setContext(pContext);
+        ActionManager::setContext(pContext);
+    }
     void destroyAny() { destroyAction(below(3) ? nullptr : anyAction()); }
     void unregisterAny() { unregister(anyAction(), anyId()); }
     void focusRest() { focus(m_pRest); }
@@ -434,6 +532,8 @@ private:
     void save()
     {
         for (const auto &[strId, command] : m_model.commands) {
+            if (command.look.bSeparator)
+                continue;
             m_model.store.erase(strId);
             if (!command.keys.isEmpty())
                 m_model.store[strId] = command.keys.toString(QKeySequence::PortableText);
@@ -443,15 +543,19 @@ private:
 
     void read()
     {
-        for (auto &[strId, command] : m_model.commands)
-            command.keys = QKeySequence(m_model.store[strId], QKeySequence::NativeText);
+        for (auto &[strId, command] : m_model.commands) {
+            if (!command.look.bSeparator)
+                command.keys = QKeySequence(m_model.store[strId], QKeySequence::NativeText);
+        }
         ActionManager::readFromSettings();
     }
 
     void reset()
     {
-        for (auto &[strId, command] : m_model.commands)
-            command.keys = command.builtIn;
+        for (auto &[strId, command] : m_model.commands) {
+            if (!command.look.bSeparator)
+                command.keys = command.builtIn;
+        }
         ActionManager::resetToDefault();
     }
 
@@ -459,6 +563,7 @@ private:
     void fired(QAction *pAction)
     {
         m_fired.push_back(pAction);
+        QCOMPARE(ExtensionSystem::PluginManager::setActivity({}), m_strTriggered);
         if (m_bUnregisterOnFire)
             unregister(pAction, m_strTriggered);
     }
@@ -469,47 +574,44 @@ private:
         m_fired.clear();
         m_strTriggered = strId;
         m_bUnregisterOnFire = !below(4);
+        const bool bToggles = !below(3);
         std::vector<QAction *> expected;
         if (m_model.commands.count(strId)) {
             Look &look = m_model.commands.at(strId).look;
             QAction *pLive = m_model.commands.at(strId).live();
-            if (pLive && pLive->isEnabled())
+            const bool bReacts = bToggles || (pLive ? pLive->isEnabled() : look.bEnabled);
+            const bool bChecked = pLive && pLive->isChecked() != (bReacts && pLive->isCheckable());
+            if (pLive && bReacts && !bToggles)
                 expected.push_back(pLive);
-            else if (look.bEnabled && look.bCheckable) // of an action that died
+            else if (!pLive && bReacts && look.bCheckable) // of an action that died
                 look.bChecked = !look.bChecked;
-            ActionManager::getAction(strId)->getAction()->trigger();
+            QAction *pProxy = ActionManager::getAction(strId)->getAction();
+            bToggles ? pProxy->toggle() : pProxy->trigger();
+            QVERIFY(!pLive || pLive->isChecked() == bChecked);
         }
         QCOMPARE(m_fired, expected);
     }
 
     void compare()
     {
-        QStringList ids;
-        for (const ContextAction *pCommand : ActionManager::getActions())
-            ids.append(pCommand->getId());
-        QStringList expected;
+        QCOMPARE(ids(), m_model.ids());
         for (auto &[strId, command] : m_model.commands) {
-            expected.append(strId);
             command.follow(command.live());
             const ContextAction *pCommand = ActionManager::getAction(strId);
-            QVERIFY(pCommand);
             const auto *pProxy = static_cast<const ProxyAction *>(pCommand->getAction());
             QCOMPARE(pProxy->action(), command.live());
             looksLikeItsAction(pProxy);
             QCOMPARE(pProxy->isEnabled(), command.look.bEnabled);
             if (!m_bListens)
                 QCOMPARE(lookOf(pProxy), command.shown());
+            if (pCommand->property("active").isValid())
+                QCOMPARE(pCommand->property("active").toBool(), isActive(pCommand));
             QCOMPARE(pProxy->objectName(), strId);
             QCOMPARE(pProxy->shortcutContext(), Qt::ApplicationShortcut);
             QVERIFY(m_program.window()->actions().contains(pCommand->getAction()));
             QCOMPARE(pCommand->getKeySequence(), command.keys);
         }
-        QCOMPARE(ids, expected);
-        QCOMPARE(m_program.window()->actions().size(), m_nOwnActions + ids.size());
-        const QStringList told = std::exchange(m_told, {});
-        const QStringList toTell = std::exchange(m_model.told, {});
-        if (!m_bListens)
-            QCOMPARE(told, toTell);
+        QCOMPARE(m_program.window()->actions().size(), m_nOwnActions + qsizetype(m_model.commands.size()));
     }
 
     Program m_program;

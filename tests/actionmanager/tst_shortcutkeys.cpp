@@ -39,6 +39,25 @@ private slots:
             expected[i] = 1;
             QTRY_COMPARE(fired(), expected);
         }
+        // What its context disables does not fire, nor does the global one for it.
+        left.action.setEnabled(false);
+        focus(m_pLeft);
+        press("Ctrl+G");
+        focus(m_pRight);
+        press("Ctrl+G");
+        expected[1] = 2;
+        QTRY_COMPARE(fired(), expected);
+        // A menu that takes the focus leaves the context as it is.
+        QWidget *pParent = m_pRight->parentWidget();
+        for (QWidget *pMenu :
+            {static_cast<QWidget *>(new QMenu(pParent)), static_cast<QWidget *>(new QMenuBar(pParent))}) {
+            const std::unique_ptr<QWidget> menu(pMenu);
+            pMenu->setWindowFlags(Qt::Widget);
+            pMenu->show();
+            focus(pMenu);
+            QCOMPARE(left.proxy()->action(), &right.action);
+            focus(m_pRight);
+        }
     }
 
     void sharedKeysGoToTheCommandThatHadThemFirst()
