@@ -36,6 +36,7 @@ struct CommandRow
     bool bEnabled = true;
     // As SLOT() gives it, which in a debug build no constant takes. Null: a plug-in connects it.
     const char *pSlot = nullptr;
+    bool bTranslatesId = false; // plug-ins that look the command up pass its id through tr() as well
 };
 
 namespace {
@@ -71,11 +72,10 @@ constexpr MenuRow s_menus[] = {
     {"MenuBar.Help", QT_TRANSLATE_NOOP("MainWindow", "&Help"), true},
 };
 
-// The id of "File.New" can be translated: plug-ins that look the command up pass it through tr() as well.
 constexpr CommandRow s_entries[] = {
     {"MenuBar.File", QT_TRANSLATE_NOOP("MainWindow", "File.New"), QT_TRANSLATE_NOOP("MainWindow", "&New"),
-        Key::New, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true,
-        "1fileNew()"},
+        Key::New, nullptr, QT_TRANSLATE_NOOP("MainWindow", "Create a new project"), "new", true, "1fileNew()",
+        true},
     {"MenuBar.File", "File.Open_Project", QT_TRANSLATE_NOOP("MainWindow", "&Open Project"), Key::Open,
         nullptr, QT_TRANSLATE_NOOP("MainWindow", "Open an existing project"), "open", true, "1fileOpen()"},
     {"MenuBar.File", "File.Recent_Projects"},
@@ -157,8 +157,7 @@ void MainWindow::initActions()
 
 void MainWindow::createCommand(const CommandRow &row)
 {
-    // The first row's id is translated, every other id stands as it is.
-    const QString strId = &row == s_entries ? tr(row.pId) : QString::fromLatin1(row.pId);
+    const QString strId = row.bTranslatesId ? tr(row.pId) : QString::fromLatin1(row.pId);
     auto *pAction = new QAction(tr(row.pText), this);
     pAction->setEnabled(row.bEnabled);
     if (row.pIcon) {

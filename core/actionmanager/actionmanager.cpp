@@ -97,10 +97,8 @@ QList<ContextAction *> ActionManager::getActions()
 
 ActionContainer *ActionManager::createMenuContainer(const QString &strId, const QString &strTitle)
 {
-    if (!s_pInstance || strId.isEmpty())
-        return nullptr;
-    if (ActionContainer *pContainer = getActionContainer(strId))
-        return pContainer;
+    if (!s_pInstance || strId.isEmpty() || getActionContainer(strId))
+        return getActionContainer(strId);
     auto *pMenu = new QMenu(strTitle);
     auto *pContainer = new MenuActionContainer(strId);
     pContainer->setMenu(pMenu);
@@ -109,10 +107,8 @@ ActionContainer *ActionManager::createMenuContainer(const QString &strId, const 
 
 ActionContainer *ActionManager::createMenuBarContainer(const QString &strId)
 {
-    if (!s_pInstance || strId.isEmpty())
-        return nullptr;
-    if (ActionContainer *pContainer = getActionContainer(strId))
-        return pContainer;
+    if (!s_pInstance || strId.isEmpty() || getActionContainer(strId))
+        return getActionContainer(strId);
     auto *pMenuBar = new QMenuBar;
     auto *pContainer = new MenuBarActionContainer(strId);
     pContainer->setMenuBar(pMenuBar);
