@@ -110,17 +110,12 @@ private slots:
             "Missing value after '--depth'.\n");
         row("leaving out a dependency stops its user", "--no-load base --plugin-path " TEST_ROOT "/minimal",
             0, "done", "phase resolve: needs base, which was left out\n");
-        row("what is loaded brings what it needs", "--load anchor", 0, "base initialize\nanchor initialize",
-            "");
         row("an unknown plug-in to load is told", "--load anchor --load whale", 0, "done",
             "\"whale\", phase resolve: named on the command line, but there is no such plug-in\n");
         row("nothing left to run ends the start", "--no-load base", 1, "",
             "Host cannot start.\nNo plug-in could be loaded");
         row("a missing folder is told", "--plugin-path /no/such", 0, "done",
             "/no/such, phase read: there is no such folder\n");
-        row("the first of two with one name wins", "--plugin-path " TEST_ROOT "/double", 0,
-            "anchor initialize",
-            "phase resolve: a plug-in of this name was found before: " TEST_ROOT "/good/libbase.so\n");
         row("the profile names plug-in and phase", "--profile", 0, "done",
             " ms  anchor extensionsInitialized\n");
     }
