@@ -62,6 +62,7 @@ StageView::StageView(IDocument *pDocument, StageModel *pModel, QWidget *pParent)
     connect(pModel, &StageModel::elementRemoved, this, &StageView::removeItem);
     connect(pModel, &StageModel::elementMoved, this, &StageView::moveItem);
     connect(scene(), &QGraphicsScene::selectionChanged, this, &StageView::describeSelection);
+    connect(pDocument, &IDocument::dataChanged, this, &StageView::describeSelection); // undo moves, too
     rebuild();
 }
 
@@ -207,7 +208,6 @@ void StageView::submitMoves(const QList<StageMoveCommand::Move> &moves, StageMov
     const auto isReal = [](const StageMoveCommand::Move &move) { return move.from != move.to; };
     if (m_pDocument && std::any_of(moves.cbegin(), moves.cend(), isReal))
         m_pDocument->submitCommand(new StageMoveCommand(m_pModel, m_nScene, moves, kind));
-    describeSelection();
 }
 
 // While the button is down, QGraphicsScene moves the items; releasing it makes one command, in whole pixels.

@@ -37,8 +37,6 @@ extern "C" Q_DECL_EXPORT int fdatasync(int nFile)
 
 namespace {
 
-using Kind = StageMoveCommand::Kind;
-
 StageElement box(const char *pId)
 {
     StageElement element;
@@ -59,20 +57,11 @@ std::unique_ptr<StageDocument> newDocument(const QString &strFileName)
     return pDocument;
 }
 
-// Moves the elements together; a drag is an edit of its own, steps may join.
-void move(StageDocument &document, const QList<int> &elements, const QPointF &by, Kind kind)
-{
-    QList<StageMoveCommand::Move> moves;
-    for (const int n : elements) {
-        const StageElement &element = document.getModel()->elements(0).at(n);
-        moves.append({n, {element.x, element.y}, QPointF(element.x, element.y) + by});
-    }
-    document.submitCommand(new StageMoveCommand(document.getModel(), 0, moves, kind));
-}
-
 void step(StageDocument &document, int nIndex, double dx)
 {
-    move(document, {nIndex}, {dx, 0}, Kind::Step);
+    const StageElement &element = document.getModel()->elements(0).at(nIndex);
+    const QList<StageMoveCommand::Move> moves {{nIndex, {element.x, element.y}, {element.x + dx, element.y}}};
+    document.submitCommand(new StageMoveCommand(document.getModel(), 0, moves, StageMoveCommand::Kind::Step));
 }
 
 } // namespace
@@ -82,33 +71,6 @@ class tst_StageDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void undoLeadsBackThroughEveryRandomEdit()
-    {
-        StageDocument document;
-        QVERIFY(document.createContent(640, 480, 24, false));
-        StageModel *pModel = document.getModel();
-        QUndoStack *pStack = document.getUndoStack();
-        QRandomGenerator random(4711);
-        QList<StageProject> states {pModel->project()}; // by the stack's index
-        for (int i = 0; i < 4000; ++i) {
-            randomEdit(document, random);
-            states.resize(pStack->index());
-            states.append(pModel->project());
-            QCOMPARE(pStack->count(), pStack->index());
-            for (int n = random.bounded(20) == 0 ? random.bounded(30) : 0; n > 0 && pStack->canUndo(); --n) {
-                pStack->undo();
-                QCOMPARE(pModel->project(), states.at(pStack->index()));
-            }
-        }
-        QVERIFY(pStack->count() > 500);
-        for (const int nEnd : {0, pStack->count()}) {
-            while (pStack->index() != nEnd) {
-                nEnd == 0 ? pStack->undo() : pStack->redo();
-                QCOMPARE(pModel->project(), states.at(pStack->index()));
-            }
-        }
-    }
-
     void revertReadsTheFileAgainOrTellsFilePlaceAndReason()
     {
         TestProgram program;
@@ -243,34 +205,6 @@ private:
     {
         return QDir(program.folder.path()).entryList({"*kelpa*", "*.backup"}, QDir::Files | QDir::Hidden);
     }
-
-    // Half of the edits take the elements of the edit before, so that steps have something to merge with.
-    void randomEdit(StageDocument &document, QRandomGenerator &random)
-    {
-        StageModel *pModel = document.getModel();
-        const int nCount = static_cast<int>(pModel->elements(0).size());
-        if (random.bounded(2) == 0 || (!m_chosen.isEmpty() && m_chosen.last() >= nCount)) {
-            m_chosen.clear();
-            for (int i = 0; i < nCount; ++i) {
-                if (random.bounded(3) == 0)
-                    m_chosen.append(i);
-            }
-        }
-        const int nKind = random.bounded(10);
-        if (m_chosen.isEmpty() || (nCount < 12 && nKind < 3)) {
-            const auto type = static_cast<StageElement::Type>(random.bounded(4));
-            document.submitCommand(new StageAddCommand(pModel, 0, box(qPrintable(pModel->freeId(type)))));
-        } else if (nKind < 4) {
-            const QList<int> backwards(m_chosen.crbegin(), m_chosen.crend());
-            document.submitCommand(new StageRemoveCommand(pModel, 0, backwards));
-            m_chosen.clear();
-        } else {
-            const QPointF by(random.bounded(-2, 3) * 0.1, random.bounded(-1, 2));
-            move(document, m_chosen, by, nKind < 8 ? Kind::Step : Kind::Drag);
-        }
-    }
-
-    QList<int> m_chosen;
 };
 
 QTEST_MAIN(tst_StageDocument)
