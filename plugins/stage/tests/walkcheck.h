@@ -50,6 +50,10 @@ public:
         if (faults.isEmpty())
             checkDocuments();
         checkRecent();
+        const auto backups = std::count_if(m_model.documents.begin(), m_model.documents.end(),
+            [](const ModelDocument &document) { return document.bBackedUp; });
+        same("backups", m_program.backups() - m_program.nOldBackups,
+            int(backups) + 1); // one of an earlier run
     }
 
     static QAction *recentCommand(int nEntry)
@@ -80,6 +84,10 @@ private:
             const QStringList ends = strTab.split(QChar(0x2026)); // of a long name
             const bool bEnds = strName.startsWith(ends.first()) && strName.endsWith(ends.last());
             same("tab", ends.size() > 1 && bEnds ? strName : strTab, strName);
+            same("tip of the tab", m_program.tabs()->tabToolTip(i), document.path);
+            same("tip over the stage", pEditor->getSubWindow()->toolTip(), QString());
+            same("wide tab", m_program.tabs()->tabRect(i).width() > 450, false);
+            same("focus", m_program.window->focusWidget() == pEditor->getView(), i == m_model.nActive);
             same("tab path", pEditor->getSubWindow()->windowFilePath(), document.path);
         }
     }

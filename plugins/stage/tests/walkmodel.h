@@ -27,6 +27,8 @@ struct ModelDocument
     int nIndex = 0;
     int nClean = 0; ///< the state that is on disk; -1: none that can be reached
     bool bSaveDone = false; ///< saved, and neither changed nor left since
+    bool bBackedUp = false; ///< a backup lies on the disk
+    bool bBackupDue = true; ///< changed since
 
     [[nodiscard]] bool isModified() const { return bTemp || nIndex != nClean; }
     [[nodiscard]] bool canSave() const { return !bSaveDone && (isModified() || bBackup); }
@@ -56,12 +58,14 @@ struct ModelDocument
             goTo(nIndex - 1);
         } else {
             history.last().nStepped += nDistance;
+            bBackupDue = true;
         }
     }
     void goTo(int nState)
     {
         nIndex = nState;
         bSaveDone = false;
+        bBackupDue = true;
     }
 };
 
@@ -113,6 +117,7 @@ struct Model
     {
         document.nClean = document.nIndex;
         document.bTemp = false;
+        document.bBackedUp = false;
         disk[document.path] = document.elements();
     }
     void remove(const QString &strPath)

@@ -45,6 +45,14 @@ struct WalkProgram : StageProgramWith<WalkFactory>
         return static_cast<StageEditor *>(EditorManager::activeEditor())->getView();
     }
 
+    [[nodiscard]] int backups() const
+    {
+        int nCount = 0;
+        for (const QString &strFolder : {filePath("projects"), window->getDefaultTempPath()})
+            nCount += int(QDir(strFolder).entryList({"*.backup*"}, QDir::Files).size());
+        return nCount;
+    }
+
     // What lies under the mouse there.
     [[nodiscard]] QWidget *dropTarget()
     {
@@ -52,6 +60,7 @@ struct WalkProgram : StageProgramWith<WalkFactory>
     }
 
     QWidget welcome;
+    const int nOldBackups = backups();
 };
 
 /// Takes away the folder of the projects while the result lives: nothing can be written there.
