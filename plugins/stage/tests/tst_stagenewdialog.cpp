@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "stagedocument.h"
+#include "stagemodel.h"
 #include "stagenewdialog.h"
+#include "stageprogram.h"
 
 #include <support/coretest.h>
 
@@ -14,10 +16,11 @@ struct Dialog : StageNewDialog
     }
     void setPath(const QString &strPath) { findChild<QLineEdit *>("path")->setText(strPath); }
     [[nodiscard]] QString problem() const { return findChild<QLabel *>("problem")->text(); }
-    [[nodiscard]] bool mayAccept() const
+    [[nodiscard]] QPushButton *ok() const
     {
-        return findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled();
+        return findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
     }
+    [[nodiscard]] bool mayAccept() const { return ok()->isEnabled(); }
 };
 
 } // namespace
@@ -80,7 +83,8 @@ private slots:
             QCOMPARE(dialog.getFilePath(), program.filePath(pName));
             open.setFileName(dialog.getFilePath());
             program.write(pName);
-            QVERIFY(StageDocument::isOpenElsewhere(program.folder.path() + "/./" + pName, nullptr));
+            dialog.setPath(program.folder.path() + "/./" + pName);
+            QVERIFY(dialog.problem().endsWith(" is open. Close it first."));
         }
     }
 
@@ -89,27 +93,55 @@ private slots:
         Dialog dialog;
         dialog.setPath(m_folder.filePath("there"));
         BoxAnswers answers({QMessageBox::No, QMessageBox::Yes});
-        dialog.accept();
+        dialog.ok()->click();
         QCOMPARE(dialog.result(), 0);
-        dialog.accept();
+        dialog.ok()->click();
         QCOMPARE(dialog.result(), static_cast<int>(QDialog::Accepted));
         QCOMPARE(answers.boxes.size(), 2);
         QCOMPARE(answers.boxes.first().defaultButton, QMessageBox::No);
     }
 
-    void valuesComeOutInTheOrderOfTheFields()
+    void browsingGivesThePathAndCancelNothing()
     {
         Dialog dialog;
-        const auto boxes = dialog.findChildren<QSpinBox *>();
-        QCOMPARE(boxes.size(), 3);
-        int nValue = 100;
-        for (QSpinBox *pBox : boxes)
-            pBox->setValue(nValue++);
+        dialog.show();
+        const QString strPath = m_folder.filePath("chosen.kelpa");
+        const FileAnswer file(&strPath);
+        dialog.findChild<QPushButton *>(QString(), Qt::FindDirectChildrenOnly)->click();
+        QCOMPARE(dialog.getFilePath(), strPath);
+        dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
+        QVERIFY(dialog.isHidden() && dialog.result() == QDialog::Rejected);
+    }
+
+    void valuesArriveInTheProject_data()
+    {
+        const auto row = columns<QList<int>, bool>("values", "fits");
+        row("least", {1, 1, 1}, true);
+        row("different", {100, 101, 102}, true);
+        row("most", {16384, 16384, 240}, true);
+        row("too wide", {16385, 1, 1}, false);
+        row("too high", {1, 16385, 1}, false);
+        row("too fast", {1, 1, 241}, false);
+        row("nothing", {1, 1, 0}, false);
+    }
+    void valuesArriveInTheProject()
+    {
+        QFETCH(QList<int>, values);
+        QFETCH(bool, fits);
+        Dialog dialog;
+        QCOMPARE(numbers(dialog), QList<int>({1280, 720, 24}));
         dialog.findChild<QCheckBox *>()->setChecked(true);
-        QCOMPARE(dialog.getFirstValue(), 100);
-        QCOMPARE(dialog.getSecondValue(), 101);
-        QCOMPARE(dialog.getThirdValue(), 102);
-        QVERIFY(dialog.getFlag());
+        for (int i = 0; i < 3; ++i)
+            dialog.findChildren<QSpinBox *>().at(i)->setValue(values.at(i));
+        QCOMPARE(numbers(dialog) == values, fits);
+        StageDocument document;
+        const BoxAnswers boxes({QMessageBox::Ok});
+        QCOMPARE(document.createContent(values.at(0), values.at(1), values.at(2), dialog.getFlag()), fits);
+        QCOMPARE(boxes.boxes.size(), fits ? 0 : 1);
+        const StageProject &project = document.getModel()->project();
+        QCOMPARE(QList<int>({project.width, project.height, project.frameRate}) == values, fits);
+        QCOMPARE(project.responsive, fits);
+        QCOMPARE(project.scenes.size(), fits ? 1 : 0);
     }
 
     void everyFieldHasANameAndAKey()
@@ -123,6 +155,11 @@ private slots:
     }
 
 private:
+    static QList<int> numbers(Dialog &dialog)
+    {
+        return {dialog.getFirstValue(), dialog.getSecondValue(), dialog.getThirdValue()};
+    }
+
     QTemporaryDir m_folder;
 };
 

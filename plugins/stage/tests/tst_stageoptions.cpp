@@ -187,7 +187,10 @@ private slots:
         auto *pList = control<QListWidget>("horizontal");
         pList->setCurrentRow(1);
         pressIn("horizontal", "Remove");
+        QVERIFY(m_pDialog->hasChanges());
+        button(QDialogButtonBox::Apply)->click();
         pressIn("horizontal", "Add");
+        QVERIFY(m_pDialog->hasChanges());
         QTest::keyClicks(pList->findChild<QSpinBox *>(), "900");
         QTest::keyClick(pList->findChild<QSpinBox *>(), Qt::Key_Return);
         QTRY_COMPARE(pList->item(4)->data(Qt::EditRole).toInt(), 900);
