@@ -37,6 +37,8 @@ private slots:
     void theToolBarsComeBackAsTheyWereLeft()
     {
         QToolBar *pBar = stageToolBar();
+        for (const QAction *pAction : pBar->actions())
+            QVERIFY(pAction->isSeparator() || !pAction->icon().isNull());
         m_pWindow->addToolBar(Qt::LeftToolBarArea, pBar);
         m_pWindow->getFileToolbar()->hide();
         ICore::saveSettings();
