@@ -155,7 +155,7 @@ private:
         QRect before;
         do {
             before = m_pWindow->geometry();
-            const QString strNumber = QString::number(ask({"get_num_desktops"}).toInt() % 4 + 1);
+            const QString strNumber = QString::number(ask({"get_num_desktops"}).toInt() + 1);
             ask({"set_num_desktops", strNumber});
             QTRY_COMPARE(ask({"get_num_desktops"}), strNumber.toLatin1());
             QCoreApplication::processEvents();
