@@ -137,30 +137,8 @@ private:
         return m_pWindow->findChild<QAbstractButton *>("maximizeButton");
     }
 
-    // What xdotool prints.
-    static QByteArray ask(const QStringList &arguments)
-    {
-        QProcess process;
-        process.start("xdotool", arguments);
-        return QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; })
-                && process.exitCode() == 0
-            ? process.readAll().trimmed()
-            : "no answer";
-    }
-
-    // The window manager answers a resize of a maximized window several times, each time after the window's.
-    // It is done when nothing came while it did something else that it was asked for later.
-    void settle() const
-    {
-        QRect before;
-        do {
-            before = m_pWindow->geometry();
-            const QString strNumber = QString::number(ask({"get_num_desktops"}).toInt() + 1);
-            ask({"set_num_desktops", strNumber});
-            QTRY_COMPARE(ask({"get_num_desktops"}), strNumber.toLatin1());
-            QCoreApplication::processEvents();
-        } while (m_pWindow->geometry() != before);
-    }
+    // The window manager answers a resize of a maximized window several times, faster than a user acts.
+    static void settle() { QTest::qWait(500); }
 
     // Drags the window by its title row, which is at the top of the screen.
     static void dragTo(const QPoint &point)
@@ -168,7 +146,10 @@ private:
         QStringList arguments {"mousemove", "700", "3", "mousedown", "1"};
         for (const QPoint &step : {QPoint(700, 20), QPoint(700, 150), point})
             arguments += {"sleep", "0.1", "mousemove", QString::number(step.x()), QString::number(step.y())};
-        QCOMPARE(ask(arguments + QStringList {"mouseup", "1"}), QByteArray());
+        QProcess process;
+        process.start("xdotool", arguments + QStringList {"mouseup", "1"});
+        QTRY_COMPARE(process.state(), QProcess::NotRunning);
+        QCOMPARE(process.exitCode(), 0);
     }
 
     [[nodiscard]] QToolBar *stageToolBar() const
