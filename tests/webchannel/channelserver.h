@@ -128,3 +128,28 @@ inline QByteArray call(const char *pMethod, const QByteArray &arguments = "[]")
     return R"({"type":6,"id":1,"object":"counter","method":")" + QByteArray(pMethod) + R"(","args":)"
         + arguments + '}';
 }
+
+/// A socket that writes what it is told. "PORT" and "KEY" in it become the server's.
+class RawClient
+{
+public:
+    explicit RawClient(const ChannelServer &program)
+        : m_program(program)
+    {
+        socket.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
+    }
+
+    void send(QByteArray bytes)
+    {
+        bytes.replace("PORT", QByteArray::number(m_program.server.serverPort()));
+        bytes.replace("KEY", m_program.wrapper.getKey().toLatin1());
+        socket.write(bytes);
+    }
+    [[nodiscard]] bool isAnswered() { return socket.peek(4096).contains("\r\n\r\n") || isGone(); }
+    [[nodiscard]] bool isGone() const { return socket.state() == QAbstractSocket::UnconnectedState; }
+
+    QTcpSocket socket;
+
+private:
+    const ChannelServer &m_program;
+};

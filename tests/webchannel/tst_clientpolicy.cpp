@@ -31,8 +31,8 @@ private slots:
             "127.0.0.1:4711@evil.example:4711", "0.0.0.0:4711", " 127.0.0.1:4711 ", "[::1]"};
         const QList<std::optional<QByteArray>> ownOrigins {std::nullopt, "qrc:"};
         const QList<std::optional<QByteArray>> foreignOrigins {"null", "http://evil.example",
-            "http://127.0.0.1:4711", "QRC:", "qrc", "qrc:/", "qrc://", "qrc:x", "xqrc:", " qrc:",
-            "qrc:, qrc:", "file://", ""};
+            "http://127.0.0.1:4711", "QRC:", "qrc", "qrc:/", "qrc://", "qrc:x",
+            "xqrc:", " qrc:", "qrc:, qrc:", "file://", ""};
         const QStringList goodQueries {
             "key=" + strKey, "a=b&key=" + strKey + "&c", "key=%30" + strKey.mid(1)};
         const QStringList badQueries {{}, "key", "key=", "key=" + strKey.left(21), "key=" + strKey.chopped(1),
@@ -49,8 +49,7 @@ private slots:
                     QVERIFY2(ClientPolicy::judge({origin, host, strQuery}, s_port, s_key) == expected,
                         qPrintable(host + ' ' + origin.value_or("none") + ' ' + strQuery.toLatin1()));
                 }
-        QCOMPARE(
-            ClientPolicy::judge({"null", goodHosts.first(), "key="}, s_port, {}), Verdict::RefuseOrigin);
+        QCOMPARE(ClientPolicy::judge({"null", goodHosts.first(), "key="}, s_port, {}), Verdict::RefuseOrigin);
     }
 
     void keysDifferAndFitIntoAUrl()
@@ -69,8 +68,8 @@ private slots:
         const QJsonValue absent(QJsonValue::Undefined);
         const QString strFits(ClientPolicy::NameCharacters, QLatin1Char('x'));
         const QString strLong = strFits + QLatin1Char('x');
-        const QList<QJsonValue> names {absent, 0, 1, 2, "b", "destroyed", "destroyed(QObject*)", strFits,
-            strLong, QJsonArray {"b"}};
+        const QList<QJsonValue> names {
+            absent, 0, 1, 2, "b", "destroyed", "destroyed(QObject*)", strFits, strLong, QJsonArray {"b"}};
         QList<QJsonValue> types {absent, "4", 4.5};
         for (int i = -1; i < 12; ++i)
             types.append(i);

@@ -18,31 +18,6 @@
 
 namespace {
 
-/// A socket that writes what it is told. "PORT" and "KEY" in it become the server's.
-class RawClient
-{
-public:
-    explicit RawClient(const ChannelServer &program)
-        : m_program(program)
-    {
-        socket.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
-    }
-
-    void send(QByteArray bytes)
-    {
-        bytes.replace("PORT", QByteArray::number(m_program.server.serverPort()));
-        bytes.replace("KEY", m_program.wrapper.getKey().toLatin1());
-        socket.write(bytes);
-    }
-    [[nodiscard]] bool isAnswered() { return socket.peek(4096).contains("\r\n\r\n") || isGone(); }
-    [[nodiscard]] bool isGone() const { return socket.state() == QAbstractSocket::UnconnectedState; }
-
-    QTcpSocket socket;
-
-private:
-    const ChannelServer &m_program;
-};
-
 // Processor time and not the clock's: the machine may be busy with other tests.
 double threadMs()
 {
@@ -66,9 +41,9 @@ double residentMiB()
 
 // A sanitizer takes time and memory of its own.
 #ifdef __SANITIZE_ADDRESS__
-constexpr bool IsMeasured = false;
+constexpr bool s_bMeasured = false;
 #else
-constexpr bool IsMeasured = true;
+constexpr bool s_bMeasured = true;
 #endif
 
 // What stands in the server's way while it works: the longest turn of the event loop and the most memory.
@@ -78,18 +53,15 @@ struct Load
     double memoryMiB = 0;
 };
 
-// What a turn may take: 50 ms, or a few times what parsing a megabyte takes just now. Other programs slow
-// both down, by the caches if not by the processor.
-double turnLimitMs()
+// A turn may take 50 ms, or a few times what parsing a megabyte takes just now. Other programs slow both
+// down, by the caches if not by the processor.
+bool isShort(double turnMs)
 {
+    if (turnMs < 50 || !s_bMeasured)
+        return true;
     const QByteArray message = '[' + QByteArray("1,").repeated(500000);
-    double slowest = 0;
-    for (int i = 0; i < 5; ++i) {
-        const double begin = threadMs();
-        if (QJsonDocument::fromJson(message).isNull())
-            slowest = std::max(slowest, threadMs() - begin);
-    }
-    return std::max(50.0, 3 * slowest);
+    const double begin = threadMs();
+    return QJsonDocument::fromJson(message).isNull() && turnMs < 3 * (threadMs() - begin);
 }
 
 Load runUntil(const std::function<bool()> &isDone)
@@ -152,8 +124,6 @@ private slots:
         const auto origin = [&](const char *pName, const QByteArray &value, const QByteArray &path = "/") {
             row(pName, handshake("127.0.0.1:PORT", "Origin:" + value + "\r\n", path), 1);
         };
-        origin("a page of the web", " http://evil.example");
-        origin("ours with a look-alike letter", " qr\xD1\x81:");
         origin("ours first, then another line", " qrc:\r\nOrigin: http://evil.example");
         origin("another, then ours in a second line", " http://evil.example\r\nOrigin: qrc:");
         origin("none in the first line, then another", "\r\nOrigin: http://evil.example");
@@ -161,7 +131,6 @@ private slots:
         origin("the key behind a hash", " http://evil.example", "/?#key=KEY");
         origin("an origin of 4000 letters", " http://" + QByteArray(4000, 'e'));
         row("a rebound name without an origin", handshake("evil.example:PORT"), 1);
-        row("a rebound name with a blank origin", handshake("evil.example:PORT", "Origin:  \t\r\n"), 1);
         row("a foreign host behind the right one", handshake("127.0.0.1:PORT\r\nHost: evil.example:PORT"), 1);
         row("a page is asked for", "GET / HTTP/1.1\r\nHost: 127.0.0.1:PORT\r\n\r\n", 0);
         row("headers of one MiB", handshake("127.0.0.1:PORT", "X: " + QByteArray(1 << 20, 'x') + "\r\n"), 0);
@@ -248,8 +217,8 @@ private slots:
     void whatAClientSentBeforeItLeftIsHandled_data()
     {
         const auto row = columns<int, int>("clients", "size");
-        row("one client, messages of 16 MiB", 1, ClientPolicy::MessageSize);
-        row("thirty clients at once", 30, 2 * ClientPolicy::CharactersParsedAtOnce);
+        row("one client, large messages", 1, ClientPolicy::MessageSize / 2);
+        row("ten clients at once", 10, 2 * ClientPolicy::CharactersParsedAtOnce);
     }
 
     void whatAClientSentBeforeItLeftIsHandled()
@@ -277,9 +246,7 @@ private slots:
         const Load load = runUntil([&] { return nGone == clients; });
         for (std::thread &thread : threads)
             thread.join();
-        const double limitMs = turnLimitMs() * (clients + 9) / 10;
-        qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
-        QVERIFY2(!IsMeasured || load.turnMs < limitMs, "a turn serves some clients");
+        QVERIFY2(isShort(load.turnMs / (clients + 9) * 10), "a turn serves some clients");
         QCOMPARE(sent.values(), QList<QList<int>>(clients, {1, 2, 1, 3}));
         QTRY_VERIFY(!program.server.findChild<QTcpSocket *>());
     }
@@ -299,45 +266,35 @@ private slots:
                     QCoreApplication::processEvents();
                 }
             };
-            come(300, "127.0.0.1:PORT");
+            come(250, "127.0.0.1:PORT");
             QTRY_VERIFY(program.clients.size() >= ClientPolicy::Connections);
-            QVERIFY(program.server.findChildren<QTcpSocket *>().size() < 300);
+            QVERIFY(program.server.findChildren<QTcpSocket *>().size() < 250);
             crowd.clear();
-            come(100, "evil.example");
+            come(60, "evil.example");
             QTRY_VERIFY(
                 std::all_of(crowd.begin(), crowd.end(), [](auto &pClient) { return pClient->isGone(); }));
         }
-        QVERIFY(log.lines().size() > ClientPolicy::WarningsPerSecond && log.lines().size() < 100);
+        QVERIFY(log.lines().size() > ClientPolicy::WarningsPerSecond && log.lines().size() < 60);
         QVERIFY(log.lines().constLast().endsWith("refused web channel clients were not logged."));
     }
 
     void garbageForEverCostsLittle_data()
     {
-        QTest::addColumn<QByteArray>("garbage");
-        QTest::addColumn<int>("sizeMiB");
-        QTest::addColumn<bool>("staysConnected");
-        QTest::addColumn<int>("memoryMiB");
-        const auto row = [](const char *pName, const QByteArray &bytes, int nMiB, bool bStays, int nMemory) {
-            const int nTimes = std::max<int>(1, (1 << 20) / static_cast<int>(bytes.size()));
-            QTest::newRow(pName) << bytes.repeated(nTimes) << nMiB << bStays << nMemory;
-        };
-        const auto brokenAtItsEnd = [](int nSize) {
-            return frame('[' + QByteArray("1,").repeated(nSize / 2) + 'x');
-        };
+        const auto row =
+            columns<QByteArray, int, bool, int>("garbage", "sizeMiB", "staysConnected", "memoryMiB");
+        const auto broken = [](int nSize) { return frame('[' + QByteArray("1,").repeated(nSize / 2) + 'x'); };
         row("pings whose answers are not read", frame(QByteArray(125, 'x'), Ping), 200, false, 160);
         row("pieces of a message that never ends",
             frame(" ", Text, false) + frame(QByteArray(1000, ' '), Continuation, false).repeated(33 << 10),
             33, false, 80);
-        row("texts of one letter", frame("x"), 10, true, 24);
-        row("empty binary frames", frame("", Binary), 10, true, 24);
-        row("texts of 100 kB", frame(QByteArray(100000, 'x')), 50, true, 24);
-        row("broken JSON of 100 kB", brokenAtItsEnd(100000), 20, true, 24);
-        row("broken JSON of 1 MB", brokenAtItsEnd(1000000), 20, true, 40);
-        row("broken JSON of 16 MB", brokenAtItsEnd(16000000), 60, true, 300);
-        row("a request without an id and 16 MB of numbers",
-            frame(
-                QByteArray(R"({"type":3,"a":[MORE1]})").replace("MORE", QByteArray("1,").repeated(8000000))),
-            16, true, 600);
+        row("texts of one letter", frame("x"), 3, true, 24);
+        row("empty binary frames", frame("", Binary), 3, true, 24);
+        row("texts of 100 kB", frame(QByteArray(100000, 'x')), 30, true, 24);
+        row("broken JSON of 100 kB", broken(100000), 5, true, 24);
+        row("broken JSON of 1 MB", broken(1000000), 5, true, 40);
+        row("broken JSON of 16 MB", broken(16000000), 31, true, 300);
+        row("a request without an id and 8 MB of numbers",
+            frame(R"({"type":3,"a":[)" + QByteArray("1,").repeated(4000000) + "1]}"), 8, true, 300);
         row("a call to an object with a name of 16 MB",
             frame(call("add").replace("counter", QByteArray(16000000, 'x'))), 16, true, 300);
     }
@@ -349,18 +306,18 @@ private slots:
         QFETCH(const int, sizeMiB);
         QFETCH(const bool, staysConnected);
         QFETCH(const int, memoryMiB);
+        const int nTimes = std::max<int>(1, (1 << 20) / static_cast<int>(garbage.size()));
         Load load;
-        double limitMs = 0;
-        for (int i = 0; i < 3 && load.turnMs >= limitMs; ++i) {
+        bool bShort = false;
+        for (int i = 0; i < 3 && !bShort; ++i) {
             bool bSentAll = false;
-            load = endure(garbage, sizeMiB * qint64(1024) * 1024, &bSentAll);
+            load = endure(garbage.repeated(nTimes), sizeMiB * qint64(1024) * 1024, &bSentAll);
             QCOMPARE(bSentAll, staysConnected);
-            limitMs = turnLimitMs();
+            bShort = isShort(load.turnMs);
             QVERIFY(ChannelLog::characters() < 1000000);
         }
-        qInfo("%.1f of %.1f ms, %.1f MiB", load.turnMs, limitMs, load.memoryMiB);
-        QVERIFY(!IsMeasured || load.turnMs < limitMs);
-        QVERIFY(!IsMeasured || load.memoryMiB < memoryMiB);
+        QVERIFY2(bShort, qPrintable(QString::number(load.turnMs)));
+        QVERIFY2(!s_bMeasured || load.memoryMiB < memoryMiB, qPrintable(QString::number(load.memoryMiB)));
     }
 
 private:
