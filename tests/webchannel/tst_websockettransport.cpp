@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <webchannel/channelserver.h>
 
+#include <support/clock.h>
 #include <support/coretest.h>
 
 #include <mainwindow.h>
@@ -155,6 +156,10 @@ private slots:
         const QString strLong = QString(5000, QLatin1Char('x'));
         row("a long text", strLong,
             strNoJson.arg(strLong.left(1000) + "... (5000 characters)", "illegal value"));
+        row("a text that is parsed elsewhere", QString(2 << 20, QLatin1Char('x')),
+            strNoJson.arg(strLong.left(1000) + "... (2097152 characters)", "illegal value"));
+        row("no message of the channel", R"({"type":10})",
+            "Received JSON object that is no message of the channel: \"{\\\"type\\\":10}\"");
     }
 
     void faultyMessagesAreLoggedAndTheSocketStays()
@@ -171,75 +176,89 @@ private slots:
         QCOMPARE(log.lines(), QStringList(line));
     }
 
-    void warningsOfOneClientAreCounted()
+    void warningsAreCountedBySeconds()
     {
-        ChannelServer program;
         const ChannelLog log;
         {
-            Client client(program.url());
-            QVERIFY(client.connected.wait());
-            for (int i = 0; i < 500; ++i)
-                client.socket.sendTextMessage("x");
-            client.socket.sendTextMessage(QString::fromLatin1(call("add", "[2]")));
-            QTRY_COMPARE(program.counter.total(), 2);
+            WarningLimit limit("%d left out");
+            QList<int> passed;
+            for (int nAsked : {30, 20, 21}) {
+                passed.append(0);
+                for (int i = 0; i < nAsked; ++i)
+                    passed.last() += limit.mayWarn();
+                Clock::putForward(1);
+                QTest::qSleep(2);
+            }
+            QCOMPARE(passed, (QList<int> {20, 20, 20}));
+            QCOMPARE(log.lines(), {"10 left out"});
         }
-        const QRegularExpression count("^(\\d+) more .* were not logged\\.$");
-        QTRY_VERIFY(count.match(log.lines().constLast()).hasMatch());
-        int nCounted = 0;
-        for (const QString &strLine : log.lines())
-            nCounted += count.match(strLine).hasMatch() ? count.match(strLine).captured(1).toInt() : 1;
-        QCOMPARE(nCounted, 500);
-    }
+        QCOMPARE(log.lines(), (QStringList {"10 left out", "1 left out"}));
 
-    void clientThatReadsMayFallBehind_data()
-    {
-        const auto row = columns<int, int>("messages", "characters");
-        row("one large answer", 1, 70 * 1024 * 1024);
-        row("a burst of answers", 5, 15 * 1024 * 1024);
-    }
-
-    void clientThatReadsMayFallBehind()
-    {
-        QFETCH(const int, messages);
-        QFETCH(const int, characters);
         ChannelServer program;
         Client client(program.url());
         QVERIFY(client.connected.wait());
-        const QJsonObject message {{"text", QString(characters, QLatin1Char('x'))}};
-        for (int i = 0; i < messages; ++i)
-            program.firstClient()->sendMessage(message);
-        QTRY_COMPARE_WITH_TIMEOUT(client.received.size(), messages, 60000);
+        for (int i = 0; i < 60; ++i)
+            client.socket.sendTextMessage("x");
+        client.socket.close();
+        QTRY_VERIFY(log.lines().constLast().endsWith("malformed messages of this client were not logged."));
+        QVERIFY(log.lines().size() < 60);
     }
 
-    void clientThatReadsNothingIsDropped_data()
+    // More than 64 MiB may be left unread for five seconds, more than 256 never.
+    void clientMayFallBehindWhileItReads()
     {
-        const auto row = columns<int>("messages");
-        row("much at once", 70);
-        row("less, for some seconds", 18);
-    }
-
-    void clientThatReadsNothingIsDropped()
-    {
-        QFETCH(const int, messages);
         ChannelServer program;
         const ChannelLog log;
-        QTcpSocket client;
-        client.setReadBufferSize(1);
-        client.connectToHost(QHostAddress::LocalHost, program.server.serverPort());
-        client.write(handshake("localhost:" + QByteArray::number(program.server.serverPort())));
+        RawClient client(program);
+        client.send(handshake("127.0.0.1:PORT"));
+        QTRY_COMPARE(program.clients.size(), 1);
+        QTRY_VERIFY(client.isAnswered());
+        client.socket.readAll();
+        client.socket.setReadBufferSize(1);
+        const QPointer<WebSocketTransport> pTransport(program.firstClient());
+        const QJsonObject message {{"text", QString(1 << 20, QLatin1Char('x'))}};
+        QSignalSpy written(qobject_cast<QWebSocket *>(pTransport->parent()), &QWebSocket::bytesWritten);
+        const auto send = [&](int nTimes) {
+            for (int i = 0; i < nTimes && log.lines().isEmpty(); ++i)
+                pTransport->sendMessage(message);
+            while (written.wait(50)) { } // until the system's buffers are full
+            Clock::putForward(4);
+        };
+        send(80);
+        send(1); // the five seconds begin
+        qint64 nRead = 0;
+        connect(
+            &client.socket, &QTcpSocket::readyRead, this, [&] { nRead += client.socket.readAll().size(); });
+        client.socket.setReadBufferSize(0);
+        nRead += client.socket.readAll().size();
+        QTRY_VERIFY_WITH_TIMEOUT(nRead > 80 << 20, 60000);
+
+        client.socket.setReadBufferSize(1);
+        disconnect(&client.socket, nullptr, this, nullptr);
+        send(130);
+        send(1); // the five seconds begin again
+        send(1);
+        QVERIFY(log.lines().isEmpty());
+        send(1);
+        QCOMPARE(log.lines(), {"Dropped a web channel client that reads too little."});
+        QTRY_VERIFY(!pTransport);
+    }
+
+    void clientThatLeavesFarTooMuchUnreadIsDroppedAtOnce()
+    {
+        ChannelServer program;
+        const ChannelLog log;
+        RawClient client(program);
+        client.socket.setReadBufferSize(1);
+        client.send(handshake("127.0.0.1:PORT"));
         QTRY_COMPARE(program.clients.size(), 1);
         const QPointer<WebSocketTransport> pTransport(program.firstClient());
-        const QJsonObject message {{"text", QString(4000000, QLatin1Char('x'))}};
-        for (int i = 0; i < messages && log.lines().isEmpty(); ++i)
+        const QJsonObject message {{"text", QString(1 << 20, QLatin1Char('x'))}};
+        int nSent = 0;
+        for (; nSent < 300 && log.lines().isEmpty(); ++nSent)
             pTransport->sendMessage(message);
-        QCOMPARE(log.lines().isEmpty(), messages < 20);
-        const auto isDropped = [&] {
-            if (pTransport)
-                pTransport->sendMessage({});
-            return !pTransport;
-        };
-        QTRY_VERIFY_WITH_TIMEOUT(isDropped(), 4 * ClientPolicy::UnreadTimeoutMs);
-        QCOMPARE(log.lines().constFirst(), "Dropped a web channel client that reads too little.");
+        QVERIFY2(nSent >= 256 && nSent < 266, qPrintable(QString::number(nSent)));
+        QTRY_VERIFY(!pTransport);
     }
 
     void mainWindowServesItsChannelUntilItGoes()
