@@ -7,6 +7,7 @@
 #include <atomic>
 #include <ctime>
 #include <sys/syscall.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 namespace Clock {
@@ -26,7 +27,15 @@ inline void putForward(int nSeconds)
 extern "C" Q_DECL_EXPORT int clock_gettime(clockid_t id, timespec *pTime) noexcept
 {
     const long result = syscall(SYS_clock_gettime, id, pTime);
-    if (id == CLOCK_MONOTONIC)
+    if (id == CLOCK_MONOTONIC || id == CLOCK_REALTIME)
         pTime->tv_sec += Clock::s_forwardSeconds;
     return static_cast<int>(result);
+}
+
+extern "C" Q_DECL_EXPORT int gettimeofday(timeval *pTime, void *) noexcept
+{
+    timespec now {};
+    const int nResult = clock_gettime(CLOCK_REALTIME, &now);
+    *pTime = {now.tv_sec, now.tv_nsec / 1000};
+    return nResult;
 }

@@ -25,14 +25,15 @@ public:
     {
         QProcess openssl;
         openssl.start("openssl",
-            QStringLiteral("req -x509 -newkey rsa:2048 -nodes -batch -subj /CN=localhost "
-                           "-addext subjectAltName=DNS:localhost -keyout %1/key -out %1/cert")
+            QStringLiteral("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -batch "
+                           "-subj /CN=localhost -addext subjectAltName=DNS:localhost "
+                           "-keyout %1/key -out %1/cert")
                 .arg(m_folder.path())
                 .split(QLatin1Char(' ')));
         openssl.waitForFinished();
         QFile keyFile(m_folder.filePath("key"));
         if (keyFile.open(QIODevice::ReadOnly))
-            key = QSslKey(&keyFile, QSsl::Rsa);
+            key = QSslKey(&keyFile, QSsl::Ec);
         certificate = QSslCertificate::fromPath(m_folder.filePath("cert")).value(0);
     }
 
@@ -98,7 +99,7 @@ public:
     }
 
     QStringList paths; ///< as requested, in order
-    QList<QByteArray> userAgents;
+    QList<QByteArray> heads;
 
 protected:
     void incomingConnection(qintptr nDescriptor) override
@@ -123,9 +124,7 @@ private:
         pSocket->readAll();
         const QString strPath = QString::fromLatin1(head.split(' ').value(1));
         paths.append(strPath);
-        const qsizetype nAgent = head.indexOf("User-Agent: ");
-        userAgents.append(
-            nAgent < 0 ? QByteArray() : head.mid(nAgent + 12, head.indexOf("\r\n", nAgent) - nAgent - 12));
+        heads.append(head);
         if (m_handlers.contains(strPath))
             m_handlers.value(strPath)(pSocket);
         else

@@ -110,6 +110,17 @@ struct Download
     QPushButton *stopButton() { return child<QPushButton>("stopButton"); }
     QPushButton *openButton() { return child<QPushButton>("openButton"); }
 
+    /// What the user sees of the window.
+    QString look()
+    {
+        const auto *pBar = child<QProgressBar>("progressBar");
+        return QStringLiteral("%1 | %2 | %3 of %4 | %5%6%7")
+            .arg(child("downloadLabel")->text(), child("timeLabel")->text(), pBar->text())
+            .arg(pBar->maximum())
+            .arg(stopButton()->text(), QLatin1String(openButton()->isEnabled() ? " Open" : ""),
+                QLatin1String(downloader.isVisible() ? "" : " hidden"));
+    }
+
     TestHome home;
     TestServer server;
     QPointer<QTcpSocket> pSocket;
