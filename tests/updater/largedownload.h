@@ -2,6 +2,7 @@
 // Downloads a large file from a server on another thread, and measures what it costs. Linux.
 #pragma once
 
+#include <support/load.h>
 #include <updater/downloader.h>
 
 #include <QElapsedTimer>
@@ -18,7 +19,7 @@
 struct LargeDownload
 {
     qint64 nGrowth = -1; ///< bytes of memory that the process needed more at the worst moment
-    qint64 nStallMs = -1; ///< longest time in which the event loop did not turn
+    double stallMs = -1; ///< most processor time that one turn of the event loop took
     qint64 nBytesPerSecond = 0;
 };
 
@@ -80,16 +81,18 @@ inline LargeDownload downloadLargeFile(qint64 nSize, bool bLength)
     QTimer::singleShot(200000, &loop, [&loop] { loop.exit(1); });
 
     LargeDownload result;
-    QElapsedTimer beat;
+    double beat = 0;
     QTimer heart;
-    QObject::connect(
-        &heart, &QTimer::timeout, &loop, [&] { result.nStallMs = qMax(result.nStallMs, beat.restart()); });
+    QObject::connect(&heart, &QTimer::timeout, &loop, [&] {
+        result.stallMs = qMax(result.stallMs, threadMs() - beat);
+        beat = threadMs();
+    });
     forgetPeak();
     const qint64 nBefore = statusValue("VmRSS:");
     QElapsedTimer whole;
     whole.start();
     downloader.startDownload(QUrl(QStringLiteral("http://127.0.0.1:%1/large").arg(nPort)));
-    beat.start();
+    beat = threadMs();
     heart.start(1);
     const bool bDone = loop.exec() == 0;
     server.join();
