@@ -140,34 +140,28 @@ private slots:
     }
 
     // Between the download and the click on Open anything may have happened to the file.
-    void installerIsCheckedAgainBeforeItIsOpened_data()
-    {
-        const auto row = columns<bool>("deletable");
-        row("another file", true);
-        row("a folder, which is not deleted as a file is", false);
-    }
-
     void installerIsCheckedAgainBeforeItIsOpened()
     {
-        QFETCH(const bool, deletable);
-        const Keys keys;
-        Download download(TestServer::ok(s_installer));
-        download.downloader.setInstallerCheck({keys.publicKey(), QString(), keys.sign(s_installer)});
-        const BoxAnswers boxes({QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Ok});
-        download.start();
-        QTRY_VERIFY(download.openButton()->isEnabled());
-        const QString strFile = Downloader::downloadFolder() + QLatin1Char('x');
-        QVERIFY(QFile::remove(strFile) && (deletable || QDir().mkpath(strFile)));
-        if (deletable)
-            download.home.write("x", "evil");
-        download.openButton()->click();
-        QTRY_COMPARE(boxes.boxes.size(), 3);
-        const QString strText = boxes.texts().last();
-        QVERIFY2(strText.startsWith("The update is not installed: "), qPrintable(strText));
-        QCOMPARE(strText.contains("was deleted, because its signature is not valid"), deletable);
-        QCOMPARE(strText.contains("deleted"), deletable);
-        QCOMPARE(download.home.downloads(), deletable ? QStringList() : QStringList("x.part"));
-        QVERIFY(download.home.opened.isEmpty() && !download.openButton()->isEnabled());
+        for (const bool deletable : {true, false}) { // a folder is not deleted as a file is
+            const Keys keys;
+            Download download(TestServer::ok(s_installer));
+            download.downloader.setInstallerCheck({keys.publicKey(), QString(), keys.sign(s_installer)});
+            const BoxAnswers boxes({QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Ok});
+            download.start();
+            QTRY_VERIFY(download.openButton()->isEnabled());
+            const QString strFile = Downloader::downloadFolder() + QLatin1Char('x');
+            QVERIFY(QFile::remove(strFile) && (deletable || QDir().mkpath(strFile)));
+            if (deletable)
+                download.home.write("x", "evil");
+            download.openButton()->click();
+            QTRY_COMPARE(boxes.boxes.size(), 3);
+            const QString strText = boxes.texts().last();
+            QVERIFY2(strText.startsWith("The update is not installed: "), qPrintable(strText));
+            QCOMPARE(strText.contains("was deleted, because its signature is not valid"), deletable);
+            QCOMPARE(strText.contains("deleted"), deletable);
+            QCOMPARE(download.home.downloads(), deletable ? QStringList() : QStringList("x.part"));
+            QVERIFY(download.home.opened.isEmpty() && !download.openButton()->isEnabled());
+        }
     }
 
     void fileMayShrinkWhileItIsChecked()
