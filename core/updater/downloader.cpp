@@ -45,10 +45,7 @@ QStringList typesOf(const QString &strFileName)
     return QStringList(type.name()) + type.allAncestors();
 }
 
-QString inQuotes(const QString &strPath)
-{
-    return PartFile::inQuotes(strPath);
-}
+constexpr auto inQuotes = &PartFile::inQuotes;
 
 } // namespace
 
