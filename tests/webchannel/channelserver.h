@@ -80,6 +80,7 @@ public:
     ~ChannelLog() { qInstallMessageHandler(s_previous); }
     Q_DISABLE_COPY_MOVE(ChannelLog)
 
+    static void forget() { s_lines.clear(); }
     [[nodiscard]] static const QStringList &lines() { return s_lines; }
     [[nodiscard]] static qint64 characters() { return s_nCharacters; }
 
