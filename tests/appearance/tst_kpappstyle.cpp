@@ -41,7 +41,7 @@ class tst_KPAppStyle : public QObject
     Q_OBJECT
 
 private slots:
-    // Of a widget in a window, at each density.
+    // Of a widget in a window, at each density: proportional, by whole factors, not at all.
     void rules_data()
     {
         const auto row = columns<Metric, QList<int>>("metric", "expected");
@@ -57,59 +57,24 @@ private slots:
         QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
     }
 
-    // At 144 DPI, where the rules give different values.
+    // At 144 DPI, where the rules give different values, by number of the metric; -1: the platform's.
     void metrics()
     {
-        const std::pair<int, QList<Metric>> values[] = {
-            {0,
-                {PM_ButtonDefaultIndicator, PM_ButtonShiftHorizontal, PM_ButtonShiftVertical,
-                    PM_DefaultFrameWidth, PM_MenuHMargin, PM_MenuVMargin, PM_MenuDesktopFrameWidth,
-                    PM_MenuBarItemSpacing, PM_MenuBarVMargin, PM_MenuBarHMargin, PM_TabBarTabShiftHorizontal,
-                    PM_TabBarTabShiftVertical, PM_ToolBarItemSpacing, PM_ToolBarItemMargin,
-                    PM_DockWidgetTitleMargin, PM_TabBar_ScrollButtonOverlap}},
-            {1, {PM_DockWidgetFrameWidth, PM_ToolTipLabelFrameWidth}},
-            {2, {PM_MenuBarPanelWidth, PM_SpinBoxSliderHeight, PM_FocusFrameVMargin, PM_FocusFrameHMargin}},
-            {3, {PM_TabBarTabOverlap, PM_DockWidgetTitleBarButtonMargin}},
-            {6, {PM_MdiSubWindowFrameWidth, PM_HeaderMargin, PM_HeaderGripMargin}},
-            {7, {PM_DialogButtonsSeparator}},
-            {9,
-                {PM_ButtonMargin, PM_DockWidgetSeparatorExtent, PM_CheckBoxLabelSpacing,
-                    PM_RadioButtonLabelSpacing, PM_LayoutHorizontalSpacing, PM_LayoutVerticalSpacing}},
-            {12, {PM_DockWidgetHandleExtent}},
-            {13, {PM_ScrollBarSliderMin, PM_LayoutLeftMargin, PM_LayoutBottomMargin}},
-            {15, {PM_MenuButtonIndicator, PM_MenuScrollerHeight, PM_MenuTearoffHeight}},
-            {18, {PM_ExclusiveIndicatorWidth, PM_ExclusiveIndicatorHeight}},
-            {19, {PM_IndicatorHeight, PM_SizeGripSize}},
-            {24,
-                {PM_SliderThickness, PM_HeaderMarkSize, PM_TabBarScrollButtonWidth, PM_TabCloseIndicatorWidth,
-                    PM_TabCloseIndicatorHeight, PM_TitleBarButtonSize}},
-            {27, {PM_TitleBarHeight}},
-            {30, {PM_TreeViewIndentation}},
-            {32, {PM_SmallIconSize, PM_TabBarIconSize, PM_ButtonIconSize, PM_TitleBarButtonIconSize}},
-            {45, {PM_DialogButtonsButtonHeight, PM_HeaderDefaultSectionSizeVertical}},
-            {48, {PM_ToolBarIconSize}},
-            {64, {PM_IconViewIconSize, PM_LargeIconSize, PM_MessageBoxIconSize}},
-            {105, {PM_DialogButtonsButtonWidth}},
-            {150, {PM_HeaderDefaultSectionSizeHorizontal}},
-            {294, {PM_MdiSubWindowMinimizedWidth}},
-        };
+        const QList<int> expected = {9, 0, 15, 0, 0, 0, -1, 0, -1, 24, 13, 24, 10, 30, -1, -1, 9, 12, 1, 3,
+            -1, -1, 0, -1, 9, -1, 27, 15, 0, 0, 5, 15, 0, 2, 0, 0, 0, 19, 19, 18, 18, 7, 105, 45, 6, 294, 6,
+            24, 6, 0, 0, 24, -1, -1, 0, 0, -1, 26, 2, 48, -1, 64, 32, 64, 2, 2, 1, 9, 32, 19, 0, 64, 32, 3, 9,
+            13, 13, 13, 13, 9, 9, 0, -1, 24, 24, -1, -1, -5, 30, 150, 45, 32, 24};
+        const QProxyStyle platform;
         QWidget window;
         window.setScreen(screenOf(144));
         const QWidget child(&window);
-        for (const auto &[nExpected, metrics] : values) {
-            for (const Metric metric : metrics)
-                QCOMPARE(std::pair(metric, m_style.pixelMetric(metric, nullptr, &child)),
-                    std::pair(metric, nExpected));
+        for (int i = 0; i < expected.size(); ++i) {
+            const int nPlatform = platform.pixelMetric(Metric(i), nullptr, &child);
+            QCOMPARE(std::pair(i, m_style.pixelMetric(Metric(i), nullptr, &child)),
+                std::pair(i, expected[i] == -1 ? nPlatform : expected[i]));
         }
-    }
-
-    void othersAreThoseOfThePlatform()
-    {
-        const QProxyStyle platform;
-        for (const Metric metric :
-            {PM_MaximumDragDistance, PM_SplitterWidth, PM_TabBarTabHSpace, PM_CustomBase})
-            QCOMPARE(m_style.pixelMetric(metric, nullptr, nullptr),
-                platform.pixelMetric(metric, nullptr, nullptr));
+        QCOMPARE(m_style.pixelMetric(PM_CustomBase, nullptr, nullptr),
+            platform.pixelMetric(PM_CustomBase, nullptr, nullptr));
     }
 
     // By the option if there is one, else by the widget.
