@@ -44,32 +44,37 @@ private:
 class ChannelClient
 {
 public:
-    explicit ChannelClient(const QUrl &url)
-    {
-        QObject::connect(&socket, &QWebSocket::textMessageReceived, &socket, [this](const QString &strText) {
-            const QJsonObject message = QJsonDocument::fromJson(strText.toUtf8()).object();
-            if (message.contains("id"))
-                m_answers.insert(message.value("id").toInt(), message.value("data"));
-        });
-        socket.open(url);
-    }
+    explicit ChannelClient(const QUrl &url) { socket.open(url); }
 
-    /// Undefined when no answer comes.
+    /// Undefined when no answer comes. What is no answer, such as the telling of a signal, has no id.
     QJsonValue call(const QString &strObject, const QString &strMethod, const QJsonArray &arguments = {})
     {
-        const int nId = ++m_nId;
         const QJsonObject message {
-            {"type", 6}, {"id", nId}, {"object", strObject}, {"method", strMethod}, {"args", arguments}};
-        if (QTest::qWaitFor([this] { return socket.state() == QAbstractSocket::ConnectedState; }))
-            socket.sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson()));
-        const bool bAnswered = QTest::qWaitFor([&] { return m_answers.contains(nId); });
-        return bAnswered ? m_answers.take(nId) : QJsonValue::Undefined;
+            {"type", 6}, {"id", ++m_nId}, {"object", strObject}, {"method", strMethod}, {"args", arguments}};
+        if (socket.state() != QAbstractSocket::ConnectedState)
+            waitFor(&QWebSocket::connected);
+        QJsonObject answer;
+        QObject context;
+        QObject::connect(&socket, &QWebSocket::textMessageReceived, &context, [&](const QString &strText) {
+            const QJsonObject received = QJsonDocument::fromJson(strText.toUtf8()).object();
+            if (received.value("id").toInt() == m_nId)
+                answer = received;
+        });
+        socket.sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson()));
+        while (answer.isEmpty() && waitFor(&QWebSocket::textMessageReceived)) { }
+        return answer.isEmpty() ? QJsonValue::Undefined : answer.value("data");
     }
 
     QWebSocket socket;
 
 private:
-    QHash<int, QJsonValue> m_answers;
+    // In the event loop: looking now and then would take most of the time of this test.
+    template <typename Signal>
+    bool waitFor(Signal signal)
+    {
+        return QSignalSpy(&socket, signal).wait();
+    }
+
     int m_nId = 0;
 };
 
