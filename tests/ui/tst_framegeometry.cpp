@@ -1,42 +1,37 @@
 // SPDX-License-Identifier: MIT
+// The decisions of the frame. On Windows the test of the real window compares what the system does with them.
 #include <ui/framegeometry.h>
 
-#include "framerows.h"
+#include <support/rows.h>
 
 #include <QtTest>
 
 using namespace FrameGeometry;
-using namespace FrameRows;
 
 class tst_FrameGeometry : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void hits_data() { addRows(s_hits); }
+    // Every point of windows of any size, also of those that are smaller than their bands.
     void hits()
     {
-        const HitRow &r = row(s_hits);
-        const Borders all[] = {borders(4, 4, 1), borders(0, 4, 1), borders(0, 1, 0), {16, 64}, {4, 4}};
-        for (const Borders bands : all) {
-            for (const QSize &size : {QSize(640, 480), QSize(1921, 1083)}) {
-                if (bands.nCorner == bands.nBorder && (r.x == At::BorderNext) && r.y == At::First)
-                    continue; // such a corner reaches no further
-                const QPoint point(
-                    coordinate(r.x, size.width(), bands), coordinate(r.y, size.height(), bands));
-                QCOMPARE(hitTest(point, size, bands, true), r.hit);
-                QCOMPARE(hitTest(point, size, bands, false), Hit::Client);
+        const Hit parts[3][3] = {{Hit::TopLeft, Hit::Top, Hit::TopRight},
+            {Hit::Left, Hit::Client, Hit::Right}, {Hit::BottomLeft, Hit::Bottom, Hit::BottomRight}};
+        const auto third = [](int n, int nLength, int nBand) {
+            return n < nBand ? 0 : n < nLength - nBand ? 1 : 2;
+        };
+        for (const Borders bands : {Borders {4, 9}, Borders {3, 3}, Borders {2, 7}}) {
+            for (const QSize &size : {QSize(40, 30), QSize(17, 5), QSize(7, 8)}) {
+                for (const QPoint &point : pointsAround(size)) {
+                    const int nRow = third(point.y(), size.height(), bands.nBorder);
+                    const int nBand = nRow == 1 ? bands.nBorder : bands.nCorner;
+                    QCOMPARE(hitTest(point, size, bands, true),
+                        parts[nRow][third(point.x(), size.width(), nBand)]);
+                    QCOMPARE(hitTest(point, size, bands, false), Hit::Client);
+                }
             }
         }
-    }
-
-    void overlappingBandsGoToTheTopAndTheLeft()
-    {
-        const Borders bands {8, 17};
-        QCOMPARE(hitTest({10, 4}, {20, 10}, bands, true), Hit::TopLeft);
-        QCOMPARE(hitTest({10, 8}, {20, 10}, bands, true), Hit::BottomLeft);
-        QCOMPARE(hitTest({17, 9}, {20, 10}, bands, true), Hit::BottomRight);
-        QCOMPARE(hitTest({5, 40}, {12, 80}, bands, true), Hit::Left);
     }
 
     void aCornerIsTwoBordersAndALine()
@@ -46,37 +41,61 @@ private slots:
         QCOMPARE(nCorner, 16);
     }
 
-    void maximized_data() { addRows(s_maximized); }
+    void maximized_data()
+    {
+        const auto row = columns<Rect, Rect, Rect, Rect>("proposed", "workArea", "monitor", "expected");
+        const Rect monitor {0, 0, 1280, 800};
+        const Rect work {0, 0, 1280, 760};
+        row("the whole monitor becomes the work area", monitor, work, monitor, work);
+        row("wider alone becomes the work area", {-8, 0, 1288, 700}, work, monitor, work);
+        row("higher alone becomes the work area", {100, 0, 1200, 800}, work, monitor, work);
+        row("as large but elsewhere stays", {5, 7, 1285, 767}, work, monitor, {5, 7, 1285, 767});
+        row("a monitor without a task bar keeps its whole", monitor, monitor, monitor, monitor);
+        row("a monitor left of the first one has negative places", {-1288, -8, 8, 1032}, {-1280, 0, 0, 984},
+            {-1280, 0, 0, 1024}, {-1280, 0, 0, 984});
+        row("the whole of a monitor with a shifted work area is not kept", monitor, {0, 40, 1280, 840},
+            monitor, {0, 40, 1280, 840});
+    }
     void maximized()
     {
-        const MaximizedRow &r = row(s_maximized);
-        QCOMPARE(maximizedRect(r.proposed, r.workArea, r.monitor), r.expected);
+        QFETCH(const Rect, proposed);
+        QFETCH(const Rect, workArea);
+        QFETCH(const Rect, monitor);
+        QTEST(maximizedRect(proposed, workArea, monitor), "expected");
     }
 
     void regionClipsAMaximizedWindowAndSquaresAPlainOne()
     {
-        const Rect window {-8, -8, 1608, 968};
-        const Rect client {0, 0, 1600, 960};
+        const Rect window {-8, -7, 1608, 968};
+        const Rect client {1, 2, 1600, 960};
         for (const bool bComposition : {false, true})
-            QCOMPARE(windowRegion(true, bComposition, window, client), Rect({8, 8, 1608, 968}));
+            QCOMPARE(windowRegion(true, bComposition, window, client), Rect({9, 9, 1608, 967}));
         QCOMPARE(windowRegion(false, true, window, client), Rect());
         QCOMPARE(windowRegion(false, false, window, client), Rect({0, 0, 32767, 32767}));
     }
 
-    void strips_data() { addRows(s_strips); }
+    // Each edge where the old and the new size end first; of equal ones that of the old size.
     void strips()
     {
-        const StripsRow &r = row(s_strips);
-        const auto [column, line] = edgeRepaint(r.oldSize, r.newSize);
-        QCOMPARE(column, r.column);
-        QCOMPARE(line, r.row);
+        const int sides[] = {300, 400, 500};
+        for (int i = 0; i < 81; ++i) {
+            const QSize before(sides[i % 3], sides[i / 3 % 3]);
+            const QSize after(sides[i / 9 % 3], sides[i / 27]);
+            const QSize narrow = after.width() < before.width() ? after : before;
+            const QSize low = after.height() < before.height() ? after : before;
+            const auto [column, row] = edgeRepaint(before, after);
+            QCOMPARE(column, Rect({narrow.width() - 1, 0, narrow.width(), narrow.height()}));
+            QCOMPARE(row, Rect({0, low.height() - 1, low.width(), low.height()}));
+        }
     }
 
-    void points_data() { addRows(s_points); }
     void points()
     {
-        const PointRow &r = row(s_points);
-        QCOMPARE(logicalPoint(r.physical, r.ratio), r.logical);
+        const auto logical = [](QPoint physical, double ratio) { return logicalPoint(physical, ratio); };
+        QCOMPARE(logical({17, -3}, 1), QPoint(17, -3));
+        QCOMPARE(logical({-3, 5}, 2), QPoint(-2, 3)); // halves go away from zero
+        QCOMPARE(logical({1, -1}, 2.5), QPoint(0, 0));
+        QCOMPARE(logical({8, -9}, 1.25), QPoint(6, -7));
     }
 
     void messagesCarrySignedHalves()
@@ -84,6 +103,15 @@ private slots:
         QCOMPARE(messagePoint(0x00070005), QPoint(5, 7));
         QCOMPARE(messagePoint(static_cast<qintptr>(0xfff9fffb)), QPoint(-5, -7));
         QCOMPARE(messagePoint(0x7fff8000), QPoint(-32768, 32767));
+    }
+
+private:
+    static QList<QPoint> pointsAround(const QSize &size)
+    {
+        QList<QPoint> points;
+        for (int i = 0; i < (size.width() + 4) * (size.height() + 4); ++i)
+            points.append({i % (size.width() + 4) - 2, i / (size.width() + 4) - 2});
+        return points;
     }
 };
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The frame on a real window, by the messages that Windows sends to it.
+// The frame on a real window, by the messages that Windows sends to it. What is decided without a window has
+// a test of its own and is what the answers are compared with.
+#include <ui/framegeometry.h>
 #include <ui/kpstyledframe.h>
 #include <ui/nativescreen.h>
 
-#include "framerows.h"
+#include <support/rows.h>
 
 #include <QMainWindow>
 #include <QSettings>
@@ -13,9 +15,13 @@
 #include <qt_windows.h>
 #include <uxtheme.h>
 
-using namespace FrameRows;
+using namespace FrameGeometry;
 
 namespace {
+
+// The display that the tests for Windows run on.
+constexpr Rect s_monitor {0, 0, 1280, 800};
+constexpr Rect s_workArea {0, 0, 1280, 760};
 
 constexpr Qt::WindowFlags s_mainWindowFlags =
     Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint;
@@ -101,8 +107,8 @@ LPARAM toParam(const QPoint &point)
 
 Borders systemBorders()
 {
-    const int nBorder = GetSystemMetrics(SM_CXPADDEDBORDER) + GetSystemMetrics(SM_CXSIZEFRAME);
-    return {nBorder, GetSystemMetrics(SM_CXBORDER) + 2 * nBorder};
+    return borders(
+        GetSystemMetrics(SM_CXPADDEDBORDER), GetSystemMetrics(SM_CXSIZEFRAME), GetSystemMetrics(SM_CXBORDER));
 }
 
 Rect monitorRect(Rect *pWorkArea)
@@ -134,7 +140,7 @@ private slots:
     // Only real Windows can decide: under Wine the first paint takes the layer and its color key away.
     void setUpOutlastsTheFirstPaint()
     {
-        QTest::qWait(500);
+        m_pFrame->repaint();
         if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version"))
             QEXPECT_FAIL("", "Wine drops the layer when the window is painted", Continue);
         QVERIFY(isSetUp(m_pFrame->winId()));
@@ -162,53 +168,43 @@ private slots:
         QTRY_COMPARE(region(), Rect({0, 0, 32767, 32767}));
     }
 
-    void hits_data() { addRows(s_hits); }
     void hits()
     {
-        const HitRow &r = row(s_hits);
         for (const QPoint &place : {QPoint(200, 100), QPoint(-60, -40)}) {
             SetWindowPos(hWnd(), nullptr, place.x(), place.y(), 640, 480, SWP_NOZORDER);
             QCOMPARE(clientSize(), QSize(640, 480));
-            QCOMPARE(hitAt(r.x, r.y), static_cast<LRESULT>(r.hit));
+            compareHits(true);
         }
-    }
-
-    void aWindowOfFixedSizeIsAllContent_data() { addRows(s_hits); }
-    void aWindowOfFixedSizeIsAllContent()
-    {
-        const HitRow &r = row(s_hits);
         m_pFrame->overrideWindowFlags(m_pFrame->windowFlags() | Qt::MSWindowsFixedSizeDialogHint);
-        QCOMPARE(hitAt(r.x, r.y), HTCLIENT);
+        compareHits(false);
     }
 
     void aMaximizedWindowIsAllContentAndFillsTheWorkArea()
     {
         maximize();
-        for (const HitRow &r : s_hits)
-            QCOMPARE(hitAt(r.x, r.y), HTCLIENT);
+        compareHits(false);
         RECT client {};
         GetClientRect(hWnd(), &client);
         MapWindowPoints(hWnd(), nullptr, reinterpret_cast<POINT *>(&client), 2);
         QCOMPARE(fromNative(client), s_workArea);
     }
 
-    void maximizedRectangles_data()
-    {
-        addRows(s_maximized,
-            [](const MaximizedRow &r) { return r.monitor == s_monitor && r.workArea == s_workArea; });
-    }
     void maximizedRectangles()
     {
-        const MaximizedRow &r = row(s_maximized);
-        RECT rect {r.proposed.nLeft, r.proposed.nTop, r.proposed.nRight, r.proposed.nBottom};
-        QCOMPARE(SendMessageW(hWnd(), WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&rect)), 0);
-        QCOMPARE(fromNative(rect), r.proposed);
-
+        const auto answerFor = [this](BOOL bParams, const Rect &proposed) {
+            NCCALCSIZE_PARAMS params {};
+            params.rgrc[0] = {proposed.nLeft, proposed.nTop, proposed.nRight, proposed.nBottom};
+            const auto nParams = reinterpret_cast<LPARAM>(&params); // the rectangle itself comes first
+            return SendMessageW(hWnd(), WM_NCCALCSIZE, bParams, nParams) == 0 ? fromNative(params.rgrc[0])
+                                                                              : Rect();
+        };
+        const Rect rects[] = {s_workArea, s_monitor, {-8, -8, 1288, 768}, {-8, 0, 1288, 700},
+            {100, 0, 1200, 800}, {10, 20, 1200, 700}, {5, 7, 1285, 767}};
+        for (const Rect &proposed : rects)
+            QCOMPARE(answerFor(FALSE, proposed), proposed);
         maximize();
-        NCCALCSIZE_PARAMS params {};
-        params.rgrc[0] = rect;
-        QCOMPARE(SendMessageW(hWnd(), WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params)), 0);
-        QCOMPARE(fromNative(params.rgrc[0]), r.expected);
+        for (const Rect &proposed : rects)
+            QCOMPARE(answerFor(TRUE, proposed), maximizedRect(proposed, s_workArea, s_monitor));
     }
 
     void activationIsAnsweredByTheDefaultAlone()
@@ -268,21 +264,29 @@ private slots:
     }
 
     // Validating everything before the frame sees the new size leaves only what the frame itself invalidates.
-    void anotherSizeRepaintsTheEdges_data() { addRows(s_strips); }
+    void anotherSizeRepaintsTheEdges_data()
+    {
+        const auto row = columns<QSize, QSize>("oldSize", "newSize");
+        row("growing", {400, 300}, {500, 350});
+        row("shrinking", {500, 350}, {400, 300});
+        row("wider and lower", {400, 350}, {500, 300});
+        row("another height alone", {400, 300}, {400, 350});
+    }
     void anotherSizeRepaintsTheEdges()
     {
-        const StripsRow &r = row(s_strips);
-        setSize(r.oldSize);
+        QFETCH(QSize, oldSize);
+        QFETCH(QSize, newSize);
+        setSize(oldSize);
         const HRGN hFound = CreateRectRgn(0, 0, 0, 0);
         m_pFrame->beforeSize = [this] { ValidateRect(hWnd(), nullptr); };
         m_pFrame->afterSize = [this, hFound] { GetUpdateRgn(hWnd(), hFound, FALSE); };
-        setSize(r.newSize);
+        setSize(newSize);
         m_pFrame->afterSize = nullptr;
 
-        const HRGN hExpected =
-            CreateRectRgn(r.column.nLeft, r.column.nTop, r.column.nRight, r.column.nBottom);
-        const HRGN hRow = CreateRectRgn(r.row.nLeft, r.row.nTop, r.row.nRight, r.row.nBottom);
-        const HRGN hClient = CreateRectRgn(0, 0, r.newSize.width(), r.newSize.height());
+        const auto [column, row] = edgeRepaint(oldSize, newSize);
+        const HRGN hExpected = CreateRectRgn(column.nLeft, column.nTop, column.nRight, column.nBottom);
+        const HRGN hRow = CreateRectRgn(row.nLeft, row.nTop, row.nRight, row.nBottom);
+        const HRGN hClient = CreateRectRgn(0, 0, newSize.width(), newSize.height());
         CombineRgn(hExpected, hExpected, hRow, RGN_OR);
         CombineRgn(hExpected, hExpected, hClient, RGN_AND);
         QVERIFY(EqualRgn(hFound, hExpected));
@@ -312,18 +316,14 @@ private slots:
         SendMessageW(hWnd(), WM_LBUTTONUP, 0, toParam({320, 300}));
     }
 
-    void pointsAreLogical_data()
-    {
-        const double dRatio = qApp->devicePixelRatio();
-        addRows(s_points, [dRatio](const PointRow &r) { return qFuzzyCompare(r.ratio, dRatio); });
-    }
     void pointsAreLogical()
     {
-        const PointRow &r = row(s_points);
         m_pFrame->titleBar = QRect(-1000, -1000, 2000, 2000);
-        m_pFrame->asked.clear();
-        QVERIFY(answerTo(WM_LBUTTONDOWN, MK_LBUTTON, toParam(r.physical)).bHandled);
-        QCOMPARE(m_pFrame->asked, QList<QPoint>({r.logical}));
+        for (const QPoint &physical : {QPoint(17, -3), QPoint(3, 5), QPoint(2, 5), QPoint(-2, -5)}) {
+            m_pFrame->asked.clear();
+            QVERIFY(answerTo(WM_LBUTTONDOWN, MK_LBUTTON, toParam(physical)).bHandled);
+            QCOMPARE(m_pFrame->asked, QList<QPoint>({logicalPoint(physical, qApp->devicePixelRatio())}));
+        }
     }
 
     void aDoubleClickOnTheTitleBarMaximizesAndRestores()
@@ -414,13 +414,25 @@ private:
         return {client.right, client.bottom};
     }
 
-    [[nodiscard]] LRESULT hitAt(At x, At y) const
+    // At all places where something else may begin.
+    void compareHits(bool bResizable) const
     {
-        const QSize size = clientSize();
         const Borders bands = systemBorders();
-        POINT point {coordinate(x, size.width(), bands), coordinate(y, size.height(), bands)};
-        ClientToScreen(hWnd(), &point);
-        return SendMessageW(hWnd(), WM_NCHITTEST, 0, toParam({point.x, point.y}));
+        const QSize size = clientSize();
+        const auto places = [&](int nLength) {
+            const auto [nBorder, nCorner] = bands;
+            return QList<int> {-1, 0, nBorder - 1, nBorder, nCorner - 1, nCorner, nLength / 2,
+                nLength - nCorner - 1, nLength - nCorner, nLength - nBorder - 1, nLength - nBorder,
+                nLength - 1};
+        };
+        for (const int x : places(size.width())) {
+            for (const int y : places(size.height())) {
+                POINT point {x, y};
+                ClientToScreen(hWnd(), &point);
+                QCOMPARE(Hit(SendMessageW(hWnd(), WM_NCHITTEST, 0, toParam({point.x, point.y}))),
+                    hitTest({x, y}, size, bands, bResizable));
+            }
+        }
     }
 
     // A message with several answers has been sent several times; the last comes first.
