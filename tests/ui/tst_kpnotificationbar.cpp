@@ -8,7 +8,7 @@
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
-#include <algorithm>
+#include <QRandomGenerator>
 
 namespace {
 
@@ -54,45 +54,36 @@ private slots:
         m_pBar = m_pWindow->getNotificationBar();
     }
 
-    void barShowsWhatItIsGiven_data()
-    {
-        const auto row = columns<QString, QString, bool>("text", "button", "closable");
-        row("everything", "Saved & <b>done</b>", "Undo", true);
-        row("no button", "Saved", "", true);
-        row("nothing but the icon", "", "", false);
-    }
+    // Whatever was shown before, by the window or by the bar itself, on whatever display.
     void barShowsWhatItIsGiven()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, button);
-        QFETCH(bool, closable);
-        QVERIFY(!m_pBar->isVisible());
-        m_pWindow->showNotification("before", KPNotificationBar::Warning, "before", !closable);
-        m_pWindow->showNotification(text, KPNotificationBar::Info, button, closable);
-        QVERIFY(m_pBar->isVisible());
-        QCOMPARE(message()->text(), text);
-        QCOMPARE(message()->isVisible(), !text.isEmpty());
-        QCOMPARE(goButton()->text(), button);
-        QCOMPARE(goButton()->isVisible(), !button.isEmpty());
-        QCOMPARE(closeBox()->isVisible(), closable);
-        m_pWindow->hideNotification();
-        QVERIFY(!m_pBar->isVisible());
-    }
-
-    void iconFollowsTypeAndDisplay()
-    {
-        for (const char *pName : {"warning", "info"}) {
-            const bool bWarning = pName[0] == 'w';
-            m_pBar->show(
-                "text", bWarning ? KPNotificationBar::Warning : KPNotificationBar::Type(2), {}, true);
-            for (const int nDPI : {144, 96}) {
-                m_pWindow->setScreen(screenOf(nDPI));
-                emit m_pWindow->dpiChanged(nDPI * 100 / 96);
-                QCOMPARE(m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
-                    QPixmap(QString(":/core/images/%1_16%2.png").arg(pName, nDPI == 144 ? "_2x" : ""))
-                        .toImage());
-                QCOMPARE(closeBox()->iconSize().width(), nDPI == 144 ? 32 : 16);
-            }
+        QRandomGenerator random(3);
+        for (int i = 0; i < 100; ++i) {
+            const QString strText = QStringList({"", "Saved & <b>done</b>", "x"})[random.bounded(3)];
+            const QString strButton = QStringList({"", "Undo"})[random.bounded(2)];
+            const bool bClosable = random.bounded(2);
+            const int nType = random.bounded(3); // the last is no type
+            const bool bFine = random.bounded(2);
+            m_pWindow->setScreen(screenOf(bFine ? 144 : 96));
+            m_pWindow->showNotification(strText, KPNotificationBar::Type(nType), strButton, bClosable);
+            if (random.bounded(2))
+                compareIcons(nType == KPNotificationBar::Warning, bFine);
+            m_pWindow->setScreen(screenOf(bFine ? 96 : 144));
+            emit m_pWindow->dpiChanged(bFine ? 100 : 150);
+            compareIcons(nType == KPNotificationBar::Warning, !bFine);
+            QCOMPARE(m_pBar->text(), strText);
+            QCOMPARE(message()->text(), strText);
+            QCOMPARE(goButton()->text(), strButton);
+            QVERIFY(m_pBar->isVisible());
+            QCOMPARE(message()->isVisible(), !strText.isEmpty());
+            QCOMPARE(goButton()->isVisible(), !strButton.isEmpty());
+            QCOMPARE(closeBox()->isVisible(), bClosable);
+            const int nEnd = random.bounded(3);
+            if (nEnd == 0)
+                m_pWindow->hideNotification();
+            else if (nEnd == 1)
+                closeBox()->click();
+            QCOMPARE(m_pBar->isVisible(), nEnd == 2);
         }
     }
 
@@ -189,6 +180,15 @@ private slots:
     }
 
 private:
+    void compareIcons(bool bWarning, bool bFine) const
+    {
+        const QString strName = bWarning ? "warning" : "info";
+        QCOMPARE(m_pBar->findChild<QLabel *>("m_pIconLabel")->pixmap(Qt::ReturnByValue).toImage(),
+            QPixmap(QString(":/core/images/%1_16%2.png").arg(strName, bFine ? "_2x" : "")).toImage());
+        QCOMPARE(closeBox()->iconSize(), QSize(16, 16) * (bFine ? 2 : 1));
+        QVERIFY(!closeBox()->icon().isNull());
+    }
+
     [[nodiscard]] QLabel *message() const { return m_pBar->findChild<QLabel *>("m_pMessageLabel"); }
     [[nodiscard]] QPushButton *goButton() const { return m_pBar->findChild<QPushButton *>("m_pButton"); }
     [[nodiscard]] QToolButton *closeBox() const { return m_pBar->findChild<QToolButton *>("m_pCloseButton"); }
