@@ -3,6 +3,8 @@
 
 #include <ui/imainmenuwidget.h>
 
+#include <QRandomGenerator>
+
 namespace {
 
 // Keeps the options of the title bar drawn last. If `strip` is set, paints it and the title over the bar.
@@ -94,97 +96,67 @@ private slots:
         QVERIFY(!TestWindow().isStyledFrameTitleBar(400, 5));
     }
 
-    void dragMovesTheWindowUntilTheRelease()
+    // The window goes with the cursor from a press on the empty stretch to whatever ends that. A maximised
+    // one is restored by a way of six pixels right or down, and then comes under the cursor at the top of the
+    // screens.
+    void dragsOfTheTitleBar()
     {
-        drag(stretchPoint(), {30, 30}, Qt::RightButton);
-        release(Qt::RightButton);
-        drag(m_pMenuBar->cornerWidget(Qt::TopLeftCorner)->geometry().center(), {30, 30});
-        release();
-        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
-        drag(stretchPoint(), {3, -2});
-        QCOMPARE(m_pWindow->pos(), QPoint(103, 98));
-        moveCursor({60, 40});
-        QCOMPARE(m_pWindow->pos(), QPoint(160, 140));
-        moveOver(m_pMenuBar->actionGeometry(file()).center(), {9, 9}, Qt::LeftButton);
-        QVERIFY(!QApplication::activePopupWidget());
-        QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
-        release();
-        moveCursor({90, 90});
-        QCOMPARE(m_pWindow->pos(), QPoint(109, 109));
-    }
-
-    void dragEndsWithoutItsRelease_data()
-    {
-        const auto row = columns<int>("event");
-        row("the button came up elsewhere", int(QEvent::None));
-        row("the window was hidden", int(QEvent::Hide));
-        row("another window became the active one", int(QEvent::WindowDeactivate));
-    }
-    void dragEndsWithoutItsRelease()
-    {
-        QFETCH(const int, event);
-        drag(stretchPoint(), {5, 5});
-        if (event == QEvent::Hide) {
-            m_pWindow->hide();
-            showAndWait();
-        } else if (event == QEvent::WindowDeactivate) {
-            QWidget other;
-            other.show();
-            other.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&other));
+        const int nScreens = m_pWindow->screen()->virtualGeometry().width();
+        QRandomGenerator random(9);
+        QRect normal = m_pWindow->geometry();
+        QPoint pressed;
+        QPoint origin;
+        bool bMaximized = false;
+        bool bDragging = false;
+        bool bRestored = false;
+        for (int i = 0; i < 1000; ++i) {
+            const QPoint cursor =
+                pressed + QPoint(random.bounded(-9, 14), random.bounded(-9, 10)) * random.bounded(1, 9);
+            const auto held = random.bounded(8) ? Qt::LeftButton : Qt::RightButton;
+            const int nWhat = random.bounded(14);
+            if (nWhat < 2) {
+                const bool bEmpty = random.bounded(5);
+                const QPoint where(random.bounded(300, 500), random.bounded(100));
+                mouse(QEvent::MouseButtonPress, bEmpty ? stretchPoint() : QPoint(3, 5), where, held);
+                if (bEmpty && held == Qt::LeftButton) {
+                    pressed = where;
+                    origin = m_pWindow->pos();
+                    bDragging = true;
+                    bRestored = false;
+                }
+            } else if (nWhat < 9) {
+                bDragging = bDragging && held == Qt::LeftButton;
+                const bool bOverMenu = nWhat < 5 && bDragging; // without a drag it would open
+                mouse(QEvent::MouseMove, bOverMenu ? titlePoint() : stretchPoint(), cursor, held);
+                const QPoint way = cursor - pressed;
+                if (bDragging && bMaximized) {
+                    bMaximized = way.x() < 6 && way.y() < 6;
+                    bRestored = bRestored || !bMaximized;
+                } else if (bDragging) {
+                    if (std::exchange(bRestored, false))
+                        origin = QPoint(qMin(qMax(0, cursor.x() - 400), nScreens - 800), 0);
+                    normal.moveTopLeft(origin + way);
+                }
+            } else if (nWhat < 11) {
+                mouse(QEvent::MouseButtonRelease, random.bounded(2) ? stretchPoint() : titlePoint(), cursor,
+                    held);
+                bDragging = bDragging && held != Qt::LeftButton;
+            } else if (nWhat == 11) {
+                mouse(QEvent::MouseButtonDblClick, stretchPoint(), cursor, held);
+                bMaximized = bMaximized || held == Qt::LeftButton;
+            } else if (nWhat == 12) {
+                QEvent deactivated(QEvent::WindowDeactivate);
+                QApplication::sendEvent(m_pMenuBar, &deactivated);
+                bDragging = false;
+            } else {
+                m_pWindow->hide();
+                m_pWindow->show();
+                bDragging = false;
+            }
+            QCOMPARE(m_pWindow->isMaximized(), bMaximized);
+            QVERIFY(bMaximized || m_pWindow->geometry() == normal);
+            QVERIFY(!QApplication::activePopupWidget());
         }
-        const QPoint before = m_pWindow->pos();
-        const auto buttons = event == QEvent::None ? Qt::NoButton : Qt::LeftButton;
-        for (const Qt::MouseButtons held : {Qt::MouseButtons(buttons), Qt::MouseButtons(Qt::LeftButton)}) {
-            moveOver(stretchPoint(), {40, 40}, held);
-            QCOMPARE(m_pWindow->pos(), before);
-        }
-        release();
-    }
-
-    void dragOfAMaximisedWindow_data()
-    {
-        const auto row = columns<QPoint, bool>("delta", "restored");
-        row("a little right and down", QPoint(5, 5), false);
-        row("far to the left", QPoint(-50, 0), false);
-        row("far up and a little right", QPoint(3, -10), false);
-        row("right by the threshold", QPoint(6, -50), true);
-        row("down by the threshold", QPoint(-50, 6), true);
-    }
-    void dragOfAMaximisedWindow()
-    {
-        QFETCH(QPoint, delta);
-        dragMaximised(delta);
-        QTEST(!m_pWindow->isMaximized(), "restored");
-        release();
-    }
-
-    void restoredWindowComesUnderTheCursor()
-    {
-        dragMaximised({10, 0});
-        QVERIFY(!m_pWindow->isMaximized());
-        QCOMPARE(m_pWindow->pos(), QPoint(100, 100));
-        moveCursor({12, 0});
-        const int nCentred = m_pressed.x() + 12 - 400;
-        QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 12, 0));
-        moveCursor({32, 7});
-        QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 32, 7));
-        release();
-
-        drag(stretchPoint(), {1, 1});
-        QCOMPARE(m_pWindow->pos(), QPoint(nCentred + 33, 8));
-        release();
-    }
-
-    void doubleClickMaximisesAndLeavesItSo()
-    {
-        for (int i = 0; i < 2; ++i) {
-            QTest::mouseDClick(m_pWindow->windowHandle(), Qt::LeftButton, {}, inWindow(stretchPoint()));
-            QVERIFY(m_pWindow->isMaximized());
-        }
-        m_pWindow->showNormal();
-        QTest::mouseDClick(m_pWindow->windowHandle(), Qt::RightButton, {}, inWindow(stretchPoint()));
-        QVERIFY(!m_pWindow->isMaximized());
     }
 
     void titleIsThatOfTheFile_data()
@@ -413,42 +385,15 @@ private:
 
     [[nodiscard]] QRect titleInk() const { return inkOf(m_pMenuBar->grab().toImage(), stretchRect()); }
 
-    [[nodiscard]] QPoint inWindow(const QPoint &inMenuBar) const
-    {
-        return m_pMenuBar->mapTo(m_pWindow.get(), inMenuBar);
-    }
+    [[nodiscard]] QPoint titlePoint() const { return m_pMenuBar->actionGeometry(file()).center(); }
 
-    void drag(const QPoint &from, const QPoint &delta, Qt::MouseButton button = Qt::LeftButton)
+    void mouse(QEvent::Type type, const QPoint &point, const QPoint &cursor, Qt::MouseButton button)
     {
-        m_pressed = m_pMenuBar->mapToGlobal(from);
-        QTest::mousePress(m_pWindow->windowHandle(), button, {}, inWindow(from));
-        moveCursor(delta);
-    }
-
-    void dragMaximised(const QPoint &delta)
-    {
-        m_pWindow->showMaximized();
-        QTRY_VERIFY(m_pMenuBar->width() > 1200);
-        drag(QPoint(600, 5), delta);
-    }
-
-    void moveCursor(const QPoint &delta)
-    {
-        m_cursor = m_pressed + delta;
-        QTest::mouseMove(m_pWindow->windowHandle(), m_pWindow->mapFromGlobal(m_cursor));
-    }
-
-    // Sends a move over `point` of the menu bar whose cursor is `delta` away from where the drag began.
-    void moveOver(const QPoint &point, const QPoint &delta, Qt::MouseButtons held)
-    {
-        QMouseEvent move(QEvent::MouseMove, QPointF(point), QPointF(m_pressed + delta), Qt::NoButton, held,
-            Qt::NoModifier);
-        QApplication::sendEvent(m_pMenuBar, &move);
-    }
-
-    void release(Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseRelease(m_pWindow->windowHandle(), button, {}, m_pWindow->mapFromGlobal(m_cursor));
+        const bool bMove = type == QEvent::MouseMove;
+        const bool bUp = type == QEvent::MouseButtonRelease;
+        QMouseEvent event(type, QPointF(point), QPointF(cursor), bMove ? Qt::NoButton : button,
+            bUp ? Qt::NoButton : button, Qt::NoModifier);
+        QApplication::sendEvent(m_pMenuBar, &event);
     }
 
     static void choose(const char *pText)
@@ -464,8 +409,6 @@ private:
 
     IMainMenuWidget *m_pTitleBar = nullptr;
     QMenuBar *m_pMenuBar = nullptr;
-    QPoint m_pressed;
-    QPoint m_cursor;
 };
 
 QTEST_MAIN(tst_IMainMenuWidget)
