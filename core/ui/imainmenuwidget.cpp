@@ -4,128 +4,25 @@
 #include "displayscale.h"
 #include "iui.h"
 #include "mainwindow.h"
+#include "ui/iconlabel.h"
 #include "ui/kpnotificationbar.h"
 #include "ui/titlebargeometry.h"
+#include "ui/titlebutton.h"
+#include "ui/titletext.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QHelpEvent>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QStyleOptionTitleBar>
 #include <QStylePainter>
 #include <QToolButton>
 #include <QToolTip>
-#include <QtMath>
 
-namespace {
-
-// In pixels at a display scale of 100 percent.
-constexpr int s_nIconSide = 16;
-constexpr int s_nTitleMargin = 12;
-
-// A flat button that every style draws raised while the mouse is over it.
-class TitleButton : public QPushButton
-{
-public:
-    using QPushButton::QPushButton;
-
-protected:
-    void initStyleOption(QStyleOptionButton *pOption) const override
-    {
-        QPushButton::initStyleOption(pOption);
-        if (pOption->state & QStyle::State_MouseOver)
-            pOption->features &= ~QStyleOptionButton::Flat;
-    }
-};
-
-// Keeps its fixed size as hint: with QLabel's, the image would make the menu bar higher than its titles.
-class IconLabel : public QLabel
-{
-public:
-    using QLabel::QLabel;
-    [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
-    [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
-
-    // Scales the image down to `nSide` pixels, or centers a smaller one in a square of that size.
-    void fit(const QPixmap &pixmap, int nSide)
-    {
-        const int nFrame = qMax(0, (nSide - pixmap.height()) / 2);
-        const int nFixed = qMin(nSide, pixmap.height() + 2 * nFrame);
-        setPixmap(pixmap);
-        setScaledContents(true);
-        setMargin(nFrame);
-        setFixedSize(nFixed, nFixed);
-    }
-};
-
-QString shownTitle(const QWidget *pTitleBar)
-{
-    return pTitleBar->windowTitle() + QLatin1String(pTitleBar->isWindowModified() ? "*" : "");
-}
-
-} // namespace
-
-/// Paints the title into the free part of the menu bar. It covers the whole bar, because a child is repainted
-/// with its parent and so follows every change of the menus; mouse events pass through it.
-class IMainMenuWidget::TitleText : public QWidget
-{
-public:
-    explicit TitleText(IMainMenuWidget *pTitleBar)
-        : QWidget(pTitleBar->m_pMenuBar)
-        , m_pTitleBar(pTitleBar)
-    {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-
-    [[nodiscard]] bool isElided() const { return textRect().width() < textWidth(); }
-
-protected:
-    void paintEvent(QPaintEvent *pEvent) override
-    {
-        Q_UNUSED(pEvent)
-        const QRect rect = textRect();
-        // Elided in the middle, so that the program's name and the modified mark at the end stay visible.
-        const QString strText =
-            fontMetrics().elidedText(shownTitle(m_pTitleBar), Qt::ElideMiddle, rect.width());
-        // A path is drawn in its own direction, whatever that of the window is.
-        const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
-        QPainter painter(this);
-        style()->drawItemText(&painter, rect, int(Qt::AlignCenter) | Qt::TextSingleLine | nDirection,
-            palette(), isEnabled(), strText, QPalette::Text);
-    }
-
-private:
-    [[nodiscard]] int textWidth() const
-    {
-        return qCeil(QFontMetricsF(font()).horizontalAdvance(shownTitle(m_pTitleBar)));
-    }
-
-    [[nodiscard]] QRect textRect() const
-    {
-        const QMenuBar *pMenuBar = m_pTitleBar->m_pMenuBar;
-        const QWidget *pTrailing = pMenuBar->cornerWidget(Qt::TopRightCorner);
-        QList<QRect> leading;
-        const auto actions = pMenuBar->actions();
-        for (QAction *pAction : actions)
-            leading.append(pMenuBar->actionGeometry(pAction));
-        const auto widgets = pMenuBar->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QWidget *pWidget : widgets) {
-            if (pWidget != this && pWidget != pTrailing && !pWidget->isWindow() && pWidget->isVisible())
-                leading.append(pWidget->geometry());
-        }
-        const int nMargin = DisplayScale::proportional(DisplayScale::logicalDpi(this), s_nTitleMargin);
-        const QRect stretch = TitleBarGeometry::emptyStretch(
-            rect(), leading, pTrailing ? pTrailing->geometry() : QRect(), layoutDirection());
-        return TitleBarGeometry::titleRect(rect(), stretch.adjusted(nMargin, 0, -nMargin, 0), textWidth());
-    }
-
-    IMainMenuWidget *const m_pTitleBar;
-};
+constexpr int s_nIconSide = 16; // in pixels at a display scale of 100 percent
 
 IMainMenuWidget::IMainMenuWidget(MainWindow *pParent, const QString &strTitle, const QIcon &icon)
     : QWidget(pParent)
@@ -155,7 +52,7 @@ void IMainMenuWidget::setMenuBar(QMenuBar *pMenuBar)
     m_pIconLabel = new IconLabel(m_pMenuBar);
     m_pMenuBar->setCornerWidget(m_pIconLabel, Qt::TopLeftCorner);
     createButtons();
-    m_pTitleText = new TitleText(this);
+    m_pTitleText = new TitleText(m_pMenuBar, this);
     m_pTitleText->setGeometry(m_pMenuBar->rect());
     // With a hidden bar it appears later; show() now would polish it before the style is final.
     if (m_pMenuBar->isVisible())
@@ -235,7 +132,7 @@ void IMainMenuWidget::changeEvent(QEvent *pEvent)
 {
     if (pEvent->type() == QEvent::WindowTitleChange || pEvent->type() == QEvent::ModifiedChange) {
         const QString strMark = QStringLiteral("[*]");
-        window()->setWindowTitle(shownTitle(this).replace(strMark, strMark + strMark));
+        window()->setWindowTitle(TitleText::shownTitle(this).replace(strMark, strMark + strMark));
         if (m_pTitleText)
             m_pTitleText->update();
     }
@@ -269,8 +166,7 @@ void IMainMenuWidget::onDPIChanged()
     dressButton("minizeButton", tr("Minimize"), QStringLiteral("minimize"));
     updateMaximized(window()->isMaximized());
     dressButton("closeButton", tr("Close"), QStringLiteral("close"));
-    static_cast<IconLabel *>(m_pIconLabel)
-        ->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
+    m_pIconLabel->fit(IUi::getPixmap(QStringLiteral("icon"), 2, false), menuTitleHeight());
     if (!m_pNotificationBar->isHidden())
         m_pNotificationBar->updateIcons();
     // A menu bar that is not visible sizes its corner widget when it is shown.
@@ -297,7 +193,7 @@ QStyleOptionTitleBar IMainMenuWidget::titleBarOption() const
     option.titleBarState = static_cast<int>(window()->windowState());
     if (isActiveWindow())
         option.titleBarState |= QStyle::State_Active;
-    option.text = fontMetrics().elidedText(shownTitle(this), Qt::ElideRight, option.rect.width());
+    option.text = fontMetrics().elidedText(TitleText::shownTitle(this), Qt::ElideRight, option.rect.width());
     option.icon = windowIcon();
     return option;
 }
@@ -369,7 +265,7 @@ bool IMainMenuWidget::eventFilter(QObject *pWatched, QEvent *pEvent)
         if (!isTitleBarArea(point.x(), point.y()) || !m_pTitleText->isElided())
             return false;
         // A tool tip shows text that looks like HTML as HTML, and a file name may look so.
-        const QString strTip = QStringLiteral("<p>%1</p>").arg(shownTitle(this).toHtmlEscaped());
+        const QString strTip = QStringLiteral("<p>%1</p>").arg(TitleText::shownTitle(this).toHtmlEscaped());
         QToolTip::showText(pHelp->globalPos(), strTip, m_pMenuBar);
         return true;
     }

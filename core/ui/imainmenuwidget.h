@@ -6,13 +6,14 @@
 #include <QPoint>
 #include <QWidget>
 
+class IconLabel;
 class KPNotificationBar;
 class MainWindow;
-class QLabel;
 class QMenuBar;
 class QStyleOptionTitleBar;
 class QStylePainter;
 class QVBoxLayout;
+class TitleText;
 
 /// The top strip of the frameless main window: a row with icon, menus, title and buttons, and the
 /// notification bar below. The free part of the row drags the window. Owned by the window; GUI thread only.
@@ -62,8 +63,6 @@ protected:
     void contextMenuEvent(QContextMenuEvent *pEvent) override;
 
 private:
-    class TitleText;
-
     void createButtons();
     void createShortcuts();
     void dressButton(const char *pName, const QString &strToolTip, const QString &strIcon);
@@ -77,7 +76,7 @@ private:
     QVBoxLayout *m_pLayout;
     QMenuBar *m_pMenuBar = nullptr;
     KPNotificationBar *m_pNotificationBar;
-    QLabel *m_pIconLabel = nullptr;
+    IconLabel *m_pIconLabel = nullptr;
     TitleText *m_pTitleText = nullptr;
     QPoint m_pressPosition;
     QPoint m_windowPosition;
