@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <support/windowtest.h>
 
+#include <actionmanager/actionmanager.h>
+#include <actionmanager/contextaction.h>
+#include <actionmanager/contextmanager.h>
 #include <ui/imainmenuwidget.h>
 
 #include <QRandomGenerator>
@@ -27,7 +30,7 @@ public:
         if (control != CC_TitleBar || !strip.isValid())
             return;
         pPainter->fillRect(pOption->rect, strip);
-        pPainter->drawText(pOption->rect, Qt::AlignLeft, option.text);
+        pPainter->drawText(pOption->rect, int(Qt::AlignLeft | Qt::AlignAbsolute), option.text);
     }
 
     mutable QStyleOptionTitleBar option;
@@ -175,12 +178,54 @@ private slots:
         const RecordingStyle style(m_pTitleBar);
         m_pWindow->setWindowFilePath(file);
         m_pWindow->setWindowModified(modified);
-        m_pTitleBar->grab();
+        compareShown();
         QCOMPARE(style.option.text, painted);
         QCOMPARE(m_pWindow->windowTitle(), painted.replace("[*]", "[*][*]"));
         const int nHeight = style.pixelMetric(QStyle::PM_TitleBarHeight, &style.option, m_pTitleBar);
         QCOMPARE(style.option.rect, QRect(0, 0, m_pTitleBar->width(), nHeight));
         QVERIFY(!style.option.icon.isNull());
+        QVERIFY(style.option.titleBarState & QStyle::State_Active);
+        QCOMPARE(style.option.titleBarState & 0xff, int(m_pWindow->windowState()));
+    }
+
+    // Where no menu bar covers it: icon and title in a strip of the style, and under that what a widget
+    // shows.
+    void aBareTitleBarPaintsEverythingItself_data() { directions(); }
+    void aBareTitleBarPaintsEverythingItself()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        QApplication::setLayoutDirection(direction);
+        RecordingStyle style(m_pTitleBar);
+        style.strip = Qt::yellow;
+        m_pMenuBar->hide();
+        m_pTitleBar->setFixedHeight(40);
+        m_pTitleBar->setBackgroundRole(QPalette::Base);
+        for (const int nLength : {3, 500}) {
+            m_pWindow->setWindowFilePath(QString(nLength, 'm'));
+            QCoreApplication::sendPostedEvents();
+            const QImage image = m_pTitleBar->grab().toImage();
+            QImage expected(image.size(), image.format());
+            expected.fill(m_pTitleBar->palette().color(QPalette::Window));
+            QPainter painter(&expected);
+            painter.setFont(m_pTitleBar->font());
+            const QRect strip = style.option.rect;
+            painter.fillRect(strip, style.strip);
+            painter.setLayoutDirection(direction);
+            painter.drawText(
+                strip, int(Qt::AlignLeft | Qt::AlignAbsolute), style.option.text); // by the style
+            const bool bMirrored = direction == Qt::RightToLeft;
+            const int nSide = strip.height() - 3;
+            const QPixmap icon = m_pTitleBar->windowIcon().pixmap(nSide, nSide);
+            const int nIconX = bMirrored ? strip.width() - 3 - icon.width() : 3;
+            painter.drawPixmap(nIconX, 3 + (nSide - icon.height()) / 2, icon);
+            const int nX = icon.width() + 10;
+            const int nWidth = strip.width() - 10 - strip.height();
+            painter.drawText(QRect(bMirrored ? strip.width() - nX - nWidth : nX, 0, nWidth, strip.height()),
+                int(Qt::AlignVCenter | Qt::AlignAbsolute | (bMirrored ? Qt::AlignRight : Qt::AlignLeft)),
+                style.option.text);
+            painter.end();
+            QCOMPARE(image, expected);
+        }
     }
 
     void longTitleIsElidedAndItsToolTipIsPlainText()
@@ -266,14 +311,20 @@ private slots:
         const auto *pIcon = qobject_cast<QLabel *>(m_pMenuBar->cornerWidget(Qt::TopLeftCorner));
         QCOMPARE(pIcon->pixmap(Qt::ReturnByValue).size(), QSize(icon, icon));
         QTest::qWait(0);
-        QCOMPARE(m_pMenuBar->height(), m_pMenuBar->actionGeometry(file()).height());
+        const int nRow = m_pMenuBar->actionGeometry(file()).height();
+        QCOMPARE(m_pMenuBar->height(), nRow);
         for (const char *pName : {"minizeButton", "maximizeButton", "closeButton"}) {
             const QAbstractButton *pButton = button(pName);
             QCOMPARE(pButton->icon().availableSizes(), QList<QSize>({QSize(icon, icon)}));
             QCOMPARE(pButton->iconSize(), QSize(icon, icon));
             QCOMPARE(pButton->width(), pButton->height());
-            QCOMPARE(pButton->height(), m_pMenuBar->actionGeometry(file()).height());
+            QCOMPARE(pButton->height(), nRow);
         }
+        QCOMPARE(m_pMenuBar->cornerWidget()->size(), QSize(3 * nRow, nRow));
+        QCOMPARE(pIcon->margin(), qMax(0, (nRow - icon) / 2));
+        QCOMPARE(pIcon->size(), QSize(1, 1) * qMin(nRow, icon + 2 * pIcon->margin()));
+        QVERIFY(pIcon->hasScaledContents());
+        compareShown();
     }
 
     void theWindowLivesOnWithoutItsTitleBar()
@@ -305,44 +356,92 @@ private slots:
 
     void windowMenuOffersWhatIsPossible()
     {
-        const auto states = [this] {
-            QContextMenuEvent event(
-                QContextMenuEvent::Mouse, stretchPoint(), m_pWindow->pos() + QPoint(300, 5));
+        const QPoint place = m_pWindow->pos() + QPoint(300, 5);
+        const auto open = [&] {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, stretchPoint(), place);
             QApplication::sendEvent(m_pMenuBar, &event);
-            const QMenu *pMenu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            QStringList result;
-            for (const QAction *pAction : pMenu ? pMenu->actions() : QList<QAction *>())
-                result.append(pAction->text() + (pAction->isEnabled() ? "" : " -"));
-            return result;
+            return qobject_cast<QMenu *>(QApplication::activePopupWidget());
         };
-        QCOMPARE(states(), QStringList({"Restore -", "Minimize", "Maximize", "Close"}));
-        choose("Maximize");
-        QVERIFY(m_pWindow->isMaximized());
-        QCOMPARE(states(), QStringList({"Restore", "Minimize", "Maximize -", "Close"}));
-        choose("Restore");
-        QVERIFY(!m_pWindow->isMaximized());
-        states();
-        choose("Close");
-        QVERIFY(!m_pWindow->isVisible());
+        for (const char *pEntry : {"Maximize", "Restore", "Minimize", "Close"}) {
+            const QPointer<QMenu> pMenu = open();
+            QVERIFY(pMenu && pMenu->pos() == place);
+            QStringList states;
+            QAction *pChosen = nullptr;
+            const auto actions = pMenu->actions();
+            for (QAction *pAction : actions) {
+                states.append(pAction->text() + (pAction->isEnabled() ? "" : " -"));
+                pChosen = pAction->text() == pEntry ? pAction : pChosen;
+            }
+            const bool bRestorable = !qstrcmp(pEntry, "Restore");
+            QCOMPARE(states,
+                QStringList({bRestorable ? "Restore" : "Restore -", "Minimize",
+                    bRestorable ? "Maximize -" : "Maximize", "Close"}));
+            pChosen->trigger();
+            QCOMPARE(m_pWindow->isMaximized(), !qstrcmp(pEntry, "Maximize"));
+            QCOMPARE(m_pWindow->isMinimized(), !qstrcmp(pEntry, "Minimize"));
+            QCOMPARE(m_pWindow->isVisible(), qstrcmp(pEntry, "Close") != 0);
+            m_pWindow->setWindowState(m_pWindow->windowState() & ~Qt::WindowMinimized);
+            pMenu->close();
+            QCoreApplication::sendPostedEvents(pMenu, QEvent::DeferredDelete);
+            QVERIFY(!pMenu);
+        }
     }
 
+    // The commands stay those of where the focus was, while the menus have it.
     void keysReachTheWindowMenuAndTheMenus()
     {
+        QLineEdit edit(m_pWindow.get());
+        edit.show();
+        ContextManager::registerContext(&edit, "Test.Edit", "Edit");
+        QAction action("Only there");
+        ActionManager::registerAction(&action, "Test.There", &edit, false);
+        const QAction *pCommand = ActionManager::getAction("Test.There")->getAction();
+        edit.setFocus();
+        QVERIFY(pCommand->isEnabled());
         QTest::keyPress(m_pWindow->windowHandle(), Qt::Key_Alt, Qt::AltModifier);
         QTest::keyRelease(m_pWindow->windowHandle(), Qt::Key_Alt);
         QCOMPARE(m_pMenuBar->activeAction(), file());
+        QCOMPARE(QApplication::focusWidget(), m_pMenuBar);
+        QVERIFY(pCommand->isEnabled());
         QTest::keyClick(m_pMenuBar, Qt::Key_Escape);
-        QTest::keyClick(m_pWindow.get(), Qt::Key_Space, Qt::AltModifier);
-        QTRY_VERIFY(QApplication::activePopupWidget());
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
-        QTRY_VERIFY(m_pWindow->isMaximized());
+
+        const QPoint place = m_pMenuBar->mapToGlobal(QPoint(0, m_pMenuBar->height()));
+        for (const bool bMaximized : {true, false}) {
+            QTest::keyClick(m_pWindow.get(), Qt::Key_Space, Qt::AltModifier);
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            QVERIFY(!bMaximized || QApplication::activePopupWidget()->pos() == place);
+            if (bMaximized)
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+            QTRY_COMPARE(m_pWindow->isMaximized(), bMaximized);
+        }
         file()->setEnabled(false);
+        m_pMenuBar->actions().at(1)->setVisible(false);
         QTest::keyClick(m_pWindow.get(), Qt::Key_F10);
         QTRY_VERIFY(QApplication::activePopupWidget());
-        QCOMPARE(QApplication::activePopupWidget(), m_pMenuBar->actions().at(1)->menu());
+        QCOMPARE(QApplication::activePopupWidget(), m_pMenuBar->actions().at(2)->menu());
+        QVERIFY(pCommand->isEnabled());
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTRY_VERIFY(!QApplication::activePopupWidget());
+        m_pWindow->setFocus();
+        QVERIFY(!pCommand->isEnabled());
+        ActionManager::unregisterAction(&action, "Test.There");
+        ContextManager::unregisterContext(&edit, "Test.Edit");
+    }
+
+    void docksAreListedByTheirArea()
+    {
+        const Qt::DockWidgetArea areas[] = {
+            Qt::LeftDockWidgetArea, Qt::BottomDockWidgetArea, Qt::LeftDockWidgetArea};
+        QList<QDockWidget *> docks;
+        for (const Qt::DockWidgetArea area : areas) {
+            docks.append(new QDockWidget(m_pWindow.get()));
+            m_pWindow->addDockWidget(area, docks.last());
+        }
+        using List = QList<QDockWidget *>;
+        QCOMPARE(m_pWindow->getListDockWidgetsByArea(Qt::LeftDockWidgetArea), List({docks[0], docks[2]}));
+        QCOMPARE(m_pWindow->getListDockWidgetsByArea(Qt::BottomDockWidgetArea), List({docks[1]}));
+        QCOMPARE(m_pWindow->getListDockWidgetsByArea(Qt::RightDockWidgetArea), List());
     }
 
 private:
@@ -396,15 +495,14 @@ private:
         QApplication::sendEvent(m_pMenuBar, &event);
     }
 
-    static void choose(const char *pText)
+    // What the screen shows is what would be painted now.
+    void compareShown() const
     {
-        auto *pMenu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(pMenu);
-        for (QAction *pAction : pMenu->actions()) {
-            if (pAction->text() == QLatin1String(pText))
-                pAction->trigger();
-        }
-        pMenu->close();
+        QTest::qWait(0);
+        const QRect rect(m_pTitleBar->mapTo(m_pWindow.get(), QPoint()), m_pTitleBar->size());
+        const QImage shown = m_pWindow->screen()->grabWindow(m_pWindow->winId()).toImage();
+        const QImage painted = m_pWindow->grab(rect).toImage();
+        QCOMPARE(shown.copy(rect).convertToFormat(painted.format()), painted);
     }
 
     IMainMenuWidget *m_pTitleBar = nullptr;
