@@ -125,7 +125,8 @@ private slots:
                 "callbackTunnelAsync", "callbackAsyncfromJS", "openURL", "openFile", "getResourceUrls"}));
     }
 
-    // "@" stands for a folder beside the program, which the files lie in.
+    // "@" stands for a folder beside the program, which the files lie in, "~" for its relative name; what is
+    // opened here and not by the desktop follows "=".
     void requests_data()
     {
         const auto row = columns<QString, QString, QString, QString>("method", "argument", "box", "opened");
@@ -155,6 +156,11 @@ private slots:
         row("folder of a project", "showInExplorer", "@/x.kelpa/a", "", "file:///@/x.kelpa");
         row("folder of no project", "showInExplorer", "", "", "");
         row("file without a name", "openFile", "", "", ICore::resourcePath());
+        row("project: absolute path", "openFile", "@/a.kelpa", "", "=@/a.kelpa");
+        row("project: relative to the program, in capitals", "openFile", "~/A.KELPA", "", "=@/A.KELPA");
+        row("project: packed", "openFile", "~/a.KelpaPack", "", "=@/a.KelpaPack");
+        row("project: letters of several scripts", "openFile", "@/" + s + ".kelpa", "", "=@/" + s + ".kelpa");
+        row("project: no URL", "openFile", "~/50%41 #1?.kelpa", "", "=@/50%41 #1?.kelpa");
     }
     void requests()
     {
@@ -162,44 +168,23 @@ private slots:
         QFETCH(QString, argument);
         QFETCH(QString, box);
         QFETCH(QString, opened);
-        QVERIFY(QDir(m_pResources->path()).mkpath("x.kelpa"));
-        for (const QString &strName :
-            {QString("help.pdf"), s_unicode, QString("50%41 #1?.txt"), QString("x.kelpa/a")})
+        const QString strFolder = m_pResources->path();
+        QVERIFY(QDir(strFolder).mkpath("x.kelpa"));
+        for (const QString &strName : {QString("help.pdf"), s_unicode, QString("50%41 #1?.txt"),
+                 QString("x.kelpa/a"), QString("a.kelpa"), QString("A.KELPA"), QString("a.KelpaPack"),
+                 s_unicode + ".kelpa", QString("50%41 #1?.kelpa")})
             write(strName);
-        argument.replace("@/", m_pResources->path() + '/');
-        opened.replace("@/", m_pResources->path() + '/');
-        publishArea();
-        for (const char *pObject : {"kpwelcome", "area"}) {
-            BoxAnswers boxes({QMessageBox::Ok});
-            m_pDesktop->opened.clear();
-            QVERIFY(!m_pClient->call(pObject, method, {argument}).isUndefined());
-            QCOMPARE(boxes.texts(), box.isEmpty() ? QStringList() : QStringList(box));
-            QCOMPARE(
-                m_pDesktop->opened, opened.isEmpty() ? QStringList() : QStringList(QUrl(opened).toString()));
-            QVERIFY(m_pFactory->documents.isEmpty());
-        }
-    }
-
-    void projectsAreOpenedHere_data()
-    {
-        const auto row = columns<QString, bool>("name", "relative");
-        row("absolute path", "a.kelpa", false);
-        row("relative to the program, suffix in capitals", "A.KELPA", true);
-        row("packed", "a.KelpaPack", true);
-        row("spaces and letters of several scripts", s_unicode + ".kelpa", false);
-        row("what a URL would not keep", "50%41 #1?.kelpa", true);
-    }
-    void projectsAreOpenedHere()
-    {
-        QFETCH(const QString, name);
-        QFETCH(const bool, relative);
-        const QString strPath = write(name);
-        m_pClient->call("kpwelcome", "openFile",
-            {relative ? QDir(ICore::resourcePath()).relativeFilePath(strPath) : strPath});
-        QCOMPARE(m_pFactory->documents.size(), 1);
-        QCOMPARE(m_pFactory->documents.first()->getFileName(), strPath);
-        QCOMPARE(m_pBridge->getRecentFileList(), QStringList(strPath));
-        QCOMPARE(m_pDesktop->opened, QStringList());
+        argument.replace("@/", strFolder + '/');
+        argument.replace("~/", QDir(ICore::resourcePath()).relativeFilePath(strFolder) + '/');
+        opened.replace("@/", strFolder + '/');
+        const QStringList here = opened.startsWith('=') ? QStringList(opened.mid(1)) : QStringList();
+        const bool bOutside = here.isEmpty() && !opened.isEmpty();
+        BoxAnswers boxes({QMessageBox::Ok});
+        QVERIFY(!m_pClient->call("kpwelcome", method, {argument}).isUndefined());
+        QCOMPARE(boxes.texts(), box.isEmpty() ? QStringList() : QStringList(box));
+        QCOMPARE(m_pDesktop->opened, bOutside ? QStringList(QUrl(opened).toString()) : QStringList());
+        QCOMPARE(recent(), here);
+        QCOMPARE(m_pFactory->documents.size(), here.size());
     }
 
     void folderThatTheDesktopDoesNotOpenIsTold()
@@ -234,11 +219,10 @@ private slots:
         for (int i = 12; i > 0; --i)
             IRecentFilesManager::getInstance()->addFile(QString("/p/%1 ").arg(i) + s_unicode);
         const QSignalSpy resets(m_pBridge, &KPHTMLExposingWelcome::resetRecentFiles);
-        publishArea();
         m_pClient->call("kpwelcome", "removeFile", {"/P/1 " + s_unicode});
-        QCOMPARE(m_pClient->call("area", "getRecentFileList").toArray().size(), 10);
+        QCOMPARE(m_pClient->call("kpwelcome", "getRecentFileList").toArray().size(), 10);
         m_pClient->call("kpwelcome", "removeFile", {"/p/1 " + s_unicode});
-        m_pClient->call("area", "removeFile", {""});
+        m_pClient->call("kpwelcome", "removeFile", {""});
         const QJsonArray left = m_pClient->call("kpwelcome", "getRecentFileList").toArray();
         QCOMPARE(left.size(), 9);
         QCOMPARE(left.first().toString(), "/p/2 " + s_unicode);
@@ -253,10 +237,9 @@ private slots:
         action.setCheckable(true);
         ActionManager::registerAction(&action, "Test.Checkable", m_pWindow.get(), false);
         QSignalSpy triggered(&action, &QAction::triggered);
-        publishArea();
         m_pClient->call("kpwelcome", "callbackTunnelAsync", {"Test.Checkable"});
         action.setEnabled(false);
-        m_pClient->call("area", "callbackTunnelAsync", {"Test.Checkable"});
+        m_pClient->call("kpwelcome", "callbackTunnelAsync", {"Test.Checkable"});
         QCOMPARE(triggered, QList<QVariantList>({{true}, {true}}));
         QVERIFY(!action.isChecked());
         for (const char *pId : {"", "test.checkable", "Test.Checkable ", "MenuBar.File", "quit()"})
@@ -269,10 +252,8 @@ private slots:
     {
         const std::pair<const char *, const char *> answers[] = {{"WelcomeScreen.getLocale", "de_DE"},
             {"WelcomeScreen.getBuildNumber", "3.1.4"}, {"welcomescreen.getbuildnumber", ""}, {"", ""}};
-        publishArea();
         for (const auto &[pQuery, pAnswer] : answers) {
-            for (const char *pObject : {"kpwelcome", "area"})
-                QCOMPARE(m_pClient->call(pObject, "callbackAsyncfromJS", {pQuery, "anything"}), pAnswer);
+            QCOMPARE(m_pClient->call("kpwelcome", "callbackAsyncfromJS", {pQuery, "anything"}), pAnswer);
         }
         const QJsonObject urls = m_pClient->call("kpwelcome", "getResourceUrls").toObject();
         QCOMPARE(urls.keys(), QStringList({"community", "demo", "facebook", "homepage", "youtube"}));
@@ -327,9 +308,6 @@ private slots:
     }
 
 private:
-    /// The program itself puts only the bridge on the channel, not the area.
-    void publishArea() { m_pWindow->getChannel()->registerObject("area", m_pWindow->getMdiArea()); }
-
     [[nodiscard]] bool hasConnectedClient() const
     {
         const auto sockets = m_pWindow->getServer()->findChildren<QTcpSocket *>();
