@@ -25,9 +25,9 @@ protected:
 bool xdotool(const QStringList &arguments)
 {
     QProcess process;
+    QSignalSpy finished(&process, &QProcess::finished);
     process.start("xdotool", arguments);
-    return QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000)
-        && process.error() == QProcess::UnknownError && process.exitCode() == 0;
+    return finished.wait(20000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
 QStringList moveTo(const QPoint &point)
@@ -74,10 +74,10 @@ private slots:
         QFETCH(QPoint, by);
         QFETCH(QMargins, edges);
         QVERIFY(xdotool(moveTo(s_start.topLeft() + from)));
-        QTRY_VERIFY(QGuiApplication::overrideCursor());
+        QVERIFY(QTest::qWaitFor([] { return QGuiApplication::overrideCursor(); })); // sooner than QTRY_VERIFY
         QTEST(QGuiApplication::overrideCursor()->shape(), "cursor");
         QVERIFY(drag(from, by));
-        QTRY_COMPARE(moved(), edges);
+        QVERIFY(QTest::qWaitFor([&] { return moved() == edges; }));
         QVERIFY(m_pContent->presses.isEmpty());
     }
 
@@ -148,7 +148,7 @@ private:
         m_pFrame->setGeometry(s_start);
         m_pFrame->show();
         QVERIFY(QTest::qWaitForWindowActive(m_pFrame.get()));
-        QTRY_COMPARE(m_pFrame->geometry(), s_start);
+        QVERIFY(QTest::qWaitFor([&] { return m_pFrame->geometry() == s_start; }));
         QVERIFY(xdotool(moveTo(s_start.center())));
     }
 
