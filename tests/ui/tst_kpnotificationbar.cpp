@@ -57,6 +57,7 @@ private slots:
     // Whatever was shown before, by the window or by the bar itself, on whatever display.
     void barShowsWhatItIsGiven()
     {
+        const QSignalSpy before(m_pBar, &KPNotificationBar::buttonClicked); // is forgotten
         QRandomGenerator random(3);
         for (int i = 0; i < 100; ++i) {
             const QString strText = QStringList({"", "Saved & <b>done</b>", "x"})[random.bounded(3)];
@@ -78,6 +79,9 @@ private slots:
             QCOMPARE(message()->isVisible(), !strText.isEmpty());
             QCOMPARE(goButton()->isVisible(), !strButton.isEmpty());
             QCOMPARE(closeBox()->isVisible(), bClosable);
+            const QSignalSpy clicks(m_pBar, &KPNotificationBar::buttonClicked);
+            goButton()->click();
+            QCOMPARE(clicks.size(), 1);
             const int nEnd = random.bounded(3);
             if (nEnd == 0)
                 m_pWindow->hideNotification();
@@ -85,19 +89,7 @@ private slots:
                 closeBox()->click();
             QCOMPARE(m_pBar->isVisible(), nEnd == 2);
         }
-    }
-
-    void laterShowForgetsTheReceivers()
-    {
-        m_pBar->show("one", KPNotificationBar::Info, "Go", true);
-        const QSignalSpy first(m_pBar, &KPNotificationBar::buttonClicked);
-        goButton()->click();
-        m_pBar->show("two", KPNotificationBar::Info, "Go", true);
-        const QSignalSpy second(m_pBar, &KPNotificationBar::buttonClicked);
-        goButton()->click();
-        QCOMPARE(first.size(), 1);
-        QCOMPARE(second.size(), 1);
-        QVERIFY(m_pBar->isVisible());
+        QCOMPARE(before.size(), 0);
     }
 
     // The focus goes back to where it came from.
