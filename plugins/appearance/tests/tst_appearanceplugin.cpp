@@ -100,14 +100,16 @@ private slots:
         QVERIFY(entry("Dark")->isChecked());
     }
 
+    // With no theme in force either: no entry has the check mark, and none gets it.
     void failureToSaveIsTold()
     {
+        PluginManager::settings()->setValue("Kelpa/Theme", "Gone");
         start();
         IThemesManager::getInstance().setSettings(nullptr);
         BoxAnswers answers({QMessageBox::Ok});
         entry("Light")->trigger();
         QCOMPARE(answers.texts(), QStringList({"Failed to change theme."}));
-        QVERIFY(entry("Dark")->isChecked());
+        QVERIFY(!entry("Dark")->isChecked() && !entry("Light")->isChecked());
     }
 
     void withoutAMenuViewThereIsNone()

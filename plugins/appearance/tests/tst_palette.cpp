@@ -111,103 +111,57 @@ private slots:
         QCOMPARE(qRound(contrast(QColor(0x777777), Qt::white) * 100), 448);
     }
 
-    void textAndControlsCanBeRead_data() { themes(); }
     void textAndControlsCanBeRead()
     {
-        QFETCH(QString, theme);
-        const QJsonObject colours = palette(theme);
-        for (const auto &[pFront, fLeast, backs] : s_pairs)
-            QCOMPARE(faults(QColor(colours[pFront].toString()), backs, fLeast, colours), QStringList());
+        for (const QJsonObject &colours : m_palettes) {
+            for (const auto &[pFront, fLeast, backs] : s_pairs)
+                QCOMPARE(faults(QColor(colours[pFront].toString()), backs, fLeast, colours), QStringList());
+        }
     }
-
-    void iconsCanBeRead_data() { themes(); }
 
     // They are the same in both themes. White is only inside of another colour; the two signs of the program
     // and its documents bring a ground of their own.
     void iconsCanBeRead()
     {
-        QFETCH(QString, theme);
-        const QJsonObject colours = palette(theme);
         QSet<QString> icons;
         for (const char *pFolder : {KELPA_ICONS, KELPA_STAGE_ICONS}) {
             const auto files = QDir(pFolder).entryInfoList({"*.svg"});
             for (const QFileInfo &file : files) {
-                if (file.baseName().contains("icon"))
-                    continue;
                 const QStringList found = matches("#[0-9a-fA-F]{6}", read(file.filePath()));
-                icons.unite({found.cbegin(), found.cend()});
+                if (!file.baseName().contains("icon"))
+                    icons.unite({found.cbegin(), found.cend()});
             }
         }
         icons.remove("#ffffff");
         QVERIFY(icons.size() >= 4);
-        for (const QString &strIcon : std::as_const(icons))
-            QCOMPARE(faults(QColor(strIcon), s_grounds, s_fControl, colours), QStringList());
+        for (const QString &strIcon : std::as_const(icons)) {
+            for (const QJsonObject &colours : m_palettes)
+                QCOMPARE(faults(QColor(strIcon), s_grounds, s_fControl, colours), QStringList());
+        }
     }
-
-    void theCloseCrossIsNotTooThin_data() { themes(); }
 
     // Its strokes run across the pixels.
     void theCloseCrossIsNotTooThin()
     {
-        QFETCH(QString, theme);
         QVERIFY(QLibrary(KELPA_APPEARANCE_PLUGIN).load());
         const QImage cross(":/core/images/close_16.png");
         QVERIFY(!cross.isNull());
-        for (const char *pBack : {"chrome", "hover", "danger"}) {
-            const QColor back(palette(theme)[pBack].toString());
-            QImage shown(cross.size(), QImage::Format_RGB32);
-            shown.fill(back);
-            QPainter(&shown).drawImage(0, 0, cross);
-            int nSeen = 0;
-            for (int i = 0; i < shown.width() * shown.height(); ++i)
-                nSeen += contrast(shown.pixelColor(i % shown.width(), i / shown.width()), back) >= s_fControl;
-            QVERIFY2(nSeen >= 16, qPrintable(QString("%1: %2").arg(pBack).arg(nSeen)));
+        for (const QJsonObject &colours : m_palettes) {
+            for (const char *pBack : {"chrome", "hover", "danger"}) {
+                const QColor back(colours[pBack].toString());
+                QImage shown(cross.size(), QImage::Format_RGB32);
+                shown.fill(back);
+                QPainter(&shown).drawImage(0, 0, cross);
+                int nSeen = 0;
+                for (int i = 0; i < shown.width() * shown.height(); ++i)
+                    nSeen +=
+                        contrast(shown.pixelColor(i % shown.width(), i / shown.width()), back) >= s_fControl;
+                QVERIFY2(nSeen >= 16, qPrintable(QString("%1: %2").arg(pBack).arg(nSeen)));
+            }
         }
     }
 
-    void sheetsHaveNoColourOfTheirOwn_data() { sheets(); }
-    void sheetsHaveNoColourOfTheirOwn()
-    {
-        QFETCH(QString, theme);
-        const QString strSheet = sheet();
-        QStringList known;
-        const QJsonObject colours = palette(theme);
-        for (const QJsonValue &colour : colours)
-            known.append(colour.toString());
-        const QStringList used = matches("#[0-9a-fA-F]{3,8}\\b", strSheet);
-        for (const QString &strColour : used)
-            QVERIFY2(known.contains(strColour), qPrintable(strColour));
-        QCOMPARE(matches("rgba?\\s*\\(|@|[{]\\d", strSheet), QStringList());
-    }
-
-    void sizesFollowTheDensityOrTheFont_data() { sheets(); }
-    void sizesFollowTheDensityOrTheFont()
-    {
-        QFETCH(QString, theme);
-        const QString strSheet = sheet();
-        QCOMPARE(matches("(?<![\\d$-])-?\\d+(px|pt)", strSheet), QStringList());
-        QCOMPARE(strSheet.contains("$"), theme == "dark" && !matches("\\$-?\\d+px\\$", strSheet).isEmpty());
-    }
-
-    void imagesOfTheSheetsAreThere_data() { sheets(); }
-    void imagesOfTheSheetsAreThere()
-    {
-        QLibrary plugin(KELPA_APPEARANCE_PLUGIN);
-        QVERIFY2(plugin.load(), qPrintable(plugin.errorString()));
-        const QStringList images = matches("(?<=url\\()[^)]*", sheet());
-        for (const QString &strImage : images)
-            QVERIFY2(QFile::exists(strImage), qPrintable(strImage));
-    }
-
-private:
-    static void themes()
-    {
-        const auto row = columns<QString>("theme");
-        row("dark", "dark");
-        row("light", "light");
-    }
-
-    static void sheets()
+    void sheets_data()
     {
         const auto row = columns<QString, QString>("theme", "file");
         row("dark", "dark", "app_dark.qss");
@@ -215,14 +169,29 @@ private:
         row("light", "light", "app_light.qss");
     }
 
-    static QString sheet()
+    // No colour of their own, sizes that follow the density or the font, and images that are there.
+    void sheets()
     {
+        QFETCH(QString, theme);
         QFETCH(QString, file);
         const QString strSheet = QString::fromUtf8(read(KELPA_STYLES "/" + file));
-        if (strSheet.isEmpty())
-            QTest::qFail(qPrintable("No sheet " + file), __FILE__, __LINE__);
-        return strSheet;
+        QVERIFY(!strSheet.isEmpty());
+        QStringList known;
+        const QJsonObject colours = palette(theme);
+        for (const QJsonValue &colour : colours)
+            known.append(colour.toString());
+        for (const QString &strColour : matches("#[0-9a-fA-F]{3,8}\\b", strSheet))
+            QVERIFY2(known.contains(strColour), qPrintable(strColour));
+        QCOMPARE(matches("rgba?\\s*\\(|@|[{]\\d", strSheet), QStringList());
+        QCOMPARE(matches("(?<![\\d$-])-?\\d+(px|pt)", strSheet), QStringList());
+        QCOMPARE(strSheet.contains("$"), theme == "dark" && !matches("\\$-?\\d+px\\$", strSheet).isEmpty());
+        QVERIFY(QLibrary(KELPA_APPEARANCE_PLUGIN).load());
+        for (const QString &strImage : matches("(?<=url\\()[^)]*", strSheet))
+            QVERIFY2(QFile::exists(strImage), qPrintable(strImage));
     }
+
+private:
+    const QJsonObject m_palettes[2] = {palette("dark"), palette("light")};
 };
 
 QTEST_GUILESS_MAIN(tst_Palette)
