@@ -33,31 +33,51 @@ private slots:
         m_folder.removeRecursively();
     }
 
-    void withoutDarkThereIsNothingToFallBackTo()
-    {
-        install("app_light.qss", "light");
-        settings()->setValue("Kelpa/Theme", "Gone");
-        QVERIFY(!manager().initialize());
-        QVERIFY(hasAppStyle());
-        QCOMPARE(manager().getSaveThemeId(), "Gone");
-    }
-
     void anotherThemeIsAppliedAsItStandsAndLostWhenTheDensityChanges()
     {
-        install("app_dark.qss", "dark");
-        install("app_light.qss", "a{b:$10px$}");
-        install("win_app_light.qss", "never");
+        install("app_light.qss", "a{}/*$10px$*/");
         showOn(192);
         settings()->setValue("Kelpa/Theme", "Light");
         QVERIFY(manager().initialize());
-        QCOMPARE(qApp->styleSheet(), "a{b:$10px$}");
-        QCOMPARE(manager().getCurrentThemeId(), "Light");
-        QCOMPARE(manager().getCurrentThemeName(), "Light");
-        QCOMPARE(listed(), QStringList({"Dark", "Light"}));
+        QCOMPARE(qApp->styleSheet(), "a{}/*$10px$*/");
         manager().processDPIChange();
         QCOMPARE(qApp->styleSheet(), QString());
         QCOMPARE(manager().getCurrentThemeId(), "Light");
-        QCOMPARE(listed(), QStringList({"Dark", "Light", "Dark", "Light"}));
+        QCOMPARE(listed(), QStringList({"Light", "Light"}));
+    }
+
+    // Each sheet is a rule for its name; one that ends with a stroke is a folder and cannot be read.
+    void starts_data()
+    {
+        const auto row = columns<QStringList, QString, QString, QString, QString, QStringList>(
+            "files", "theme", "sheet", "current", "saved", "listed");
+        const QString s = "app_light.qss";
+        row("nothing to fall back to", {s}, "Gone", "", "", "Gone", {"Light"});
+        row("dark", {"app_dark.qss"}, "Dark", "app_dark.qss", "Dark", "Dark", {"Dark"});
+        row("another", {"app_dark.qss", s, "win_" + s}, "Light", s, "Light", "Light", {"Dark", "Light"});
+        row("none of those that are there", {s, "app_dark.qss"}, "Gone", "", "", "Dark", {"Dark", "Light"});
+        row("the platform's part alone", {"win_app_dark.qss"}, "Dark", "win_app_dark.qss", "", "Dark", {});
+        row("an unreadable one", {s + '/'}, "Light", "", "", "Dark", {"Light"});
+        row("names from files",
+            {"app_light_blue.qss", "app_.qss", "app_x.y.qss", "app_Dark.qss", "apple.qss", "app_b.txt"},
+            "Gone", "", "", "Dark", {"", "Dark", "Light_blue", "X.y"});
+    }
+    void starts()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QString, theme);
+        QFETCH(QString, current);
+        for (const QString &strFile : files)
+            strFile.endsWith('/') ? void(m_folder.mkpath(strFile))
+                                  : install(qPrintable(strFile), (strFile + "{}").toUtf8());
+        settings()->setValue("Kelpa/Theme", theme);
+        QCOMPARE(manager().initialize(), !current.isEmpty());
+        QVERIFY(hasAppStyle());
+        QTEST(qApp->styleSheet().remove("{}"), "sheet");
+        QTEST(manager().getSaveThemeId(), "saved");
+        QTEST(listed(), "listed");
+        QCOMPARE(manager().getCurrentThemeId(), current);
+        QCOMPARE(manager().getCurrentThemeName(), current);
     }
 
     void freshSettingsAreDarkWithThePlatformInFront()
@@ -78,50 +98,10 @@ private slots:
         QCOMPARE(listed(), QStringList({"Dark"}));
     }
 
-    void namesComeFromTheFiles()
-    {
-        for (const char *pName : {"app_light_blue.qss", "app_.qss", "app_x.y.qss", "app_Dark.qss",
-                 "apple.qss", "app_b.txt", "win_app_dark.qss"})
-            install(pName, "");
-        settings()->setValue("Kelpa/Theme", "none of them");
-        manager().initialize();
-        QCOMPARE(listed(), QStringList({"", "Dark", "Light_blue", "X.y"}));
-    }
-
-    void platformAloneIsAppliedButIsNoTheme()
-    {
-        install("win_app_dark.qss", "platform");
-        QVERIFY(!manager().initialize());
-        QCOMPARE(qApp->styleSheet(), "platform");
-        QCOMPARE(manager().getCurrentThemeId(), QString());
-        QVERIFY(listed().isEmpty());
-    }
-
-    void nothingToApplyFallsBackToDarkAtTheNextStart()
-    {
-        install("app_light.qss", "light");
-        install("app_dark.qss", "dark");
-        settings()->setValue("Kelpa/Theme", "Gone");
-        QVERIFY(!manager().initialize());
-        QVERIFY(hasAppStyle());
-        QCOMPARE(manager().getCurrentThemeId(), QString());
-        QCOMPARE(qApp->styleSheet(), QString());
-        QCOMPARE(manager().getSaveThemeId(), "Dark");
-    }
-
-    void unreadableSheetIsSkipped()
-    {
-        QVERIFY(m_folder.mkpath("app_light.qss"));
-        settings()->setValue("Kelpa/Theme", "Light");
-        QVERIFY(!manager().initialize());
-        QCOMPARE(listed(), QStringList({"Light"}));
-        QCOMPARE(qApp->styleSheet(), QString());
-    }
-
     void onlyListedIdsAreSavedAndTheThemeInForceStays()
     {
         install("app_sepia.qss", "");
-        install("app_dark.qss", "dark");
+        install("app_dark.qss", "dark{}");
         manager().initialize();
         QVERIFY(!manager().saveThemes("sepia"));
         QVERIFY(!manager().saveThemes(QString("Sepi")));
@@ -129,7 +109,7 @@ private slots:
         QVERIFY(manager().saveThemes("Sepia"));
         QCOMPARE(settings()->value("Kelpa/Theme").toString(), "Sepia");
         QCOMPARE(manager().getCurrentThemeId(), "Dark");
-        QCOMPARE(qApp->styleSheet(), "dark");
+        QCOMPARE(qApp->styleSheet(), "dark{}");
         QSettings other(m_pProgram->filePath("other.ini"), QSettings::IniFormat);
         manager().setSettings(&other);
         QCOMPARE(manager().getSaveThemeId(), "Dark");

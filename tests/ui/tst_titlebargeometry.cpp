@@ -11,19 +11,15 @@ class tst_TitleBarGeometry : public QObject
     Q_OBJECT
 
 private slots:
-    void restoredPosition_data()
-    {
-        const auto row = columns<QPoint, int, QPoint>("cursor", "width", "position");
-        row("centred under the cursor at the top", QPoint(0, 300), 401, QPoint(-200, -50));
-        row("not left of the desktop", QPoint(-950, 0), 400, QPoint(-1000, -50));
-        row("not right of the desktop", QPoint(950, 0), 400, QPoint(600, -50));
-        row("too wide: the right edge stays inside", QPoint(0, 0), 2100, QPoint(-1100, -50));
-    }
     void restoredPosition()
     {
-        QFETCH(QPoint, cursor);
-        QFETCH(int, width);
-        QTEST(TitleBarGeometry::restoredPosition(cursor, width, QRect(-1000, -50, 2000, 1000)), "position");
+        const auto at = [](const QPoint &cursor, int nWidth) {
+            return TitleBarGeometry::restoredPosition(cursor, nWidth, QRect(-1000, -50, 2000, 1000));
+        };
+        QCOMPARE(at({0, 300}, 401), QPoint(-200, -50)); // centred under the cursor at the top
+        QCOMPARE(at({-950, 0}, 400), QPoint(-1000, -50)); // not left or right of the desktop
+        QCOMPARE(at({950, 0}, 400), QPoint(600, -50));
+        QCOMPARE(at({0, 0}, 2100), QPoint(-1100, -50)); // too wide: the right edge stays inside
     }
 
     void placeOfTheTitle_data()
