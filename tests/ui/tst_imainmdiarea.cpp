@@ -269,8 +269,12 @@ private slots:
             {QJsonArray {"a", "b"}}, {"a", "b", "c", "d"}};
         for (const QJsonArray &arguments : kinds) {
             for (const char *pMethod :
-                {"showInExplorer", "removeFile", "callbackTunnelAsync", "openURL", "openFile"})
+                {"showInExplorer", "removeFile", "callbackTunnelAsync", "openURL", "openFile"}) {
+                if (arguments != QJsonArray {QJsonValue()})
+                    QTest::ignoreMessage(
+                        QtWarningMsg, QRegularExpression("^(No candidates|Could not convert)"));
                 m_pClient->call("kpwelcome", pMethod, arguments);
+            }
         }
         QCOMPARE(m_pClient->call("kpwelcome", "getRecentFileList"), QJsonArray {"/p/a.kelpa"});
         for (const QString &strOpened : std::as_const(m_pDesktop->opened))
