@@ -41,22 +41,6 @@ class tst_KPAppStyle : public QObject
     Q_OBJECT
 
 private slots:
-    // Of a widget in a window, at each density: proportional, by whole factors, not at all.
-    void rules_data()
-    {
-        const auto row = columns<Metric, QList<int>>("metric", "expected");
-        row("proportional", PM_IndicatorWidth, {9, 13, 16, 19, 19, 26});
-        row("by whole factors", PM_ScrollBarExtent, {12, 12, 12, 12, 24, 24});
-        row("not at all", PM_ProgressBarChunkWidth, {9, 9, 9, 9, 9, 9});
-        row("less than the menu's panel", PM_SubMenuOverlap, QList<int>(6, -s_nPanel));
-    }
-    void rules()
-    {
-        QFETCH(Metric, metric);
-        QWidget window;
-        QTEST(valuesOf(metric, window, nullptr, new QWidget(&window)), "expected");
-    }
-
     // At 144 DPI, where the rules give different values, by number of the metric; -1: the platform's.
     void metrics()
     {

@@ -8,7 +8,6 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QSpinBox>
@@ -96,15 +95,15 @@ private:
 
     void checkWidget(QWidget *pWidget)
     {
-        checkTexts(pWidget, {pWidget->toolTip(), pWidget->accessibleName(), pWidget->statusTip()});
-        if (const auto *pLabel = qobject_cast<QLabel *>(pWidget))
+        for (const char *pName : {"toolTip", "accessibleName", "statusTip", "title", "placeholderText",
+                 "prefix", "suffix", "specialValueText"})
+            checkText(pWidget, pWidget->property(pName).toString());
+        if (qobject_cast<QGroupBox *>(pWidget) || qobject_cast<QSpinBox *>(pWidget))
+            checkRoom(pWidget, pWidget->minimumSizeHint());
+        else if (const auto *pLabel = qobject_cast<QLabel *>(pWidget))
             checkLabel(pLabel);
         else if (const auto *pButton = qobject_cast<QAbstractButton *>(pWidget))
             checkButton(pButton);
-        else if (const auto *pBox = qobject_cast<QGroupBox *>(pWidget))
-            checkTitled(pBox, pBox->title());
-        else if (const auto *pEdit = qobject_cast<QLineEdit *>(pWidget))
-            checkText(pEdit, pEdit->placeholderText());
         else if (const auto *pMenu = qobject_cast<QMenu *>(pWidget))
             checkActions(pMenu);
         else if (const auto *pBar = qobject_cast<QTabBar *>(pWidget))
@@ -115,8 +114,6 @@ private:
             checkItems(pView);
         else if (auto *pCombo = qobject_cast<QComboBox *>(pWidget))
             checkCombo(pCombo);
-        else if (const auto *pSpinBox = qobject_cast<QSpinBox *>(pWidget))
-            checkSpinBox(pSpinBox);
     }
 
     // One line that gives way shows the rest as its tool tip.
@@ -145,12 +142,6 @@ private:
             && pButton->toolTip().isEmpty() && pButton->isEnabled()
             && !pButton->objectName().startsWith("qt_"))
             fault(pButton, "has neither a text nor a name");
-    }
-
-    void checkTitled(const QWidget *pBox, const QString &strTitle)
-    {
-        checkText(pBox, strTitle);
-        checkRoom(pBox, pBox->minimumSizeHint());
     }
 
     void checkActions(const QMenu *pMenu)
@@ -217,12 +208,6 @@ private:
             if (field.width() < pCombo->fontMetrics().horizontalAdvance(pCombo->itemText(i)))
                 fault(pCombo, "cuts off " + pCombo->itemText(i));
         }
-    }
-
-    void checkSpinBox(const QSpinBox *pSpinBox)
-    {
-        checkTexts(pSpinBox, {pSpinBox->prefix(), pSpinBox->suffix(), pSpinBox->specialValueText()});
-        checkRoom(pSpinBox, pSpinBox->minimumSizeHint());
     }
 
     QString m_strFolder;
