@@ -9,7 +9,7 @@
 #include <QStyle>
 #include <QtMath>
 
-constexpr int s_nTitleMargin = 12; // pixels at 100 percent
+constexpr int s_nTitleMargin = 12; // in pixels at a display scale of 100 percent
 
 TitleText::TitleText(QMenuBar *pMenuBar, const QWidget *pTitleBar)
     : QWidget(pMenuBar)
@@ -27,9 +27,9 @@ QString TitleText::shownTitle(const QWidget *pTitleBar)
 void TitleText::paintEvent(QPaintEvent *)
 {
     const QRect rect = textRect();
-    // In the middle, so that neither the name of the program nor the mark of a change is lost.
+    // Elided in the middle, so that the program's name and the modified mark at the end stay visible.
     const QString strText = fontMetrics().elidedText(shownTitle(m_pTitleBar), Qt::ElideMiddle, rect.width());
-    // A path reads in its own direction, whatever that of the window is.
+    // A path is drawn in its own direction, whatever that of the window is.
     const int nDirection = strText.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     QPainter painter(this);
     style()->drawItemText(&painter, rect, int(Qt::AlignCenter) | Qt::TextSingleLine | nDirection, palette(),

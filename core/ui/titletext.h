@@ -5,8 +5,8 @@
 
 class QMenuBar;
 
-/// The title of the window. It lies over the whole menu bar and paints only where that is empty: it sees
-/// every change of the menus because it is painted with them. It lets the mouse through.
+/// Paints the title into the free part of the menu bar. It covers the whole bar, because a child is repainted
+/// with its parent and so follows every change of the menus; mouse events pass through it.
 class TitleText : public QWidget
 {
 public:
