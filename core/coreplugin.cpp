@@ -7,6 +7,7 @@
 #include "document/documentmanager.h"
 #include "document/idocument.h"
 #include "icore.h"
+#include "iui.h"
 #include "mainwindow.h"
 
 #include <extensionsystem/pluginmanager.h>
@@ -65,7 +66,7 @@ CorePlugin::CorePlugin()
         qCWarning(lcCore,
             "There was error while loading one of the language catalogues. "
             "%s will use English in some parts.",
-            "Kelpa Studio");
+            qUtf8Printable(IUi::getTitle()));
     }
     QLocale::setDefault(QLocale(ILanguageManager::getInstance().getCurrentLangId()));
     m_pMainWindow = std::make_unique<MainWindow>(nullptr);

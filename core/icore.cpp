@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "icore.h"
 
+#include "mainwindow.h"
+
 #include <extensionsystem/pluginmanager.h>
 
 #include <QCoreApplication>
@@ -23,7 +25,7 @@ ICore::~ICore()
 {
     s_pInstance = nullptr;
     s_pMainWindow = nullptr;
-    // Dies with this object a moment later; the order of clearing and connecting is relied on as it stands.
+    // A contract for plug-ins: it is made once both pointers are cleared, and ends with this object.
     connect(PluginManager::instance(), SIGNAL(initializationDone()), this, SLOT(saveSettings()));
 }
 
@@ -33,6 +35,11 @@ ICore *ICore::getInstance()
 }
 
 MainWindow *ICore::getMainWindow()
+{
+    return s_pMainWindow;
+}
+
+QWidget *ICore::getMainWidget()
 {
     return s_pMainWindow;
 }

@@ -8,6 +8,7 @@
 #include <QString>
 
 class MainWindow;
+class QWidget;
 
 /// The way to the main window, the settings stores and the program's folder, and the place where a save of
 /// all settings is announced. The main window makes it and deletes it after the document and editor
@@ -18,9 +19,12 @@ class CORE_EXPORT ICore : public QObject
     Q_DISABLE_COPY_MOVE(ICore)
 
 public:
-    /// Null before the main window is built and after it is gone; so is getMainWindow().
+    /// Null before the main window is built and after it is gone; so are getMainWindow() and getMainWidget().
     [[nodiscard]] static ICore *getInstance();
     [[nodiscard]] static MainWindow *getMainWindow();
+
+    /// The main window for those who need no more of it than any widget has.
+    [[nodiscard]] static QWidget *getMainWidget();
 
     /// UserScope gives the user's store, anything else the machine-wide one. The framework owns both.
     [[nodiscard]] static QSettings *settings(QSettings::Scope scope);

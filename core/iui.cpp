@@ -3,8 +3,7 @@
 
 #include "displayscale.h"
 #include "icore.h"
-#include "mainwindow.h"
-#include "pngimage.h"
+#include "imagefiles/pngimage.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -148,7 +147,7 @@ QMessageBox::StandardButton IUi::run(QWidget *pParent, const QString &strIcon, c
     const std::function<void(QMessageBox *)> &fill)
 {
     // Not on the stack: its parent may die while it runs.
-    const QPointer<QMessageBox> pBox = new QMessageBox(pParent ? pParent : ICore::getMainWindow());
+    const QPointer<QMessageBox> pBox = new QMessageBox(pParent ? pParent : ICore::getMainWidget());
     fill(pBox);
     pBox->setWindowTitle(strTitle);
     pBox->setIconPixmap(messageIcon(strIcon, DisplayScale::logicalDpi(pBox->parentWidget())));

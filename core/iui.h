@@ -20,6 +20,9 @@ extern template class CORE_EXPORT ISingleton<IUi>;
 class CORE_EXPORT IUi : public ISingleton<IUi>
 {
 public:
+    /// The program's name, which is the title of every box.
+    [[nodiscard]] static QString getTitle() { return QStringLiteral("Kelpa Studio"); }
+
     /// The image `strName` of `strFolder` with its disabled variant. `nMode` 1 to 6 asks for 12, 16, 24, 32,
     /// 48 or 64 pixels at 100 percent, any other value for the image without a size in its name. Files that
     /// do not exist leave that part of the icon empty.

@@ -10,26 +10,31 @@
 #include "document/idocumentfactory.h"
 #include "document/ieditor.h"
 #include "icore.h"
-#include "lazyicon.h"
+#include "imagefiles/lazyicon.h"
+#include "iui.h"
+#include "projectcontroller.h"
+#include "tempfolder.h"
 #include "ui/imainmdiarea.h"
+#include "ui/imainmenuwidget.h"
 #include "ui/ioptionsdlg.h"
 #include "webchannel/websocketclientwrapper.h"
 #include "webchannel/websockettransport.h"
 
 #include <extensionsystem/pluginmanager.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
+#include <QDragEnterEvent>
 #include <QMdiSubWindow>
+#include <QMimeData>
 #include <QNetworkProxyFactory>
-#include <QPointer>
 #include <QScopeGuard>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTimer>
+#include <QUrl>
 #include <QWebChannel>
 #include <QWebSocketServer>
 
@@ -37,45 +42,11 @@
 
 using ExtensionSystem::PluginManager;
 
-namespace {
-
-const QString s_tempFolder = QStringLiteral("%1-%2").arg(QStringLiteral("ORVEN"), QStringLiteral("Kelpa"));
-
-bool isLink(const QFileInfo &entry)
-{
-    return entry.isSymLink() || entry.isJunction();
-}
-
-bool removeRecursively(const QString &strPath);
-
-// A link goes as a link, wherever it leads; on Windows those to folders are folders of a kind.
-bool removeEntry(const QFileInfo &entry)
-{
-    const QString strPath = entry.absoluteFilePath();
-    if (!isLink(entry))
-        return entry.isDir() ? removeRecursively(strPath) : QFile::remove(strPath);
-    return QFile::remove(strPath) || QDir().rmdir(strPath);
-}
-
-// Removes the folder and all in it; the first failure stops the walk.
-bool removeRecursively(const QString &strPath)
-{
-    const QDir dir(strPath);
-    if (isLink(QFileInfo(strPath)) || !dir.exists())
-        return false;
-    const auto entries = dir.entryInfoList(
-        QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::DirsFirst);
-    for (const QFileInfo &entry : entries) {
-        if (!removeEntry(entry))
-            return false;
-    }
-    return dir.rmdir(dir.absolutePath());
-}
-
-} // namespace
-
 MainWindow::MainWindow(QWidget *pParent)
     : KPStyledFrame<QMainWindow>(pParent, Qt::FramelessWindowHint)
+    , m_pProjects(std::make_unique<ProjectController>())
+    , m_pTempFolder(std::make_unique<TempFolder>(
+          QStringLiteral("%1-%2").arg(QLatin1String("ORVEN"), QLatin1String("Kelpa"))))
 {
     setObjectName(QStringLiteral("MainWindow"));
     m_nDisplayScale = static_cast<int>(devicePixelRatioF() * 100);
@@ -160,6 +131,12 @@ void MainWindow::createMdiArea()
     }
 }
 
+void MainWindow::createTitleBar()
+{
+    m_pTitleBar = new IMainMenuWidget(this, IUi::getTitle(), IUi::getIcon());
+    setMenuWidget(m_pTitleBar);
+}
+
 // The managers and the core go first: what the window's children do in their destructors finds none of them.
 MainWindow::~MainWindow()
 {
@@ -199,31 +176,24 @@ bool MainWindow::IsFirstRun()
 
 QString MainWindow::getDefaultTempPath() const
 {
-    QDir temp = QDir::temp();
-    if (!temp.exists(s_tempFolder))
-        temp.mkdir(s_tempFolder);
-    return temp.absoluteFilePath(s_tempFolder);
+    return m_pTempFolder->getPath();
 }
 
 void MainWindow::removeDefaultTempDir()
 {
-    if (QDir::temp().exists(s_tempFolder))
-        removeRecursively(QDir::temp().absoluteFilePath(s_tempFolder));
+    m_pTempFolder->remove();
 }
 
 void MainWindow::forceQuit()
 {
-    const auto editors = EditorManager::getEditors();
-    const QList<QPointer<IEditor>> watched(editors.cbegin(), editors.cend());
-    for (const QPointer<IEditor> &pEditor : watched) {
-        if (const QPointer<IDocument> pDoc = pEditor ? pEditor->getDocument() : nullptr) {
-            pDoc->close();
-            if (pDoc)
-                emit pDoc->requestClosing(false);
-        }
-    }
+    ProjectController::forceCloseAll();
     // QCoreApplication::quit() would first ask the windows, and so the user.
     QCoreApplication::exit(0);
+}
+
+IDocumentFactory *MainWindow::selectDocumentFactory()
+{
+    return PluginManager::object<IDocumentFactory>();
 }
 
 IOptionsDlg *MainWindow::getOptionsDialog()
@@ -275,44 +245,146 @@ void MainWindow::raiseUp()
     activateWindow();
 }
 
-// Stops at the first document that refuses. Closing one may delete others, so they are watched. Each is
-// shown, and named in the title, before it asks: two projects may have the same name.
-bool MainWindow::closeDocuments(const QList<QPointer<IDocument>> &documents)
-{
-    for (const QPointer<IDocument> &pDoc : documents) {
-        if (IEditor *pEditor = pDoc ? EditorManager::getEditorOfDocument(pDoc) : nullptr) {
-            EditorManager::activateEditor(pEditor);
-            updateActivatedMdiSubFilePath(m_pMdiArea->activeSubWindow()); // the one before left no title
-        }
-        if (!pDoc)
-            continue;
-        if (!pDoc->close())
-            return false;
-        if (pDoc)
-            emit pDoc->requestClosing(false);
-    }
-    return true;
-}
-
 void MainWindow::closeEvent(QCloseEvent *pEvent)
 {
     // A project handed over while the questions are asked, or after the last, would be lost.
     auto stays = qScopeGuard([] { PluginManager::setHearsOtherStarts(true); });
     PluginManager::setHearsOtherStarts(false);
     ICore::saveSettings();
-    QList<QPointer<IDocument>> shown;
-    for (const IEditor *pEditor : EditorManager::getEditors())
-        shown.prepend(pEditor->getDocument());
-    // Looked at after the first walk: a project that came in meanwhile is asked too.
-    const auto rest = [] {
-        const auto &documents = DocumentManager::getDocuments();
-        return QList<QPointer<IDocument>>(documents.cbegin(), documents.cend());
-    };
-    if (!closeDocuments(shown) || !closeDocuments(rest())) {
+    if (!ProjectController::closeAll()) {
         pEvent->ignore();
         return;
     }
     removeDefaultTempDir();
     stays.dismiss();
     pEvent->accept();
+}
+
+void MainWindow::openFilesPassedAsArguments()
+{
+    const QStringList arguments = PluginManager::arguments();
+    for (const QString &strArgument : arguments)
+        loadFile(strArgument);
+}
+
+bool MainWindow::loadFile(const QString &strFileName)
+{
+    return m_pProjects->load(strFileName);
+}
+
+bool MainWindow::loadOpenedDocument(IDocument *pDoc, bool bAddToRecentFile)
+{
+    return m_pProjects->loadOpened(pDoc, bAddToRecentFile);
+}
+
+void MainWindow::fileNew()
+{
+    m_pProjects->create(selectDocumentFactory());
+}
+
+void MainWindow::fileOpen()
+{
+    IDocumentFactory *pFactory = selectDocumentFactory();
+    const QString strPath = pFactory ? pFactory->getOpenFileName() : QString();
+    if (!strPath.isEmpty())
+        loadFile(strPath);
+}
+
+void MainWindow::fileSave()
+{
+    m_pProjects->save(ProjectController::getActiveDocument());
+}
+
+void MainWindow::fileSaveAs()
+{
+    m_pProjects->saveAs(ProjectController::getActiveDocument());
+}
+
+void MainWindow::fileClose()
+{
+    ProjectController::close(ProjectController::getActiveDocument());
+}
+
+void MainWindow::fileExit()
+{
+    close();
+}
+
+void MainWindow::onDocumentRequestClosing(bool bDeleteLater)
+{
+    m_pProjects->remove(qobject_cast<IDocument *>(sender()), bDeleteLater);
+}
+
+void MainWindow::updateRecentFileActions()
+{
+    m_pProjects->updateRecentMenu();
+}
+
+void MainWindow::recentFileOpen()
+{
+    if (const auto *pAction = qobject_cast<QAction *>(sender()))
+        m_pProjects->openRecent(pAction->data().toString());
+}
+
+// Watches the area of documents and the welcome widget for projects dropped on them.
+bool MainWindow::eventFilter(QObject *pWatched, QEvent *pEvent)
+{
+    switch (pEvent->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        static_cast<QDragMoveEvent *>(pEvent)->acceptProposedAction();
+        return true;
+    case QEvent::DragLeave:
+        pEvent->accept();
+        return false;
+    case QEvent::Drop:
+        return handleDrop(static_cast<QDropEvent *>(pEvent));
+    default:
+        return KPStyledFrame<QMainWindow>::eventFilter(pWatched, pEvent);
+    }
+}
+
+// Only the first URL counts. A drop with any is consumed.
+bool MainWindow::handleDrop(QDropEvent *pEvent)
+{
+    const QList<QUrl> urls = pEvent->mimeData()->urls();
+    if (urls.isEmpty())
+        return false;
+    const QString strPath = urls.first().toLocalFile();
+    if (IDocument::isProjectFile(strPath) && loadFile(strPath))
+        pEvent->acceptProposedAction();
+    return true;
+}
+
+KPNotificationBar *MainWindow::getNotificationBar()
+{
+    return m_pTitleBar ? m_pTitleBar->getNotificationBar() : nullptr;
+}
+
+void MainWindow::showNotification(
+    const QString &strText, KPNotificationBar::Type type, const QString &strButtonText, bool bClosable)
+{
+    if (KPNotificationBar *pBar = getNotificationBar())
+        pBar->show(strText, type, strButtonText, bClosable);
+}
+
+void MainWindow::hideNotification()
+{
+    if (KPNotificationBar *pBar = getNotificationBar())
+        pBar->hide();
+}
+
+bool MainWindow::isStyledFrameTitleBar(int x, int y) const
+{
+    if (!m_pTitleBar)
+        return false;
+    const QPoint point = m_pTitleBar->mapFrom(this, QPoint(x, y));
+    return m_pTitleBar->isTitleBarArea(point.x(), point.y());
+}
+
+void MainWindow::changeEvent(QEvent *pEvent)
+{
+    if (pEvent->type() == QEvent::WindowStateChange)
+        followMaximized(!pEvent->spontaneous());
+    KPStyledFrame<QMainWindow>::changeEvent(pEvent);
 }

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <map>
+#include <memory>
 
 class ActionContainer;
 class ActionManager;
@@ -19,16 +20,17 @@ class ContextManager;
 class DocumentManager;
 class EditorManager;
 class ICore;
-class ICreateDocumentDlg;
 class IDocument;
 class IDocumentFactory;
 class IMainMdiArea;
 class IMainMenuWidget;
 class IOptionsDlg;
+class ProjectController;
 class QMdiSubWindow;
 class QToolBar;
 class QWebChannel;
 class QWebSocketServer;
+class TempFolder;
 class WebSocketClientWrapper;
 
 /// The program's one top-level window and owner of what the core builds: server and channel for HTML pages,
@@ -85,6 +87,9 @@ public:
     /// These two only emit updateWindowFilePath() and updateModified(): the title bar shows them.
     void setWindowFilePath(const QString &strFileName) { emit updateWindowFilePath(strFileName); }
     void setWindowModified(bool bModified) { emit updateModified(bModified); }
+
+    /// Of the core's own command; the proxy follows.
+    void enableCommand(const char *pId, bool bEnabled);
 
     /// The page to show while no editor is open; not taken over.
     void setWelcomeWidget(QWidget *pWidget);
@@ -177,20 +182,13 @@ private:
     void initActions();
     void createCommand(const CommandRow &row);
     void insertSubMenu(const QString &strId, ActionContainer *pParent);
-    void createRecentCommands();
     void createLanguageMenu(ActionContainer *pViewMenu);
     void createToolBars();
     void listToolBars();
     void reloadIcons();
-    void enableCommand(const char *pId, bool bEnabled);
 
-    bool closeDocuments(const QList<QPointer<IDocument>> &documents);
     [[nodiscard]] static IDocumentFactory *selectDocumentFactory();
-    bool createDocument(IDocumentFactory *pFactory, IDocument *pDoc, ICreateDocumentDlg *pDialog);
-    void attachNew(IDocumentFactory *pFactory, IDocument *pDoc);
     bool handleDrop(QDropEvent *pEvent);
-    void updateWelcomeWidget();
-    void addRecent(const QString &strPath);
 
     void startDpiCheck();
     void watchScreen();
@@ -206,7 +204,6 @@ private:
     QToolBar *m_pFileToolbar = nullptr;
     std::map<QString, QAction *> m_actions; // the core's own, by command id
     QAction *m_pCurrentLanguage = nullptr;
-    QList<QAction *> m_recentActions;
     DocumentManager *m_pDocumentManager = nullptr;
     EditorManager *m_pEditorManager = nullptr;
     ActionManager *m_pActionManager = nullptr;
@@ -218,4 +215,6 @@ private:
     QRect m_normalGeometry; // of a maximised window that was made a line lower
     QMetaObject::Connection m_screenScale;
     std::map<QString, QString> m_themedIcons; // icon name by command id
+    std::unique_ptr<ProjectController> m_pProjects;
+    std::unique_ptr<TempFolder> m_pTempFolder;
 };

@@ -8,10 +8,9 @@
 #include "actionmanager/contextmanager.h"
 #include "appearance/ilanguagemanager.h"
 #include "document/documentmanager.h"
-#include "document/editormanager.h"
 #include "document/idocument.h"
-#include "document/ieditor.h"
 #include "iui.h"
+#include "projectcontroller.h"
 #include "ui/imainmenuwidget.h"
 
 #include <QActionGroup>
@@ -47,7 +46,6 @@ Q_LOGGING_CATEGORY(lcCommands, "kelpa.core.commands")
 
 const QString s_menuBar = QStringLiteral("Kelpa.MenuBar");
 const QString s_languageMenu = QStringLiteral("View.Language");
-const QString s_recentMenu = QStringLiteral("File.Recent_Projects");
 const QString s_saveAsMenu = QStringLiteral("File.SaveAs");
 const QString s_toolBarsMenu = QStringLiteral("View.Tool_Bars");
 const QString s_coreImages = QStringLiteral(":/core/images/");
@@ -139,7 +137,7 @@ void MainWindow::initActions()
         if (row.bTopLevel)
             pMenuBar->insertMenu(pMenu);
     }
-    createRecentCommands();
+    m_pProjects->createRecentCommands();
     for (const CommandRow &row : s_entries) {
         ActionContainer *pMenu = ActionManager::getActionContainer(QLatin1String(row.pMenu));
         if (!row.pId)
@@ -184,9 +182,7 @@ void MainWindow::insertSubMenu(const QString &strId, ActionContainer *pParent)
     }
     ActionContainer *pContainer = ActionManager::getActionContainer(strId);
     pParent->insertMenu(pContainer);
-    if (strId == s_recentMenu)
-        updateRecentFileActions();
-    else if (strId == s_toolBarsMenu)
+    if (strId == s_toolBarsMenu)
         connect(pContainer->getMenu(), &QMenu::aboutToShow, this, &MainWindow::listToolBars);
 }
 
@@ -235,7 +231,7 @@ void MainWindow::languageChanged(QAction *pAction)
     const QString strId = pAction->data().toString();
     ILanguageManager &manager = ILanguageManager::getInstance();
     if (strId != manager.getCurrentLangId()) {
-        IUi::information(this, QStringLiteral("Kelpa Studio"),
+        IUi::information(this, IUi::getTitle(),
             manager.saveLanguage(strId) ? tr("The language change will take effect from the next run.")
                                         : tr("Failed to change language."),
             QMessageBox::Ok, QMessageBox::Ok);
@@ -284,16 +280,14 @@ void MainWindow::onDPIChanged()
 
 void MainWindow::onEnabledSaveActionChanged(bool bDisabled)
 {
-    const IEditor *pEditor = EditorManager::activeEditor();
-    const IDocument *pDoc = pEditor ? pEditor->getDocument() : nullptr;
+    const IDocument *pDoc = ProjectController::getActiveDocument();
     const bool bHasFile = pDoc && !pDoc->isTempDocument() && !pDoc->isOpenAsBackup();
     enableCommand("File.Save", bHasFile ? !bDisabled : pDoc != nullptr);
 }
 
 void MainWindow::updateSaveAsMenu()
 {
-    const IEditor *pEditor = EditorManager::activeEditor();
-    const bool bDocument = pEditor && pEditor->getDocument();
+    const bool bDocument = ProjectController::getActiveDocument() != nullptr;
     ActionManager::getActionContainer(s_saveAsMenu)->getMenu()->setEnabled(bDocument);
     enableCommand("File.SaveAs.Project", bDocument);
     enableCommand("File.Close", bDocument);

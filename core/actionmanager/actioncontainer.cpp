@@ -4,7 +4,6 @@
 #include "actionmanager/actionmanager.h"
 #include "actionmanager/contextaction.h"
 #include "icore.h"
-#include "mainwindow.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -95,7 +94,7 @@ ContextAction *ActionContainer::insertSeparatorBefore(QAction *pBefore, QAction 
     auto *pSeparator = new QAction(this);
     pSeparator->setSeparator(true);
     const QString strId = QStringLiteral("Separator.%1").arg(s_nNext++);
-    ContextAction *pCommand = ActionManager::registerAction(pSeparator, strId, ICore::getMainWindow(), false);
+    ContextAction *pCommand = ActionManager::registerAction(pSeparator, strId, ICore::getMainWidget(), false);
     if (pCommand)
         insertAction(pBefore, pCommand->getAction());
     if (ppSeparator)

@@ -7,7 +7,6 @@
 #include "actionmanager/proxyaction.h"
 #include "actionmanager/shortcuts.h"
 #include "icore.h"
-#include "mainwindow.h"
 
 #include <extensionsystem/pluginmanager.h>
 
@@ -50,7 +49,7 @@ void ActionManager::initialize()
     if (!s_pInstance)
         return;
     setSettings(ExtensionSystem::PluginManager::settings());
-    s_pInstance->d->enterWindow(ICore::getMainWindow());
+    s_pInstance->d->enterWindow(ICore::getMainWidget());
 }
 
 void ActionManager::setSettings(QSettings *pSettings)

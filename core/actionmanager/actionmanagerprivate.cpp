@@ -7,7 +7,6 @@
 #include "actionmanager/proxyaction.h"
 #include "actionmanager/shortcuts.h"
 #include "icore.h"
-#include "mainwindow.h"
 
 #include <QLoggingCategory>
 #include <QMenu>
@@ -71,7 +70,7 @@ void ActionManagerPrivate::enterWindow(QWidget *pWindow)
 QPointer<ProxyAction> ActionManagerPrivate::addAction(
     QAction *pAction, const QString &strId, QWidget *pContext, bool bScriptable)
 {
-    QWidget *pWindow = ICore::getMainWindow();
+    QWidget *pWindow = ICore::getMainWidget();
     const auto it = m_actions.lowerBound(strId);
     const bool bNew = it == m_actions.end() || it.key() != strId;
     ContextAction *pCommand = bNew ? createCommand(strId, it) : *it;
@@ -148,7 +147,7 @@ void ActionManagerPrivate::dropCommand(ContextAction *pCommand)
 {
     m_actions.remove(pCommand->getId());
     m_outOfLine.erase(pCommand->getId());
-    if (QWidget *pWindow = ICore::getMainWindow())
+    if (QWidget *pWindow = ICore::getMainWidget())
         pWindow->removeAction(pCommand->getAction());
     delete pCommand;
 }
@@ -186,8 +185,8 @@ void ActionManagerPrivate::dropContainers()
 // then follows the newer context.
 void ActionManagerPrivate::setContext(QWidget *pContext)
 {
-    if (m_pFallback != ICore::getMainWindow()) {
-        m_pFallback = ICore::getMainWindow();
+    if (m_pFallback != ICore::getMainWidget()) {
+        m_pFallback = ICore::getMainWidget();
         m_outOfLine.insert(m_actions.keyBegin(), m_actions.keyEnd());
     }
     putContextOutOfLine(m_pCurrentContext);

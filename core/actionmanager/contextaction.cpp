@@ -4,7 +4,6 @@
 #include "actionmanager/actionmanager_p.h"
 #include "actionmanager/proxyaction.h"
 #include "icore.h"
-#include "mainwindow.h"
 
 #include <extensionsystem/pluginmanager.h>
 
@@ -105,7 +104,7 @@ const ContextAction::Override *ContextAction::overrideOf(const QWidget *pContext
 // Listeners hear of each change of the proxy, and one may delete the command and with it the proxy.
 void ContextAction::setCurrentContext(QWidget *pContext)
 {
-    m_pCurrentContext = overrideOf(pContext) ? pContext : ICore::getMainWindow();
+    m_pCurrentContext = overrideOf(pContext) ? pContext : ICore::getMainWidget();
     const QPointer<ProxyAction> pProxy = m_pProxy;
     if (!pProxy)
         return;

@@ -2,7 +2,8 @@
 #include "actionmanager/contextmanager.h"
 
 #include "icore.h"
-#include "mainwindow.h"
+
+#include <QWidget>
 
 #include <algorithm>
 
@@ -69,7 +70,7 @@ QList<Context> ContextManager::getContexts()
 
 Context ContextManager::getGlobalContext()
 {
-    return {ICore::getMainWindow(), s_globalContext, s_globalContext};
+    return {ICore::getMainWidget(), s_globalContext, s_globalContext};
 }
 
 bool ContextManager::isGlobalContext(const Context &context)

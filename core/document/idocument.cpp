@@ -8,10 +8,6 @@
 #include <QFileInfo>
 #include <QUndoStack>
 
-namespace {
-const QString s_title = QStringLiteral("Kelpa Studio");
-}
-
 IDocument::IDocument() = default;
 
 IDocument::~IDocument()
@@ -37,7 +33,7 @@ bool IDocument::close()
 {
     const QPointer<IDocument> pThis = this;
     if (isModified()) {
-        const auto answer = IUi::question(nullptr, s_title,
+        const auto answer = IUi::question(nullptr, IUi::getTitle(),
             tr("Save changes made to %1?").arg(QFileInfo(m_strFileName).completeBaseName()),
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
         if (!pThis)
@@ -66,7 +62,7 @@ bool IDocument::saveBeforeClose()
     m_bSavedByClose = false;
     if (bSaved)
         return true;
-    IUi::information(nullptr, s_title,
+    IUi::information(nullptr, IUi::getTitle(),
         tr("Could not save project %1.").arg(QFileInfo(m_strFileName).completeBaseName()), QMessageBox::Ok,
         QMessageBox::Ok, m_strSaveError);
     return false;
@@ -97,6 +93,12 @@ QString IDocument::resolvedPath(const QString &strFileName)
     const QString strFolder = QFileInfo(file.absolutePath()).canonicalFilePath();
     return strFolder.isEmpty() ? QDir::cleanPath(file.absoluteFilePath())
                                : QDir(strFolder).filePath(file.fileName());
+}
+
+bool IDocument::isProjectFile(const QString &strFileName)
+{
+    const QString strSuffix = QFileInfo(strFileName).suffix().toLower();
+    return strSuffix == QLatin1String("kelpa") || strSuffix == QLatin1String("kelpapack");
 }
 
 bool IDocument::isAt(const QString &strResolvedPath) const

@@ -12,6 +12,15 @@ class QUndoStack;
 
 /// Base of every document that the program opens. A factory makes it; once attached, the main window deletes
 /// it after close() and requestClosing(). GUI thread only.
+///
+///     NotesDocument::NotesDocument() { setUndoStack(&m_stack); }
+///     bool NotesDocument::save()
+///     {
+///         setSaveError(FileWriter::write(getFileName(), m_text));
+///         if (getSaveError().isEmpty())
+///             m_stack.setClean();
+///         return getSaveError().isEmpty();
+///     }
 class CORE_EXPORT IDocument : public QObject
 {
     Q_OBJECT
@@ -62,6 +71,9 @@ public:
 
     /// The path without links. Of a file that does not exist, only its folder is looked for.
     [[nodiscard]] static QString resolvedPath(const QString &strFileName);
+
+    /// Whether the suffix, in any case, is that of a project or of a packed one.
+    [[nodiscard]] static bool isProjectFile(const QString &strFileName);
 
     /// Whether this path without links, as QFileInfo::canonicalFilePath() or resolvedPath() gives it, was
     /// that of the document's file when its name was set. Never for an empty one. The disk is not asked.

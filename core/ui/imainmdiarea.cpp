@@ -4,6 +4,7 @@
 #include "actionmanager/actionmanager.h"
 #include "actionmanager/contextaction.h"
 #include "appearance/ilanguagemanager.h"
+#include "document/idocument.h"
 #include "icore.h"
 #include "irecentfilesmanager.h"
 #include "iui.h"
@@ -19,18 +20,10 @@
 
 namespace {
 
-const QString s_title = QStringLiteral("Kelpa Studio");
-
 QWebChannel *channel()
 {
     const MainWindow *pMainWindow = ICore::getMainWindow();
     return pMainWindow ? pMainWindow->getChannel() : nullptr;
-}
-
-bool isProjectSuffix(const QString &strSuffix)
-{
-    return strSuffix.compare(QLatin1String("kelpapack"), Qt::CaseInsensitive) == 0
-        || strSuffix.compare(QLatin1String("kelpa"), Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
@@ -64,10 +57,10 @@ void IMainMdiArea::showInExplorer(const QString &strFileName)
         return;
     if (QFile::exists(strFileName)) {
         if (!QDesktopServices::openUrl(QUrl(QStringLiteral("file:///") + strFolder)))
-            IUi::warning(this, s_title, tr("Could not open file %1.").arg(strFileName));
+            IUi::warning(this, IUi::getTitle(), tr("Could not open file %1.").arg(strFileName));
         return;
     }
-    const auto answer = IUi::question(this, s_title,
+    const auto answer = IUi::question(this, IUi::getTitle(),
         tr("The project [%1] no longer exists.\nDo you want to remove this entry from history?")
             .arg(strFileName),
         QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
@@ -109,7 +102,7 @@ void IMainMdiArea::openURL(const QString &strURL)
     if (strURL.startsWith(QLatin1String("http://")) || strURL.startsWith(QLatin1String("https://")))
         QDesktopServices::openUrl(QUrl(strURL));
     else
-        IUi::information(this, s_title, QStringLiteral("URL: ") + strURL);
+        IUi::information(this, IUi::getTitle(), QStringLiteral("URL: ") + strURL);
 }
 
 // The desktop gets the bare path as a URL without scheme, for which plug-ins may set a handler.
@@ -118,11 +111,11 @@ void IMainMdiArea::openFile(const QString &strFile)
     const QString strPath = QDir(ICore::resourcePath()).absoluteFilePath(strFile);
     if (!QFile::exists(strPath)) {
         IUi::information(
-            this, s_title, tr("Could not find the requested file.") + QLatin1Char('\n') + strPath);
+            this, IUi::getTitle(), tr("Could not find the requested file.") + QLatin1Char('\n') + strPath);
         return;
     }
     MainWindow *pMainWindow = ICore::getMainWindow();
-    if (!isProjectSuffix(QFileInfo(strPath).suffix()))
+    if (!IDocument::isProjectFile(strPath))
         QDesktopServices::openUrl(QUrl(strPath));
     else if (pMainWindow)
         pMainWindow->loadFile(strPath);

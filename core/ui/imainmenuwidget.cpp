@@ -115,7 +115,7 @@ bool IMainMenuWidget::isTitleBarArea(int x, int y) const
 
 void IMainMenuWidget::updateWindowFilePath(const QString &fileName)
 {
-    const QString strProgram = QStringLiteral("Kelpa Studio");
+    const QString strProgram = IUi::getTitle();
     setWindowTitle(fileName.isEmpty() ? strProgram : QStringLiteral("%1 - %2").arg(fileName, strProgram));
     update();
 }

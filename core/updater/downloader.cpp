@@ -4,7 +4,6 @@
 #include "displayscale.h"
 #include "icore.h"
 #include "iui.h"
-#include "mainwindow.h"
 #include "ui_downloader.h"
 #include "updater/updatetexts.h"
 
@@ -111,7 +110,7 @@ void Downloader::begin(const QUrl &url)
     request(url);
     // A transient window stays in front of the main window; a child would be deleted with it.
     winId();
-    const MainWindow *pMainWindow = ICore::getMainWindow();
+    const QWidget *pMainWindow = ICore::getMainWidget();
     windowHandle()->setTransientParent(pMainWindow ? pMainWindow->windowHandle() : nullptr);
     showNormal();
 }
@@ -377,7 +376,7 @@ void Downloader::installUpdate()
         // The box may appear while the user types; a stray Return must not install anything.
         pBox->setDefaultButton(QMessageBox::Cancel);
     };
-    const auto answer = IUi::run(nullptr, QStringLiteral("question_32"), QStringLiteral("Kelpa Studio"), ask);
+    const auto answer = IUi::run(nullptr, QStringLiteral("question_32"), IUi::getTitle(), ask);
     if (!pThis || m_state != state)
         return;
     if (answer == QMessageBox::Ok)
@@ -391,7 +390,7 @@ void Downloader::openDownload()
 {
     if (QFile::exists(m_file.path()))
         return checkThen(m_file.path(), &Downloader::findHandler);
-    IUi::run(nullptr, QStringLiteral("critical_32"), QStringLiteral("Kelpa Studio"), [](QMessageBox *pBox) {
+    IUi::run(nullptr, QStringLiteral("critical_32"), IUi::getTitle(), [](QMessageBox *pBox) {
         pBox->setText(tr("Cannot find downloaded update!"));
         pBox->setStandardButtons(QMessageBox::Close);
     });
@@ -428,7 +427,7 @@ void Downloader::runInstaller(bool bHandler)
         return QCoreApplication::quit();
     m_pUi->openButton->setEnabled(true);
     m_pUi->timeLabel->setText(tr("Click Open to apply the update."));
-    IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
+    IUi::warning(ICore::getMainWidget(), IUi::getTitle(),
         (bHandler ? tr("%1 could not be opened.") : tr("There is no program to open %1 with."))
             .arg(inQuotes(m_file.path())));
 }
@@ -441,8 +440,8 @@ void Downloader::cancelDownload()
         return;
     }
     const QPointer<QNetworkReply> pReply = m_pReply;
-    const auto answer = IUi::question(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
-        tr("Are you sure you want to cancel the download?"));
+    const auto answer = IUi::question(
+        ICore::getMainWidget(), IUi::getTitle(), tr("Are you sure you want to cancel the download?"));
     // The download may have ended, or another one begun, while the question was open.
     if (answer != QMessageBox::Yes || !pReply || pReply != m_pReply)
         return;
@@ -476,9 +475,7 @@ void Downloader::fail(const QString &strReason)
     releaseReply();
     m_state = State::Idle;
     close();
-    const auto tell = [strShown] {
-        IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strShown);
-    };
+    const auto tell = [strShown] { IUi::warning(ICore::getMainWidget(), IUi::getTitle(), strShown); };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
@@ -486,7 +483,7 @@ void Downloader::fail(const QString &strReason)
 // close, and a refusal here would leave the program running without a main window.
 void Downloader::closeEvent(QCloseEvent *pEvent)
 {
-    const MainWindow *pMainWindow = ICore::getMainWindow();
+    const QWidget *pMainWindow = ICore::getMainWidget();
     const bool bUnderWay = m_state == State::Loading && !(pMainWindow && !pMainWindow->isVisible());
     if (bUnderWay) {
         cancelDownload();

@@ -3,7 +3,6 @@
 
 #include "icore.h"
 #include "iui.h"
-#include "mainwindow.h"
 #include "updater/downloader.h"
 #include "updater/kpreleasenotedlg.h"
 #include "updater/updatetexts.h"
@@ -227,7 +226,7 @@ void Updater::offer()
         return;
     const Appcast offered = m_appcast;
     const QPointer<Updater> pThis = this;
-    const QPointer<KPReleaseNoteDlg> pDialog = new KPReleaseNoteDlg(ICore::getMainWindow());
+    const QPointer<KPReleaseNoteDlg> pDialog = new KPReleaseNoteDlg(ICore::getMainWidget());
     const QString strVersion = UpdateTexts::shortened(offered.strLatestVersion, UpdateTexts::LongestVersion);
     pDialog->setHeading(tr("<b>%1 %2 has been released!</b>")
                             .arg(m_strModuleName.toHtmlEscaped(), strVersion.toHtmlEscaped()));
@@ -260,14 +259,13 @@ void Updater::accept(const Appcast &appcast)
 
 void Updater::congratulate()
 {
-    IUi::run(
-        nullptr, QStringLiteral("information_32"), QStringLiteral("Kelpa Studio"), [this](QMessageBox *pBox) {
-            pBox->setTextFormat(Qt::RichText);
-            pBox->setText(QStringLiteral("<h3>")
-                + tr("Congratulations! You are running the latest version of %1")
-                      .arg(m_strModuleName.toHtmlEscaped())
-                + QStringLiteral("</h3>"));
-            pBox->setInformativeText(tr("No updates are available at the moment."));
-            pBox->setStandardButtons(QMessageBox::Close);
-        });
+    IUi::run(nullptr, QStringLiteral("information_32"), IUi::getTitle(), [this](QMessageBox *pBox) {
+        pBox->setTextFormat(Qt::RichText);
+        pBox->setText(QStringLiteral("<h3>")
+            + tr("Congratulations! You are running the latest version of %1")
+                  .arg(m_strModuleName.toHtmlEscaped())
+            + QStringLiteral("</h3>"));
+        pBox->setInformativeText(tr("No updates are available at the moment."));
+        pBox->setStandardButtons(QMessageBox::Close);
+    });
 }

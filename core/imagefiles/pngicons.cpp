@@ -4,7 +4,7 @@
 // start.
 #define QT_STATICPLUGIN
 
-#include "pngimage.h"
+#include "imagefiles/pngimage.h"
 
 #include <QFile>
 #include <QIconEnginePlugin>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "pngimage.h"
+#include "imagefiles/pngimage.h"
 
 #ifdef KELPA_PNG
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "lazyicon.h"
+#include "imagefiles/lazyicon.h"
 
-#include "pngimage.h"
+#include "imagefiles/pngimage.h"
 
 #include <QDataStream>
 #include <QFile>
