@@ -29,7 +29,7 @@ QString shownName(const QString &strName)
 
 void tell(const QString &strText)
 {
-    IUi::information(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"), strText);
+    IUi::information(ICore::getMainWindow(), IUi::getTitle(), strText);
 }
 
 } // namespace

@@ -27,7 +27,6 @@ Q_LOGGING_CATEGORY(lcStage, "kelpa.stage")
 
 namespace {
 
-const QString s_title = QStringLiteral("Kelpa Studio");
 const QString s_suffix = QStringLiteral(".kelpa");
 
 bool inRange(int nValue, int nMax)
@@ -86,7 +85,7 @@ bool StageDocument::createContent(int nFirst, int nSecond, int nThird, bool bFla
 {
     if (!inRange(nFirst, StageFormat::nMaxStageSize) || !inRange(nSecond, StageFormat::nMaxStageSize)
         || !inRange(nThird, StageFormat::nMaxFrameRate)) {
-        IUi::information(nullptr, s_title,
+        IUi::information(nullptr, IUi::getTitle(),
             tr("Could not create project %1.\nA stage of %2 by %3 pixels with %4 frames per second is not "
                "possible.")
                 .arg(QDir::toNativeSeparators(getFileName()), QString::number(nFirst),
@@ -125,7 +124,7 @@ bool StageDocument::read(const QString &strAction)
     if (!result.project) {
         const QString strFile = QDir::toNativeSeparators(getFileName());
         qCWarning(lcStage, "%s: %s", qUtf8Printable(strFile), qUtf8Printable(result.error));
-        IUi::information(nullptr, s_title, strAction.arg(strFile) + QLatin1Char('\n') + result.error);
+        IUi::information(nullptr, IUi::getTitle(), strAction.arg(strFile) + QLatin1Char('\n') + result.error);
         return false;
     }
     m_pModel->setProject(*result.project);
@@ -173,15 +172,15 @@ bool StageDocument::saveAs()
         strFileName += s_suffix;
         // The dialog has asked about replacing a file only for the name without the suffix.
         if (QFileInfo::exists(strFileName)
-            && IUi::question(nullptr, s_title,
+            && IUi::question(nullptr, IUi::getTitle(),
                    tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strFileName)),
                    QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
                 != QMessageBox::Yes)
             return false;
     }
     if (isOpenElsewhere(strFileName, this)) {
-        IUi::information(
-            nullptr, s_title, tr("%1 is open. Close it first.").arg(QDir::toNativeSeparators(strFileName)));
+        IUi::information(nullptr, IUi::getTitle(),
+            tr("%1 is open. Close it first.").arg(QDir::toNativeSeparators(strFileName)));
         return false;
     }
     return saveAsOwn(strFileName);
@@ -219,12 +218,13 @@ void StageDocument::tellFailure(const QString &strFile)
     if (isSavedByClose())
         return;
     const QPointer<StageDocument> pThis = this;
-    const auto answer = IUi::run(nullptr, QStringLiteral("information_32"), s_title, [&](QMessageBox *pBox) {
-        pBox->setTextFormat(Qt::PlainText);
-        pBox->setText(tr("Could not save %1: %2").arg(strFile, getSaveError()));
-        pBox->setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
-        pBox->button(QMessageBox::Save)->setText(tr("Save &As..."));
-    });
+    const auto answer =
+        IUi::run(nullptr, QStringLiteral("information_32"), IUi::getTitle(), [&](QMessageBox *pBox) {
+            pBox->setTextFormat(Qt::PlainText);
+            pBox->setText(tr("Could not save %1: %2").arg(strFile, getSaveError()));
+            pBox->setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
+            pBox->button(QMessageBox::Save)->setText(tr("Save &As..."));
+        });
     if (answer == QMessageBox::Save && pThis)
         QMetaObject::invokeMethod(this, &StageDocument::saveElsewhere, Qt::QueuedConnection);
 }

@@ -141,7 +141,7 @@ void StageNewDialog::accept()
         return;
     const QString strPath = getFilePath();
     if (QFileInfo::exists(strPath)
-        && IUi::question(this, QStringLiteral("Kelpa Studio"),
+        && IUi::question(this, IUi::getTitle(),
                tr("%1 exists. Replace it?").arg(QDir::toNativeSeparators(strPath)),
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
             != QMessageBox::Yes)

@@ -85,7 +85,7 @@ std::pair<DocumentManager::Breakpoints, DocumentManager::Breakpoints> storedBrea
 void tellUnsaved(QWidget *pParent, const QString &strText)
 {
     const QSettings *pSettings = PluginManager::settings();
-    IUi::information(pParent, QStringLiteral("Kelpa Studio"), strText, QMessageBox::Ok, QMessageBox::Ok,
+    IUi::information(pParent, IUi::getTitle(), strText, QMessageBox::Ok, QMessageBox::Ok,
         pSettings ? QDir::toNativeSeparators(pSettings->fileName()) : QString());
 }
 

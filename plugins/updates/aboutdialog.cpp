@@ -75,7 +75,7 @@ AboutDialog::AboutDialog(QWidget *pParent)
     , m_pPlugins(new QTreeWidget(this))
 {
     const int nDPI = DisplayScale::logicalDpi(this);
-    setWindowTitle(tr("About %1").arg(QStringLiteral("Kelpa Studio")));
+    setWindowTitle(tr("About %1").arg(IUi::getTitle()));
     setWindowIcon(IUi::getIcon());
     auto *pIcon = new QLabel(this);
     const int nIcon = DisplayScale::proportional(nDPI, 48);

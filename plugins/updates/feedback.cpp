@@ -58,6 +58,6 @@ void Feedback::open(const QString &strAddress)
     const QUrl url = addressWithDetails(strAddress);
     if (url.isValid() && !url.isEmpty() && QDesktopServices::openUrl(url))
         return;
-    IUi::warning(ICore::getMainWindow(), QStringLiteral("Kelpa Studio"),
+    IUi::warning(ICore::getMainWindow(), IUi::getTitle(),
         Texts::tr("The address \"%1\" cannot be opened.").arg(strAddress));
 }

@@ -33,11 +33,6 @@ QString platformKey()
 #endif
 }
 
-QString title()
-{
-    return QStringLiteral("Kelpa Studio");
-}
-
 } // namespace
 
 UpdateCheck::UpdateCheck(QObject *pParent)
@@ -111,7 +106,7 @@ void UpdateCheck::checkNow()
             return;
     }
     if (!UpdateSettings::hasFeed()) {
-        IUi::information(ICore::getMainWindow(), title(),
+        IUi::information(ICore::getMainWindow(), IUi::getTitle(),
             tr("No address to look for updates is set. You can set it in the preferences, under Updates."));
         return;
     }
@@ -164,14 +159,14 @@ void UpdateCheck::answer()
     QSimpleUpdater *pUpdater = QSimpleUpdater::getInstance();
     const QString strError = pUpdater->getLastError(m_strUrl);
     if (m_bDeadlineMissed && !strError.isEmpty())
-        IUi::warning(ICore::getMainWindow(), title(),
+        IUi::warning(ICore::getMainWindow(), IUi::getTitle(),
             tr("Cannot reach %1: no answer within %2 seconds.")
                 .arg(UpdateTexts::shown(QUrl(m_strUrl)))
                 .arg(m_pDeadline->interval() / 1000.0));
     else if (!strError.isEmpty())
-        IUi::warning(ICore::getMainWindow(), title(), strError);
+        IUi::warning(ICore::getMainWindow(), IUi::getTitle(), strError);
     else if (!pUpdater->getUpdateAvailable(m_strUrl))
-        IUi::information(ICore::getMainWindow(), title(),
+        IUi::information(ICore::getMainWindow(), IUi::getTitle(),
             tr("You are running the latest version of %1, %2.")
                 .arg(pUpdater->getModuleName(m_strUrl), pUpdater->getModuleVersion(m_strUrl)));
 }
