@@ -13,6 +13,12 @@ class IOptionsDlg;
 
 /// Makes the documents of one format and what goes with them. A plug-in owns it and keeps it in the
 /// framework's object pool, where the main window finds it. What it creates belongs to the caller.
+///
+///     IDocument *NotesFactory::createDocument() { return new NotesDocument; }
+///     IEditor *NotesFactory::createEditor() { return new NotesEditor; }
+///     QStringList NotesFactory::getSupportedSuffixes() { return {QStringLiteral("notes")}; }
+///     // ... and the three dialogs. In initialize() of the plug-in:
+///     PluginManager::addObject(&m_factory);
 class CORE_EXPORT IDocumentFactory : public QObject
 {
     Q_OBJECT

@@ -9,6 +9,15 @@ class IDocument;
 
 /// Presents one document in the main window. A factory makes it; once attached, the main window deletes it
 /// when its document closes. It re-emits its document's signals, so that listeners connect to one object.
+///
+///     NotesEditor::NotesEditor()
+///     {
+///         connect(this, &IEditor::aboutToActivate, this, [this] {
+///             if (!m_pSubWindow) // a QPointer
+///                 m_pSubWindow = ICore::getMainWindow()->getMdiArea()->addSubWindow(new NotesView);
+///             m_pSubWindow->show();
+///         });
+///     }
 class CORE_EXPORT IEditor : public QObject
 {
     Q_OBJECT
