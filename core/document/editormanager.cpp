@@ -40,7 +40,19 @@ bool EditorManager::removeEditor(IEditor *pEditor)
         return true;
     if (!s_pInstance || !s_pInstance->m_editors.contains(pEditor))
         return false;
-    s_pInstance->deactivateAndTake(pEditor, true);
+    const bool bWasActive = pEditor == s_pInstance->m_pActiveEditor;
+    if (bWasActive) {
+        const QPointer<IEditor> pWatched = pEditor;
+        emit pEditor->aboutToDeactivate();
+        if (pWatched)
+            emit s_pInstance->editorDeactivated(pEditor);
+        if (s_pInstance->m_pActiveEditor == pEditor)
+            s_pInstance->m_pActiveEditor = nullptr;
+        if (!pWatched)
+            return true;
+    }
+    disconnect(pEditor, &QObject::destroyed, s_pInstance, &EditorManager::editorDestroyed);
+    s_pInstance->take(pEditor, bWasActive);
     return true;
 }
 
@@ -55,7 +67,7 @@ void EditorManager::activateEditor(IEditor *pEditor)
         if (pOld)
             emit s_pInstance->editorDeactivated(pOld);
     }
-    if (!pEditor || pNew)
+    if ((!pEditor || pNew) && pEditor != s_pInstance->m_pActiveEditor)
         s_pInstance->setActive(pEditor);
 }
 
@@ -92,29 +104,13 @@ void EditorManager::setActive(IEditor *pEditor)
 }
 
 // What a slot did meanwhile stands: it may have taken the editor out, or activated another.
-void EditorManager::deactivateAndTake(IEditor *pEditor, bool bAlive)
+void EditorManager::take(IEditor *pEditor, bool bWasActive)
 {
-    const bool bWasActive = pEditor == m_pActiveEditor;
-    if (bWasActive) {
-        const QPointer<IEditor> pWatched = bAlive ? pEditor : nullptr;
-        if (bAlive)
-            emit pEditor->aboutToDeactivate();
-        else
-            m_pActiveEditor = nullptr;
-        if (!bAlive || pWatched)
-            emit editorDeactivated(pEditor);
-        if (m_pActiveEditor == pEditor)
-            m_pActiveEditor = nullptr;
-        if (bAlive && !pWatched)
-            return;
-    }
     const auto nIndex = m_editors.indexOf(pEditor);
     if (nIndex < 0)
         return;
     IEditor *pSuccessor = m_editors.value(nIndex + 1, m_editors.value(nIndex - 1));
     m_editors.removeAt(nIndex);
-    if (bAlive)
-        disconnect(pEditor, &QObject::destroyed, this, &EditorManager::editorDestroyed);
     if (bWasActive && pSuccessor && !m_pActiveEditor)
         setActive(pSuccessor);
 }
@@ -123,9 +119,14 @@ void EditorManager::deactivateAndTake(IEditor *pEditor, bool bAlive)
 void EditorManager::editorDestroyed(QObject *pObject)
 {
     const auto isIt = [=](const IEditor *p) { return static_cast<const QObject *>(p) == pObject; };
-    const auto it = std::find_if(m_editors.begin(), m_editors.end(), isIt);
-    if (it != m_editors.end())
-        deactivateAndTake(*it, false);
-    else if (m_pActiveEditor && isIt(m_pActiveEditor))
+    const bool bWasActive = m_pActiveEditor && isIt(m_pActiveEditor);
+    if (bWasActive)
         m_pActiveEditor = nullptr;
+    const auto it = std::find_if(m_editors.begin(), m_editors.end(), isIt);
+    if (it == m_editors.end())
+        return;
+    IEditor *pEditor = *it;
+    if (bWasActive)
+        emit editorDeactivated(pEditor);
+    take(pEditor, bWasActive);
 }

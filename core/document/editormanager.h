@@ -51,7 +51,7 @@ private slots:
 
 private:
     void setActive(IEditor *pEditor);
-    void deactivateAndTake(IEditor *pEditor, bool bAlive);
+    void take(IEditor *pEditor, bool bWasActive);
 
     QList<IEditor *> m_editors;
     IEditor *m_pActiveEditor = nullptr;
