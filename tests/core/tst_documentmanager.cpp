@@ -1,13 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include <support/coretest.h>
 
-namespace {
+#include <random>
 
 using Breakpoints = DocumentManager::Breakpoints;
+using ExtensionSystem::PluginManager;
+
+namespace {
+
+// A document as it should be listed, with its timer; a wait of 0 has never begun.
+struct Entry
+{
+    IDocument *pDocument;
+    bool bWaits = false;
+    int nWait = 0;
+    bool operator==(const Entry &) const = default;
+};
 
 QList<QTimer *> timers()
 {
-    return DocumentManager::getInstance()->findChildren<QTimer *>();
+    return DocumentManager::getInstance()->findChildren<QTimer *>(); // in the order of their documents
+}
+
+QList<Entry> listed()
+{
+    QList<Entry> result;
+    for (IDocument *pDocument : DocumentManager::getDocuments())
+        result.append({pDocument});
+    for (int i = 0; i < int(timers().size()) && timers().size() == result.size(); ++i)
+        result[i] = {result.at(i).pDocument, timers().at(i)->isActive(), timers().at(i)->interval()};
+    return result;
 }
 
 } // namespace
@@ -20,112 +42,134 @@ private slots:
     void init()
     {
         m_pProgram = std::make_unique<TestProgram>();
-        m_pManager = std::make_unique<DocumentManager>();
-        DocumentManager::setSettings(ExtensionSystem::PluginManager::settings());
+        restart();
     }
-
     void cleanup()
     {
         m_pManager.reset();
         m_pProgram.reset();
     }
 
-    void documentsShareTheGroupAndHaveATimerEach()
+    // Documents come, wait, are backed up and go at random; after each step the manager agrees with a list.
+    void documentsAndTheirTimersAgreeWithAList()
     {
-        FakeDocument first;
-        auto pSecond = std::make_unique<FakeDocument>();
-        for (IDocument *pDocument : QList<IDocument *> {&first, pSecond.get(), &first, nullptr})
-            DocumentManager::addDocument(pDocument);
-        QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first, pSecond.get()}));
-        QCOMPARE(DocumentManager::getUndoGroup()->stacks().size(), 2);
-        QCOMPARE(timers().size(), 2);
-        QVERIFY(!timers().at(0)->isActive() && !timers().at(1)->isActive());
-
-        DocumentManager::startWaitingBackup(pSecond.get());
-        pSecond.reset(); // deleted without being removed first
-        QCOMPARE(DocumentManager::getDocuments(), QList<IDocument *>({&first}));
-        QCOMPARE(DocumentManager::getUndoGroup()->stacks(), QList<QUndoStack *>({&first.stack}));
-        QCOMPARE(timers().size(), 1);
-        QVERIFY(DocumentManager::removeDocument(&first));
-        QVERIFY(!DocumentManager::removeDocument(&first));
-        QVERIFY(DocumentManager::getUndoGroup()->stacks().isEmpty() && timers().isEmpty());
-    }
-
-    void backupIsTakenEveryIntervalOnceStarted()
-    {
-        FakeDocument document;
-        DocumentManager::addDocument(&document);
-        QTimer *pTimer = timers().first();
-        DocumentManager::startWaitingBackup(&document);
-        QVERIFY(pTimer->isActive() && pTimer->isSingleShot());
-        QCOMPARE(pTimer->interval(), 300000);
-
-        DocumentManager::setAutobackupTimeout(20);
-        DocumentManager::startWaitingBackup(&document);
-        QCOMPARE(pTimer->interval(), 20000);
-        pTimer->stop();
-        QMetaObject::invokeMethod(pTimer, "timeout"); // at once
-        QCOMPARE(document.calls, QStringList({"saveBackup"}));
-        QVERIFY(pTimer->isActive());
-
-        DocumentManager::stopWaitingBackup(&document);
-        QVERIFY(!pTimer->isActive());
-    }
-
-    void backupThatClosesItsDocument()
-    {
-        auto *pDocument = new FakeDocument;
-        DocumentManager::addDocument(pDocument);
-        pDocument->onBackup = [=] { DocumentManager::removeDocument(pDocument); };
-        QMetaObject::invokeMethod(timers().first(), "timeout");
-        QVERIFY(timers().isEmpty());
-        delete pDocument;
-    }
-
-    void oddIntervalsNeitherSpinNorOverflow()
-    {
-        FakeDocument document;
-        DocumentManager::addDocument(&document);
-        const int nLargest = std::numeric_limits<int>::max();
-        for (const auto &[nSeconds, nWait] :
-            {std::pair(0, 1000), std::pair(-5, 1000), std::pair(nLargest, nLargest / 1000 * 1000)}) {
-            DocumentManager::setAutobackupTimeout(nSeconds);
-            DocumentManager::startWaitingBackup(&document);
-            QCOMPARE(timers().first()->interval(), nWait);
+        std::mt19937 random(1);
+        std::array<std::unique_ptr<FakeDocument>, 4> documents;
+        QList<Entry> entries;
+        int nSeconds = 300;
+        const auto waiting = [&](IDocument *pDocument) {
+            return Entry {
+                pDocument, true, qBound(1, nSeconds, std::numeric_limits<int>::max() / 1000) * 1000};
+        };
+        for (int i = 0; i < 3000; ++i) {
+            auto &pOwner = documents.at(random() % 4);
+            if (!pOwner)
+                pOwner = std::make_unique<FakeDocument>();
+            FakeDocument *pDocument = pOwner.get();
+            const auto isIt = [=](const Entry &entry) { return entry.pDocument == pDocument; };
+            const auto it = std::find_if(entries.begin(), entries.end(), isIt);
+            const bool bListed = it != entries.end();
+            const auto nStep = random() % 7;
+            if (nStep == 0) {
+                DocumentManager::addDocument(pDocument);
+                entries += bListed ? QList<Entry>() : QList<Entry> {{pDocument}};
+            } else if (nStep == 1) {
+                QCOMPARE(DocumentManager::removeDocument(pDocument), bListed);
+                entries.removeIf(isIt);
+            } else if (nStep == 2) { // without a word
+                pOwner.reset();
+                entries.removeIf(isIt);
+            } else if (nStep == 3) {
+                nSeconds = std::array {0, -5, 1, 20, 300, std::numeric_limits<int>::max()}.at(random() % 6);
+                DocumentManager::setAutobackupTimeout(nSeconds);
+            } else if (nStep == 4) {
+                DocumentManager::stopWaitingBackup(pDocument);
+                if (bListed)
+                    it->bWaits = false;
+            } else if (nStep == 5 || !bListed) {
+                DocumentManager::startWaitingBackup(pDocument);
+                if (bListed)
+                    *it = waiting(pDocument);
+            } else { // the wait is over, and the backup may close its document
+                int nBackups = 0;
+                pDocument->onBackup = [&, bCloses = random() % 3 == 0] {
+                    ++nBackups;
+                    if (bCloses && DocumentManager::removeDocument(pDocument))
+                        entries.removeIf(isIt);
+                };
+                *it = waiting(pDocument);
+                QMetaObject::invokeMethod(timers().at(it - entries.begin()), "timeout");
+                pDocument->onBackup = nullptr;
+                QCOMPARE(nBackups, 1);
+            }
+            QVERIFY2(listed() == entries, qPrintable(QString("step %1: %2").arg(i).arg(nStep)));
             QCOMPARE(DocumentManager::getAutobackupTimeout(), nSeconds);
+            QCOMPARE(timers().size(), entries.size());
+            QVERIFY(std::ranges::all_of(timers(), &QTimer::isSingleShot));
+            QList<QUndoStack *> stacks;
+            for (const Entry &entry : std::as_const(entries))
+                stacks.append(entry.pDocument->getUndoStack());
+            QCOMPARE(DocumentManager::getUndoGroup()->stacks(), stacks);
         }
+        DocumentManager::addDocument(nullptr);
+        QVERIFY(DocumentManager::removeDocument(nullptr) && listed() == entries);
     }
 
     void preferencesSurviveARestart()
     {
-        DocumentManager::readSettings();
         QVERIFY(DocumentManager::isAutobackupEnabled() && DocumentManager::isPasteSvgAsFreeform());
-        const Breakpoints h = {{100, true}, {200, false}};
+        Breakpoints defaultH, defaultV;
+        DocumentManager::initBreakpoints(defaultH, defaultV, false);
+        QCOMPARE(defaultH, Breakpoints({{375, true}, {667, true}, {768, true}, {1024, true}, {1280, true}}));
+        QCOMPARE(
+            defaultV, Breakpoints({{345, false}, {522, false}, {620, false}, {674, false}, {930, false}}));
+        const Breakpoints own = {{100, true}, {200, false}};
         DocumentManager::setHBreakpoints({{1, true}, {2, true}, {3, true}});
         DocumentManager::saveSettings();
         DocumentManager::setAutoBackupEnabled(false);
         DocumentManager::setAutobackupTimeout(42);
         DocumentManager::setPasteSvgAsFreeform(false);
-        DocumentManager::setHBreakpoints(h);
-        DocumentManager::setVBreakpoints({{7, true}});
+        DocumentManager::setHBreakpoints({});
+        DocumentManager::setVBreakpoints(own);
         DocumentManager::saveSettings();
-        const QSettings *pStore = ExtensionSystem::PluginManager::settings();
-        QCOMPARE(pStore->value("Breakpoints/Horizontal/2/Value").toInt(), 200);
-        QVERIFY(!pStore->contains("Breakpoints/Horizontal/3/Value"));
+        const QSettings *pStore = PluginManager::settings();
+        QCOMPARE(pStore->value("Breakpoints/Vertical/2/Value").toInt(), 200);
+        QVERIFY(!pStore->contains("Breakpoints/Horizontal/1/Value"));
 
-        m_pManager.reset();
-        m_pManager = std::make_unique<DocumentManager>();
-        DocumentManager::setSettings(ExtensionSystem::PluginManager::settings());
-        DocumentManager::readSettings();
-        QVERIFY(!DocumentManager::isAutobackupEnabled());
+        restart();
+        QVERIFY(!DocumentManager::isAutobackupEnabled() && !DocumentManager::isPasteSvgAsFreeform());
         QCOMPARE(DocumentManager::getAutobackupTimeout(), 42);
-        QVERIFY(!DocumentManager::isPasteSvgAsFreeform());
-        QCOMPARE(DocumentManager::getHBreakpoints(), h);
+        Breakpoints h, v;
+        DocumentManager::initBreakpoints(h, v, false);
+        QVERIFY(h.isEmpty() && v == own);
+        DocumentManager::initBreakpoints(h, v, true);
+        QVERIFY(h == defaultH && v == defaultV);
         DocumentManager::readSettings();
-        QCOMPARE(DocumentManager::getHBreakpoints(), h + h);
+        QCOMPARE(DocumentManager::getVBreakpoints(), own + own);
+    }
+
+    void withoutAManagerNothingIsKept()
+    {
+        m_pManager.reset();
+        FakeDocument document;
+        DocumentManager::addDocument(&document);
+        DocumentManager::startWaitingBackup(&document);
+        DocumentManager::stopWaitingBackup(&document);
+        DocumentManager::saveSettings();
+        DocumentManager::setAutobackupTimeout(3);
+        QVERIFY(!DocumentManager::removeDocument(&document) && DocumentManager::getDocuments().isEmpty());
+        QVERIFY(!DocumentManager::getUndoGroup() && DocumentManager::getAutobackupTimeout() == 0);
     }
 
 private:
+    void restart()
+    {
+        m_pManager.reset();
+        m_pManager = std::make_unique<DocumentManager>();
+        DocumentManager::setSettings(PluginManager::settings());
+        DocumentManager::readSettings();
+    }
+
     std::unique_ptr<TestProgram> m_pProgram;
     std::unique_ptr<DocumentManager> m_pManager;
 };

@@ -1,31 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include <support/coretest.h>
 
+#include <random>
+
 namespace {
 
-// Every activation signal of manager and editors, in the order it is emitted.
-class Recorder : public QObject
+// What a manager does, put down literally. Editors are letters; what was said comes with who was active then.
+struct Model
 {
-public:
-    explicit Recorder(const QList<IEditor *> &editors)
+    QString editors;
+    QString active;
+    QStringList said;
+
+    void say(const char *pWhat, const QString &strWho) { said.append(pWhat + strWho + " while " + active); }
+    void activate(const QString &strNew)
     {
-        connect(EditorManager::getInstance(), &EditorManager::editorActivated, this,
-            [this](IEditor *p) { add("activated ", p); });
-        connect(EditorManager::getInstance(), &EditorManager::editorDeactivated, this,
-            [this](IEditor *p) { add("deactivated ", p); });
-        for (IEditor *pEditor : editors) {
-            m_names.insert(pEditor, QString(QChar(u'A' + int(m_names.size()))));
-            connect(pEditor, &IEditor::aboutToActivate, this, [=, this] { add("aboutTo ", pEditor); });
-            connect(pEditor, &IEditor::aboutToDeactivate, this, [=, this] { add("leaving ", pEditor); });
-        }
+        if (strNew == active)
+            return;
+        for (const char *pWhat : {"leaving ", "left "})
+            active.isEmpty() ? void() : say(pWhat, active);
+        active = strNew;
+        for (const char *pWhat : {"entering ", "entered "})
+            active.isEmpty() ? void() : say(pWhat, active);
     }
-    QStringList take() { return std::exchange(m_log, {}); }
-
-private:
-    void add(const char *pWhat, IEditor *p) { m_log.append(QLatin1String(pWhat) + m_names.value(p)); }
-
-    QHash<IEditor *, QString> m_names;
-    QStringList m_log;
+    // One that was deleted is active no longer when its leaving is told, and says nothing itself.
+    void take(const QString &strOld, bool bDeleted)
+    {
+        const bool bWasActive = strOld == active;
+        const int nIndex = int(editors.indexOf(strOld));
+        if (bWasActive && bDeleted)
+            active.clear();
+        if (nIndex < 0)
+            return;
+        editors.remove(nIndex, 1);
+        if (bWasActive && bDeleted)
+            say("left ", strOld);
+        if (bWasActive)
+            activate(editors.mid(qMin(nIndex, int(editors.size()) - 1), 1));
+    }
 };
 
 } // namespace
@@ -38,70 +50,107 @@ private slots:
     void init()
     {
         m_pManager = std::make_unique<EditorManager>();
-        for (int i = 0; i < 3; ++i) {
-            m_editors.append(new IEditor);
-            EditorManager::addEditor(m_editors.last());
-        }
-        m_pRecorder = std::make_unique<Recorder>(m_editors);
+        m_said.clear();
+        connect(m_pManager.get(), &EditorManager::editorActivated, this,
+            [this](IEditor *p) { say("entered ", p); });
+        connect(m_pManager.get(), &EditorManager::editorDeactivated, this,
+            [this](IEditor *p) { say("left ", p); });
     }
-
     void cleanup()
     {
-        m_pRecorder.reset();
+        m_onSay = nullptr;
         qDeleteAll(std::exchange(m_editors, {}));
         m_pManager.reset();
     }
 
-    void switchingTellsTheOldEditorBeforeTheNew()
+    void editorsAgreeWithAListAfterEachStep()
     {
-        EditorManager::activateEditor(a());
-        EditorManager::activateEditor(b());
-        EditorManager::activateEditor(b());
-        EditorManager::activateEditor(nullptr);
-        QCOMPARE(m_pRecorder->take(),
-            QStringList({"aboutTo A", "activated A", "leaving A", "deactivated A", "aboutTo B", "activated B",
-                "leaving B", "deactivated B"}));
-        QCOMPARE(EditorManager::activeEditor(), nullptr);
-    }
-
-    // The walk through the stage removes the last one too, and any that is not active.
-    void removalHandsTheActivationOn()
-    {
-        EditorManager::activateEditor(b());
-        m_pRecorder->take();
-        QVERIFY(EditorManager::removeEditor(b()));
-        QCOMPARE(
-            m_pRecorder->take(), QStringList({"leaving B", "deactivated B", "aboutTo C", "activated C"}));
-        QVERIFY(!EditorManager::removeEditor(b()));
+        std::mt19937 random(1);
+        Model model;
+        for (int i = 0; i < 3000; ++i) {
+            const QString strName(QChar('A' + int(random() % 5)));
+            const auto nStep = random() % 5;
+            IEditor *pEditor = editor(strName);
+            if (nStep == 0) {
+                EditorManager::addEditor(pEditor);
+                if (!model.editors.contains(strName))
+                    model.editors.append(strName);
+            } else if (nStep == 1) {
+                EditorManager::activateEditor(pEditor); // listed or not
+                model.activate(strName);
+            } else if (nStep == 2 && random() % 8 == 0) {
+                EditorManager::activateEditor(nullptr);
+                model.activate({});
+            } else if (nStep == 3) {
+                const bool bListed = model.editors.contains(strName);
+                QCOMPARE(EditorManager::removeEditor(pEditor), bListed);
+                if (bListed)
+                    model.take(strName, false);
+            } else if (nStep == 4) {
+                delete pEditor;
+                model.take(strName, true);
+                m_editors.remove(strName);
+            }
+            QCOMPARE(m_said, model.said);
+            QCOMPARE(names(), model.editors);
+            QCOMPARE(nameOf(EditorManager::activeEditor()), model.active);
+            m_said.clear();
+            model.said.clear();
+        }
+        EditorManager::addEditor(nullptr);
         QVERIFY(EditorManager::removeEditor(nullptr));
+        QCOMPARE(names(), model.editors);
     }
 
-    void deletedEditorLeavesWithoutASignalOfItsOwn()
+    void slotsMayTakeEitherEditorAway_data()
     {
-        EditorManager::activateEditor(b());
-        m_pRecorder->take();
-        delete m_editors.takeAt(1);
-        QCOMPARE(m_pRecorder->take(), QStringList({"deactivated B", "aboutTo C", "activated C"}));
-        QCOMPARE(EditorManager::getEditors(), m_editors);
+        const auto row = columns<QString, QString, bool>("moment", "taken", "isDeleted");
+        for (const char *pMoment : {"leaving A", "left A", "entering B", "entered B"})
+            for (const char *pTaken : {"A", "B"})
+                for (const bool bDeleted : {false, true})
+                    row(qPrintable(QString("%1: %2, %3").arg(pMoment, pTaken).arg(bDeleted)), pMoment, pTaken,
+                        bDeleted);
+    }
+    void slotsMayTakeEitherEditorAway()
+    {
+        QFETCH(QString, moment);
+        QFETCH(QString, taken);
+        QFETCH(bool, isDeleted);
+        for (const char *pName : {"A", "B", "C"})
+            EditorManager::addEditor(editor(pName));
+        EditorManager::activateEditor(editor("A"));
+        bool bDone = false;
+        m_onSay = [&](const QString &strWhat) {
+            if (strWhat == moment && !std::exchange(bDone, true))
+                isDeleted ? delete m_editors.take(taken) : void(EditorManager::removeEditor(editor(taken)));
+        };
+        EditorManager::activateEditor(editor("B"));
+        QCOMPARE(names(), taken == "A" ? "BC" : "AC");
+        QVERIFY(m_said.filter("entered B").size() <= 1);
+        const bool bEntering = moment.endsWith('B');
+        QCOMPARE(nameOf(EditorManager::activeEditor()),
+            taken == "A" || !(bEntering || isDeleted) ? "B"
+                : bEntering                           ? "C"
+                                                      : "A");
     }
 
-    void deletedEditorThatWasActiveWithoutBeingListed()
+    void anEditorSaysWhatItsDocumentSays()
     {
-        auto *pStray = new IEditor;
-        EditorManager::activateEditor(pStray);
-        delete pStray;
-        QCOMPARE(EditorManager::activeEditor(), nullptr);
-        EditorManager::activateEditor(a());
-        QCOMPARE(EditorManager::activeEditor(), a());
-    }
-
-    void slotThatRemovesAnotherEditorDuringRemoval()
-    {
-        EditorManager::activateEditor(b());
-        connect(b(), &IEditor::aboutToDeactivate, this, [this] { EditorManager::removeEditor(a()); });
-        QVERIFY(EditorManager::removeEditor(b()));
-        QCOMPARE(EditorManager::getEditors(), QList<IEditor *>({c()}));
-        QCOMPARE(EditorManager::activeEditor(), c());
+        FakeDocument document;
+        IEditor *pEditor = editor("A");
+        pEditor->setDocument(&document);
+        QStringList said;
+        const auto relay = [&](auto signal, const char *pWhat, const auto &tell) {
+            connect(pEditor, signal, this, [&said, pWhat] { said.append(pWhat); });
+            tell();
+        };
+        relay(&IEditor::documentLoaded, "loaded", [&] { emit document.aboutToOpen(); });
+        relay(&IEditor::documentDataChanged, "data", [&] { emit document.dataChanged(this); });
+        relay(&IEditor::documentUnloading, "unloading", [&] { emit document.aboutToClose(); });
+        relay(&IEditor::documentTitleChanged, "title", [&] { emit document.titleChanged(); });
+        relay(&IEditor::documentModifyChanged, "modified", [&] { emit document.modifyChanged(true); });
+        relay(&IEditor::undoStackChanged, "stack", [&] { emit document.undoStackChanged(); });
+        QCOMPARE(said, QStringList({"loaded", "data", "unloading", "title", "modified", "stack"}));
     }
 
     // "destroyed" comes twice: from the whole document, by ~IDocument, and from what is left, by ~QObject.
@@ -109,11 +158,13 @@ private slots:
     {
         auto pDocument = std::make_unique<FakeDocument>();
         pDocument->setFileName("/p/a.kelpa");
-        a()->setDocument(pDocument.get());
+        IEditor *pEditor = editor("A");
+        pEditor->setDocument(pDocument.get());
         QStringList heard;
         connect(pDocument.get(), &QObject::destroyed, this, [&](QObject *pObject) {
             const auto *pWhole = qobject_cast<IDocument *>(pObject);
-            heard.append((pWhole ? pWhole->getFileName() : "") + (a()->getDocument() ? " kept" : " let go"));
+            heard.append(
+                (pWhole ? pWhole->getFileName() : "") + (pEditor->getDocument() ? " kept" : " let go"));
         });
         pDocument.reset();
         QCOMPARE(heard, QStringList({"/p/a.kelpa let go", " let go"}));
@@ -121,23 +172,44 @@ private slots:
 
     void withoutAManagerNothingHappens()
     {
-        m_pRecorder.reset();
         m_pManager.reset();
-        EditorManager::addEditor(a());
-        EditorManager::activateEditor(a());
-        QVERIFY(!EditorManager::removeEditor(a()));
-        QVERIFY(EditorManager::getEditors().isEmpty());
+        EditorManager::addEditor(editor("A"));
+        EditorManager::activateEditor(editor("A"));
+        QVERIFY(!EditorManager::removeEditor(editor("A")) && EditorManager::getEditors().isEmpty());
         QCOMPARE(EditorManager::activeEditor(), nullptr);
     }
 
 private:
-    [[nodiscard]] IEditor *a() const { return m_editors.at(0); }
-    [[nodiscard]] IEditor *b() const { return m_editors.at(1); }
-    [[nodiscard]] IEditor *c() const { return m_editors.at(2); }
+    IEditor *editor(const QString &strName)
+    {
+        IEditor *&pEditor = m_editors[strName];
+        if (!pEditor) {
+            pEditor = new IEditor;
+            connect(pEditor, &IEditor::aboutToActivate, this, [=, this] { say("entering ", pEditor); });
+            connect(pEditor, &IEditor::aboutToDeactivate, this, [=, this] { say("leaving ", pEditor); });
+        }
+        return pEditor;
+    }
+    [[nodiscard]] QString nameOf(IEditor *pEditor) const { return m_editors.key(pEditor); }
+    [[nodiscard]] QString names() const
+    {
+        QString strNames;
+        for (IEditor *pEditor : EditorManager::getEditors())
+            strNames += nameOf(pEditor);
+        return strNames;
+    }
+    void say(const char *pWhat, IEditor *pEditor)
+    {
+        const QString strWhat = pWhat + nameOf(pEditor);
+        m_said.append(strWhat + " while " + nameOf(EditorManager::activeEditor()));
+        if (m_onSay)
+            m_onSay(strWhat);
+    }
 
     std::unique_ptr<EditorManager> m_pManager;
-    std::unique_ptr<Recorder> m_pRecorder;
-    QList<IEditor *> m_editors;
+    QMap<QString, IEditor *> m_editors;
+    QStringList m_said;
+    std::function<void(QString)> m_onSay;
 };
 
 QTEST_MAIN(tst_EditorManager)

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <support/windowtest.h>
 
+#include <icore.h>
 #include <ui/imainmdiarea.h>
 
 #include <QUndoGroup>
+#include <QWebChannel>
+#include <QWebSocketServer>
 
 using ExtensionSystem::PluginManager;
 
@@ -66,22 +69,20 @@ private slots:
         QVERIFY(m_pWelcome->isHidden() && !m_pFactory->pDialog);
     }
 
-    void openFileIsOnlyActivatedUnderAnyPathToIt()
+    // The walk through the stage opens files that are open by their own path.
+    void aLinkToAnOpenFileOnlyActivatesIt()
     {
-        const QString strPath = m_pProgram->write("a.kelpa");
-        const QString strLink = m_pProgram->filePath("link.kelpa");
-        QVERIFY(QFile::link(strPath, strLink));
-        QVERIFY(m_pWindow->loadFile(strPath));
-        QVERIFY(m_pWindow->loadFile(m_pProgram->write("b.kelpa")));
-        QVERIFY(m_pWindow->loadFile(strLink));
-        QCOMPARE(EditorManager::getEditors().size(), 2);
+        const QString strPath = m_pProgram->write("a.kelpa"), strLink = m_pProgram->filePath("link.kelpa");
+        const auto openLinkTo = [&](const QString &strTarget) {
+            QFile::remove(strLink);
+            return QFile::link(strTarget, strLink) && m_pWindow->loadFile(strLink);
+        };
+        QVERIFY(m_pWindow->loadFile(strPath) && m_pWindow->loadFile(m_pProgram->write("b.kelpa")));
+        QVERIFY(openLinkTo(strPath));
         QCOMPARE(EditorManager::activeEditor(), EditorManager::getEditors().first());
         QCOMPARE(recent().first(), m_pProgram->filePath("b.kelpa"));
-
-        // The link leads to another file now: the open project is still the one that was opened.
-        QVERIFY(QFile::remove(strLink) && QFile::link(m_pProgram->write("c.kelpa"), strLink));
-        QVERIFY(m_pWindow->loadFile(strLink));
-        QVERIFY(QFile::remove(strLink) && QFile::link(strPath, strLink));
+        // The link leads elsewhere later: what was opened through it stays what it was.
+        QVERIFY(openLinkTo(m_pProgram->write("c.kelpa")) && openLinkTo(strPath));
         QVERIFY(m_pWindow->loadFile(m_pProgram->filePath("c.kelpa")));
         QCOMPARE(EditorManager::getEditors().size(), 3);
         QCOMPARE(EditorManager::activeEditor(), EditorManager::getEditors().last());
@@ -121,13 +122,10 @@ private slots:
     void closingTakesTheEditorAtOnceOrLater()
     {
         for (const bool bLater : {false, true}) {
-            FakeDocument *pDoc = load("a.kelpa");
-            const QSignalSpy title(m_pWindow.get(), &MainWindow::updateWindowFilePath);
-            emit pDoc->requestClosing(bLater);
+            emit load("a.kelpa")->requestClosing(bLater);
             QVERIFY(m_pFactory->documents.last().isNull());
             QCOMPARE(m_pFactory->editors.last().isNull(), !bLater);
             QTRY_VERIFY(m_pFactory->editors.last().isNull());
-            QCOMPARE(title.first().first().toString(), QString());
         }
     }
 
@@ -144,37 +142,25 @@ private slots:
         connect(pSecond, &IDocument::aboutToClose, this, [=] { emit pFirst->requestClosing(false); });
         QVERIFY(m_pWindow->close());
         QCOMPARE(m_pFactory->deleted.size(), 2);
-        QCOMPARE(bare.calls, QStringList({"close"}));
+        QCOMPARE(bare.calls, QStringList({"close", "aboutToClose"}));
     }
 
-    void drops_data()
+    // The walk through the stage drops projects, also two at once, broken ones and other files.
+    void dropsOfNothingAndInOtherSpellings()
     {
-        const auto row = columns<QStringList, bool, bool, bool>("files", "opens", "consumed", "accepted");
-        row("only the first of two", {"a.KELPA", "b.kelpa"}, true, true, true);
-        row("one that cannot be opened", {"a.kelpa"}, false, true, false);
-        row("no project", {"a.png"}, true, true, false);
-        row("nothing", {}, true, false, false);
-    }
-    void drops()
-    {
-        QFETCH(QStringList, files);
-        QFETCH(bool, opens);
-        QFETCH(bool, accepted);
-        m_pFactory->prepare = [=](FakeDocument *pDoc) { pDoc->bOpenSucceeds = opens; };
-        const FakeFactory second; // never asked
-        QMimeData mime;
-        QList<QUrl> urls;
-        for (const QString &strFile : std::as_const(files))
-            urls.append(QUrl::fromLocalFile(m_pProgram->write(qPrintable(strFile))));
-        mime.setUrls(urls);
-        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        drop.ignore();
-        QObject *pFilter = m_pWindow.get();
-        QTEST(pFilter->eventFilter(m_pWindow->getMdiArea(), &drop), "consumed");
-        QCOMPARE(drop.isAccepted(), accepted);
-        QCOMPARE(EditorManager::getEditors().size(), int(accepted));
-        QCOMPARE(m_pFactory->documents.count(nullptr), int(!opens));
-        QVERIFY(second.documents.isEmpty());
+        const FakeFactory second({"kelpa", "kelpapack"}); // asked for what the first does not know
+        for (const char *pName : {"", "a.KELPA", "b.KelpaPack"}) {
+            QMimeData mime;
+            const bool bFile = *pName;
+            if (bFile)
+                mime.setUrls({QUrl::fromLocalFile(m_pProgram->write(pName))});
+            QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+            drop.ignore();
+            QObject *pFilter = m_pWindow.get();
+            QCOMPARE(pFilter->eventFilter(m_pWindow->getMdiArea(), &drop), bFile);
+            QCOMPARE(drop.isAccepted(), bFile);
+        }
+        QVERIFY(m_pFactory->documents.size() == 1 && second.documents.size() == 1);
     }
 
     void argumentsAreOpenedAfterTheFirstTurn()
@@ -197,20 +183,6 @@ private slots:
         QVERIFY(MainWindow::IsFirstRun());
     }
 
-    void temporaryFolderIsMadeAnewAndLinksInItAreNotFollowed()
-    {
-        const QString strTemp = m_pWindow->getDefaultTempPath();
-        QCOMPARE(QFileInfo(strTemp).fileName(), "ORVEN-Kelpa");
-        QVERIFY(QDir(strTemp).mkpath("deep/.hidden"));
-        const QString strKept = m_pProgram->write("kept");
-        QVERIFY(QFile::link(m_pProgram->folder.path(), strTemp + "/deep/link"));
-        m_pWindow->removeDefaultTempDir();
-        QVERIFY(!QFileInfo::exists(strTemp));
-        QVERIFY(QFileInfo::exists(strKept));
-        QCOMPARE(m_pWindow->getDefaultTempPath(), strTemp);
-        QVERIFY(QFileInfo(strTemp).isDir());
-    }
-
     void welcomeWidgetIsToldEachTimeItIsToBeShown()
     {
         QSignalSpy reset(m_pWindow->getMdiArea(), &IMainMdiArea::resetRecentFiles);
@@ -227,16 +199,46 @@ private slots:
     void theOdditiesOfAStoredListAreKept()
     {
         auto *pRecent = IRecentFilesManager::getInstance();
-        const QString strKey = "Kelpa/RecentProjects";
-        PluginManager::settings()->setValue(strKey, QStringList({"a", "A", "a"}));
+        const auto store = [](const QVariant &list) {
+            PluginManager::settings()->setValue("Kelpa/RecentProjects", list);
+        };
+        store(QStringList({"a", "A", "a"}));
         pRecent->removeFile("a");
-        QCOMPARE(pRecent->getRecentFiles(), QStringList({"A", "a"}));
-        QCOMPARE(pRecent->getCount(), 2);
-        PluginManager::settings()->setValue(strKey, QString("one"));
-        QCOMPARE(pRecent->getRecentFiles(), QStringList({"one"}));
-        PluginManager::settings()->setValue(strKey, QStringList(30, "x"));
-        QCOMPARE(pRecent->getRecentFiles().size(), 10);
-        QCOMPARE(pRecent->getCount(), 10);
+        QVERIFY(recent() == QStringList({"A", "a"}) && pRecent->getCount() == 2);
+        store("one");
+        QCOMPARE(recent(), QStringList("one"));
+        store(QStringList(30, "x"));
+        QVERIFY(recent().size() == 10 && pRecent->getCount() == 10);
+    }
+
+    // What the children of the window find in their destructors, and what listens there.
+    void theWindowGoesInItsOrder()
+    {
+        QStringList log;
+        const QPointer<QWebSocketServer> pServer = m_pWindow->getServer();
+        const auto note = [&](const char *pWhat, QObject *pObject) {
+            connect(pObject, &QObject::destroyed, this, [&log, pServer, pWhat] {
+                log.append(pWhat);
+                log += DocumentManager::getInstance() ? QStringList("documents") : QStringList();
+                log += EditorManager::getInstance() ? QStringList("editors") : QStringList();
+                log += ICore::getInstance() || ICore::getMainWidget() ? QStringList("core") : QStringList();
+                log += pServer && pServer->isListening() ? QStringList("server") : QStringList();
+            });
+        };
+        note("-documents", DocumentManager::getInstance());
+        note("-editors", EditorManager::getInstance());
+        note("-core", ICore::getInstance());
+        note("-channel", m_pWindow->getChannel());
+        note("-server", pServer);
+        note("-area", m_pWindow->getMdiArea());
+        // One that closes its project as the last thing it does.
+        auto *pChild = new QWidget(m_pWindow->getMdiArea());
+        FakeDocument *pDocument = load("a.kelpa");
+        connect(pChild, &QObject::destroyed, this, [=] { emit pDocument->requestClosing(false); });
+        m_pWindow.reset();
+        QCOMPARE(log.join(' '),
+            "-documents editors core server -editors core server -core server -channel -server -area");
+        QVERIFY(m_pFactory->documents.last().isNull());
     }
 
 private:

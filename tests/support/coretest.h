@@ -140,7 +140,11 @@ class FakeDocument : public IDocument
     Q_OBJECT
 
 public:
-    FakeDocument() { setUndoStack(&stack); }
+    FakeDocument()
+    {
+        setUndoStack(&stack);
+        connect(this, &IDocument::aboutToClose, this, [this] { log("aboutToClose"); });
+    }
     ~FakeDocument() override
     {
         if (pDeleted)
