@@ -186,7 +186,15 @@ void MainWindow::removeDefaultTempDir()
 
 void MainWindow::forceQuit()
 {
-    ProjectController::forceCloseAll();
+    const auto &editors = EditorManager::getEditors();
+    const QList<QPointer<IEditor>> watched(editors.cbegin(), editors.cend());
+    for (const QPointer<IEditor> &pEditor : watched) {
+        if (const QPointer<IDocument> pDoc = pEditor ? pEditor->getDocument() : nullptr) {
+            pDoc->close();
+            if (pDoc)
+                emit pDoc->requestClosing(false);
+        }
+    }
     // QCoreApplication::quit() would first ask the windows, and so the user.
     QCoreApplication::exit(0);
 }

@@ -23,6 +23,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMenu>
+#include <QPointer>
 #include <QUndoGroup>
 #include <QUndoStack>
 
@@ -73,10 +74,8 @@ IEditor *addToManagers(IDocument *pDoc, IDocumentFactory *pFactory)
         return nullptr;
     }
     pEditor->setDocument(pDoc);
-    DocumentManager::addDocument(pDoc);
+    DocumentManager::addDocument(pDoc); // and its undo stack to the group
     EditorManager::addEditor(pEditor);
-    if (pDoc->getUndoStack())
-        DocumentManager::getUndoGroup()->addStack(pDoc->getUndoStack());
     return pEditor;
 }
 
@@ -113,6 +112,44 @@ void showEntry(QAction *pAction, const QString &strText, const QString &strPath)
     pAction->setText(strText);
     pAction->setData(strPath);
     pAction->setVisible(true);
+}
+
+void attachNew(IDocumentFactory *pFactory, std::unique_ptr<IDocument> pDoc)
+{
+    IEditor *pEditor = addToManagers(pDoc.get(), pFactory);
+    if (!pEditor)
+        return;
+    const QPointer<IDocument> pNew = pDoc.release(); // its closing deletes it
+    enableSave(true);
+    followStackAndRequests(pNew);
+    EditorManager::activateEditor(pEditor);
+    if (pNew)
+        emit pNew->aboutToOpen();
+    // The history alone would tell that there is nothing to save.
+    if (pNew && !pNew->save() && pNew)
+        enableSave(true);
+    if (pNew)
+        startBackup(pNew);
+}
+
+// Closing one may delete others, so they are watched. Each is shown, and named in the title, before it asks:
+// two projects may have the same name.
+bool closeEach(const QList<QPointer<IDocument>> &documents)
+{
+    for (const QPointer<IDocument> &pDoc : documents) {
+        if (IEditor *pEditor = pDoc ? EditorManager::getEditorOfDocument(pDoc) : nullptr) {
+            EditorManager::activateEditor(pEditor);
+            MainWindow *pWindow = ICore::getMainWindow(); // the one before left no title
+            pWindow->updateActivatedMdiSubFilePath(pWindow->getMdiArea()->activeSubWindow());
+        }
+        if (!pDoc)
+            continue;
+        if (!pDoc->close())
+            return false;
+        if (pDoc)
+            emit pDoc->requestClosing(false);
+    }
+    return true;
 }
 
 } // namespace
@@ -204,24 +241,6 @@ void ProjectController::createDocument(
     updateWelcomeWidget();
 }
 
-void ProjectController::attachNew(IDocumentFactory *pFactory, std::unique_ptr<IDocument> pDoc)
-{
-    IEditor *pEditor = addToManagers(pDoc.get(), pFactory);
-    if (!pEditor)
-        return;
-    const QPointer<IDocument> pNew = pDoc.release(); // its closing deletes it
-    enableSave(true);
-    followStackAndRequests(pNew);
-    EditorManager::activateEditor(pEditor);
-    if (pNew)
-        emit pNew->aboutToOpen();
-    // The history alone would tell that there is nothing to save.
-    if (pNew && !pNew->save() && pNew)
-        enableSave(true);
-    if (pNew)
-        startBackup(pNew);
-}
-
 // Dialogs run inside the calls below, and whatever happens meanwhile may take the document away, or put
 // another in front.
 void ProjectController::save(IDocument *pDocument)
@@ -260,47 +279,14 @@ void ProjectController::close(IDocument *pDocument)
 
 bool ProjectController::closeAll()
 {
-    Documents shown;
+    QList<QPointer<IDocument>> shown;
     for (const IEditor *pEditor : EditorManager::getEditors())
         shown.prepend(pEditor->getDocument());
     if (!closeEach(shown))
         return false;
     // Looked at after the first walk: a project that came in meanwhile is asked too.
     const auto &documents = DocumentManager::getDocuments();
-    return closeEach(Documents(documents.cbegin(), documents.cend()));
-}
-
-// Closing one may delete others, so they are watched. Each is shown, and named in the title, before it asks:
-// two projects may have the same name.
-bool ProjectController::closeEach(const Documents &documents)
-{
-    for (const QPointer<IDocument> &pDoc : documents) {
-        if (IEditor *pEditor = pDoc ? EditorManager::getEditorOfDocument(pDoc) : nullptr) {
-            EditorManager::activateEditor(pEditor);
-            MainWindow *pWindow = ICore::getMainWindow(); // the one before left no title
-            pWindow->updateActivatedMdiSubFilePath(pWindow->getMdiArea()->activeSubWindow());
-        }
-        if (!pDoc)
-            continue;
-        if (!pDoc->close())
-            return false;
-        if (pDoc)
-            emit pDoc->requestClosing(false);
-    }
-    return true;
-}
-
-void ProjectController::forceCloseAll()
-{
-    const auto &editors = EditorManager::getEditors();
-    const QList<QPointer<IEditor>> watched(editors.cbegin(), editors.cend());
-    for (const QPointer<IEditor> &pEditor : watched) {
-        if (const QPointer<IDocument> pDoc = pEditor ? pEditor->getDocument() : nullptr) {
-            pDoc->close();
-            if (pDoc)
-                emit pDoc->requestClosing(false);
-        }
-    }
+    return closeEach({documents.cbegin(), documents.cend()});
 }
 
 // Listeners of the registries may delete either of the two themselves.

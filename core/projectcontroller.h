@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QList>
-#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -40,9 +39,6 @@ public:
     /// first that refuses. What was closed until then stays closed.
     static bool closeAll();
 
-    /// Closes the documents of all editors without regard to the answers.
-    static void forceCloseAll();
-
     /// Takes the document, which asked for it, and its editor out of every registry and deletes both.
     void remove(IDocument *pDocument, bool bDeleteLater);
 
@@ -52,12 +48,8 @@ public:
     void openRecent(const QString &strPath);
 
 private:
-    using Documents = QList<QPointer<IDocument>>;
-
-    static bool closeEach(const Documents &documents);
     void createDocument(IDocumentFactory *pFactory, std::unique_ptr<IDocument> pDoc,
         std::unique_ptr<ICreateDocumentDlg> pDialog);
-    static void attachNew(IDocumentFactory *pFactory, std::unique_ptr<IDocument> pDoc);
     void addRecent(const QString &strPath);
 
     QList<QAction *> m_recentActions; // children of the main window

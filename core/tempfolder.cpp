@@ -4,44 +4,23 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace {
+#include <algorithm>
 
-bool isLink(const QFileInfo &entry)
+// On Windows a link to a folder is a folder of a kind.
+static bool isLink(const QFileInfo &entry)
 {
     return entry.isSymLink() || entry.isJunction();
 }
 
-bool removeRecursively(const QString &strPath);
-
-// A link goes as a link, wherever it leads; on Windows those to folders are folders of a kind.
-bool removeEntry(const QFileInfo &entry)
+// A link goes as a link, wherever it leads. The first failure stops the walk.
+static bool removeAll(const QFileInfo &entry)
 {
     const QString strPath = entry.absoluteFilePath();
-    if (!isLink(entry))
-        return entry.isDir() ? removeRecursively(strPath) : QFile::remove(strPath);
-    return QFile::remove(strPath) || QDir().rmdir(strPath);
-}
-
-// Removes the folder and all in it; the first failure stops the walk.
-bool removeRecursively(const QString &strPath)
-{
-    const QDir dir(strPath);
-    if (isLink(QFileInfo(strPath)) || !dir.exists())
-        return false;
-    const auto entries = dir.entryInfoList(
+    if (isLink(entry) || !entry.isDir())
+        return QFile::remove(strPath) || (isLink(entry) && QDir().rmdir(strPath));
+    const auto entries = QDir(strPath).entryInfoList(
         QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::DirsFirst);
-    for (const QFileInfo &entry : entries) {
-        if (!removeEntry(entry))
-            return false;
-    }
-    return dir.rmdir(dir.absolutePath());
-}
-
-} // namespace
-
-TempFolder::TempFolder(const QString &strName)
-    : m_strName(strName)
-{
+    return std::all_of(entries.begin(), entries.end(), removeAll) && QDir().rmdir(strPath);
 }
 
 QString TempFolder::getPath() const
@@ -54,5 +33,7 @@ QString TempFolder::getPath() const
 
 void TempFolder::remove() const
 {
-    removeRecursively(QDir::temp().absoluteFilePath(m_strName));
+    const QFileInfo folder(QDir::temp(), m_strName);
+    if (!isLink(folder))
+        removeAll(folder);
 }

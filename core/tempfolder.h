@@ -7,7 +7,10 @@
 class TempFolder
 {
 public:
-    explicit TempFolder(const QString &strName);
+    explicit TempFolder(const QString &strName)
+        : m_strName(strName)
+    {
+    }
 
     /// The folder is made if it does not exist; that it could be is not checked.
     [[nodiscard]] QString getPath() const;

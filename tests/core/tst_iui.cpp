@@ -7,6 +7,12 @@
 
 #include <thread>
 
+struct Counted : ISingleton<Counted>
+{
+    Counted() { s_count.ref(); }
+    static inline QAtomicInt s_count;
+};
+
 class tst_IUi : public WindowTest
 {
     Q_OBJECT
@@ -18,22 +24,16 @@ private slots:
         IUi::clearIconCache();
     }
 
-    void scaleArithmetic_data()
-    {
-        const auto row = columns<int, int, int, int>("dpi", "percent", "thirteen", "whole16");
-        row("below one", 72, 75, 9, 16);
-        row("a quarter more is still one whole", 120, 125, 16, 16);
-        row("a hair below one and a half", 143, 148, 19, 16);
-        row("one and a half is two wholes", 144, 150, 19, 32);
-        row("a little over two", 210, 218, 28, 32);
-        row("three and a half is four wholes", 336, 350, 45, 64);
-    }
     void scaleArithmetic()
     {
-        QFETCH(int, dpi);
-        QTEST(DisplayScale::percent(dpi), "percent");
-        QTEST(DisplayScale::proportional(dpi, 13), "thirteen");
-        QTEST(DisplayScale::wholeFactor(dpi, 16), "whole16");
+        // DPI, percent, thirteen pixels and sixteen in whole steps
+        for (const auto &[nDPI, nPercent, nThirteen, nSixteen] :
+            std::initializer_list<std::array<int, 4>> {{72, 75, 9, 16}, {120, 125, 16, 16},
+                {143, 148, 19, 16}, {144, 150, 19, 32}, {210, 218, 28, 32}, {336, 350, 45, 64}}) {
+            QCOMPARE(DisplayScale::percent(nDPI), nPercent);
+            QCOMPARE(DisplayScale::proportional(nDPI, 13), nThirteen);
+            QCOMPARE(DisplayScale::wholeFactor(nDPI, 16), nSixteen);
+        }
     }
 
     void dpiComesFromTheWidgetThenTheMainWindowThenThePrimaryScreen()
@@ -48,31 +48,25 @@ private slots:
         QVERIFY(DisplayScale::logicalDpi() < 144);
     }
 
-    void imageFollowsModeAndScale_data()
-    {
-        const auto row = columns<int, int, QString, QString>("dpi", "mode", "size", "scale");
-        row("smallest", 96, 1, "_12", "");
-        row("menu size at 148 percent", 143, 2, "_16", "");
-        row("menu size at 150 percent", 144, 2, "_16", "_2x");
-        row("32 pixels", 96, 4, "_32", "");
-        row("48 pixels", 192, 5, "_48", "_2x");
-        row("64 pixels", 192, 6, "_64", "_2x");
-        row("mode 0 has no size", 96, 0, "", "");
-        row("mode 7 has no size", 144, 7, "", "_2x");
-        row("negative mode has no size", 96, -1, "", "");
-    }
     void imageFollowsModeAndScale()
     {
-        QFETCH(int, dpi);
-        QFETCH(int, mode);
-        QFETCH(QString, size);
-        QFETCH(QString, scale);
-        m_pWindow->setScreen(screenOf(dpi));
-        writeImage("pic" + size + scale + ".png", 11);
-        writeImage("pic" + size + "_d" + scale + ".png", 7);
-        const QIcon icon = IUi::getIcon("pic", mode, m_pProgram->folder.path());
-        QCOMPARE(icon.availableSizes(QIcon::Normal, QIcon::Off), QList<QSize>({QSize(11, 11)}));
-        QCOMPARE(icon.availableSizes(QIcon::Disabled, QIcon::Off), QList<QSize>({QSize(7, 7)}));
+        const QStringList sizes = {
+            "", "_12", "_16", "_24", "_32", "_48", "_64"}; // by mode, any other has none
+        for (const int nDPI : {96, 143, 144, 192}) {
+            m_pWindow->setScreen(screenOf(nDPI));
+            for (int nMode = -1; nMode <= 7; ++nMode) {
+                const QString strScale = nDPI >= 144 ? "_2x.png" : ".png";
+                const QString strName = QString("pic%1").arg(nMode) + sizes.value(nMode);
+                writeImage(strName + strScale, 11);
+                writeImage(strName + "_d" + strScale, 7);
+                const QIcon icon =
+                    IUi::getIcon(QString("pic%1").arg(nMode), nMode, m_pProgram->folder.path());
+                QCOMPARE(icon.availableSizes(QIcon::Normal, QIcon::Off), QList<QSize>({QSize(11, 11)}));
+                QCOMPARE(icon.availableSizes(QIcon::Disabled, QIcon::Off), QList<QSize>({QSize(7, 7)}));
+                for (const char *pEnd : {"", "_d"})
+                    QVERIFY(QFile::remove(m_pProgram->folder.filePath(strName + pEnd + strScale)));
+            }
+        }
     }
 
     void imageIsLoadedOnceUntilTheCacheIsCleared()
@@ -91,24 +85,13 @@ private slots:
 
     void singletonIsMadeOnceByManyThreads()
     {
-        struct Counted : ISingleton<Counted>
-        {
-            Counted() { count().ref(); }
-            static QAtomicInt &count()
-            {
-                static QAtomicInt s_count;
-                return s_count;
-            }
-        };
-        std::array<Counted *, 16> found {};
-        std::vector<std::thread> threads;
-        for (Counted *&pFound : found)
-            threads.emplace_back([&pFound] { pFound = Counted::getInstance(); });
+        std::array<std::thread, 16> threads;
+        for (std::thread &thread : threads)
+            thread = std::thread([] { static_cast<void>(Counted::getInstance()); });
         for (std::thread &thread : threads)
             thread.join();
-        QCOMPARE(Counted::count().loadRelaxed(), 1);
-        QCOMPARE(std::count(found.begin(), found.end(), found[0]), 16);
-        delete found[0];
+        QCOMPARE(Counted::s_count.loadRelaxed(), 1);
+        delete Counted::getInstance();
     }
 
     void aBoxThatDiesWithItsParentSaysCancel()

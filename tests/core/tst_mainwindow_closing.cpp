@@ -16,37 +16,30 @@ namespace {
 // A project, what the user answers about it, and whether the save that follows succeeds.
 struct Case
 {
-    const char *pName;
     bool bModified;
     bool bTemporary;
     QMessageBox::StandardButton answer;
     bool bSaves;
-    bool bCloses;
 };
 
-constexpr Case s_cases[] = {
-    {"saved", false, false, QMessageBox::NoButton, true, true},
-    {"modified, yes", true, false, QMessageBox::Yes, true, true},
-    {"modified, yes, fails", true, false, QMessageBox::Yes, false, false},
-    {"modified, no", true, false, QMessageBox::No, true, true},
-    {"modified, cancel", true, false, QMessageBox::Cancel, true, false},
-    {"temporary, yes", false, true, QMessageBox::Yes, true, true},
-    {"temporary, yes, no name", false, true, QMessageBox::Yes, false, false},
-    {"temporary, no", false, true, QMessageBox::No, true, true},
-    {"temporary, cancel", true, true, QMessageBox::Cancel, true, false},
-};
+constexpr Case s_cases[] = {{false, false, QMessageBox::NoButton, true},
+    {true, false, QMessageBox::Yes, true}, {true, false, QMessageBox::Yes, false},
+    {true, false, QMessageBox::No, true}, {true, false, QMessageBox::Cancel, true},
+    {false, true, QMessageBox::Yes, true}, {false, true, QMessageBox::Yes, false},
+    {false, true, QMessageBox::No, true}, {true, true, QMessageBox::Cancel, true}};
 
 // When a slot deletes a document.
 enum Moment { Opened, Activated, AboutToClose, ClosingRequested, AboutToDeactivate, Deactivated };
 
-// What must be left after closing the window with three projects.
+// What closing the window with three projects asks and calls, in this order, and what it leaves.
 struct Outcome
 {
-    QStringList deleted; // in this order
-    QStringList boxes;
-    QStringList calls; // of the three, in order of opening
-    QStringList recent;
     bool bClosed = true;
+    QStringList boxes;
+    QList<QMessageBox::StandardButton> answers;
+    QStringList calls;
+    QStringList deleted;
+    QStringList recent;
 };
 
 QString pathOf(int nProject)
@@ -59,39 +52,37 @@ QString keptPathOf(int nProject)
     return QStringLiteral("/p/kept%1.kelpa").arg(nProject);
 }
 
-// One project's part of the outcome; false: it refuses.
-bool expectOne(int nProject, const Case &project, QStringList &calls, Outcome &outcome)
-{
-    calls.append("close");
-    if (project.answer != QMessageBox::NoButton)
-        outcome.boxes.append(QStringLiteral("Save changes made to %1.final?").arg(nProject));
-    if (project.answer == QMessageBox::Yes)
-        calls.append(project.bTemporary ? "saveAs" : "save");
-    if (project.answer == QMessageBox::Yes && !project.bSaves && !project.bTemporary)
-        outcome.boxes.append(QStringLiteral("Could not save project %1.final.").arg(nProject));
-    if (!project.bCloses)
-        return false;
-    calls.append("aboutToClose");
-    if (project.bTemporary)
-        outcome.recent.removeOne(pathOf(nProject));
-    if (project.bTemporary && project.answer == QMessageBox::Yes)
-        outcome.recent.prepend(keptPathOf(nProject));
-    if (project.bTemporary && project.answer == QMessageBox::No)
-        calls.append("cleanTempDir");
-    outcome.deleted.append(
-        project.bTemporary && project.answer == QMessageBox::Yes ? keptPathOf(nProject) : pathOf(nProject));
-    return true;
-}
-
 Outcome expected(const std::array<Case, 3> &projects)
 {
     Outcome outcome;
     outcome.recent = {pathOf(2), pathOf(1), pathOf(0)};
-    std::array<QStringList, 3> calls;
-    for (int i = 2; i >= 0 && outcome.bClosed; --i)
-        outcome.bClosed = expectOne(i, projects.at(std::size_t(i)), calls.at(std::size_t(i)), outcome);
-    for (const QStringList &list : calls)
-        outcome.calls.append(list.join(','));
+    for (int i = 2; i >= 0 && outcome.bClosed; --i) {
+        const Case &project = projects.at(std::size_t(i));
+        const bool bYes = project.answer == QMessageBox::Yes;
+        const bool bKept = project.bTemporary && bYes && project.bSaves;
+        const auto box = [&](const char *pText, QMessageBox::StandardButton answer) {
+            outcome.boxes.append(QString(pText).arg(i));
+            outcome.answers.append(answer);
+        };
+        outcome.calls.append("close");
+        if (project.answer != QMessageBox::NoButton)
+            box("Save changes made to %1.final?", project.answer);
+        if (bYes)
+            outcome.calls.append(project.bTemporary ? "saveAs" : "save");
+        if (bYes && !project.bSaves && !project.bTemporary)
+            box("Could not save project %1.final.", QMessageBox::Ok);
+        outcome.bClosed = project.answer != QMessageBox::Cancel && project.bSaves;
+        if (!outcome.bClosed)
+            break;
+        outcome.calls.append("aboutToClose");
+        if (project.bTemporary)
+            outcome.recent.removeOne(pathOf(i));
+        if (bKept)
+            outcome.recent.prepend(keptPathOf(i));
+        else if (project.bTemporary)
+            outcome.calls.append("cleanTempDir");
+        outcome.deleted.append(bKept ? keptPathOf(i) : pathOf(i));
+    }
     return outcome;
 }
 
@@ -104,14 +95,17 @@ class tst_MainWindowClosing : public DocumentTest
 private slots:
     void everyCombinationOfThreeProjects()
     {
-        for (int i = 0; i < 9 * 9 * 9; ++i) {
-            const std::array<Case, 3> projects {s_cases[i / 81], s_cases[i / 9 % 9], s_cases[i % 9]};
-            closeWith(projects);
-            if (QTest::currentTestFailed()) {
-                qInfo("with: %s; %s; %s", projects[0].pName, projects[1].pName, projects[2].pName);
-                return;
-            }
-            clear();
+        for (int i = 0; i < 9 * 9 * 9 && !QTest::currentTestFailed(); ++i) {
+            closeWith({s_cases[i / 81], s_cases[i / 9 % 9], s_cases[i % 9]});
+            if (QTest::currentTestFailed())
+                qInfo("with the cases %d, %d and %d", i / 81, i / 9 % 9, i % 9);
+            const auto documents = DocumentManager::getDocuments();
+            for (IDocument *pDoc : documents)
+                emit pDoc->requestClosing(false);
+            m_pFactory->documents.clear();
+            m_pFactory->editors.clear();
+            m_pFactory->deleted.clear();
+            PluginManager::settings()->clear();
         }
     }
 
@@ -240,84 +234,50 @@ private slots:
 #endif
 
 private:
-    void loadAs(int nProject, const Case &project)
-    {
-        m_pFactory->prepare = [&](FakeDocument *pDoc) {
-            pDoc->bSaveSucceeds = project.bSaves;
-            pDoc->strSaveAsName = keptPathOf(nProject);
-        };
-        m_pWindow->loadFile(pathOf(nProject));
-        FakeDocument *pDoc = m_pFactory->documents.last();
-        pDoc->setIsTempDocument(project.bTemporary);
-        if (project.bModified)
-            pDoc->modify();
-    }
-
     void closeWith(const std::array<Case, 3> &projects)
     {
-        QList<QMessageBox::StandardButton> answers;
+        const Outcome outcome = expected(projects);
+        QStringList calls;
         for (int i = 0; i < 3; ++i) {
+            m_pWindow->loadFile(pathOf(i));
+            FakeDocument *pDoc = m_pFactory->documents.last();
             const Case &project = projects.at(std::size_t(i));
-            loadAs(i, project);
-            QList<QMessageBox::StandardButton> own;
-            if (project.answer != QMessageBox::NoButton)
-                own.append(project.answer);
-            if (!project.bTemporary && !project.bSaves)
-                own.append(QMessageBox::Ok);
-            answers = own + answers;
+            pDoc->bSaveSucceeds = project.bSaves;
+            pDoc->strSaveAsName = keptPathOf(i);
+            pDoc->setIsTempDocument(project.bTemporary);
+            if (project.bModified)
+                pDoc->modify();
+            pDoc->pCalls = &calls;
         }
         m_pWindow->show();
         EditorManager::activateEditor(EditorManager::getEditors().first());
         QFile working(m_pWindow->getDefaultTempPath() + "/scratch");
         QVERIFY(working.open(QIODevice::WriteOnly));
         const QSignalSpy saving(ICore::getInstance(), &ICore::aboutToSaveSettings);
-        const BoxAnswers boxes(answers);
-        QStringList calls;
-        std::array<QStringList, 3> log;
-        const auto documents = m_pFactory->documents;
-        for (std::size_t i = 0; i < 3; ++i)
-            documents.at(int(i))->pCalls = &log.at(i);
-        const bool bClosed = m_pWindow->close();
-        for (const QStringList &list : log)
-            calls.append(list.join(','));
-        for (const auto &pDoc : documents) {
+        const BoxAnswers boxes(outcome.answers);
+        QCOMPARE(m_pWindow->close(), outcome.bClosed);
+        for (const auto &pDoc : std::as_const(m_pFactory->documents)) {
             if (pDoc)
                 pDoc->pCalls = nullptr;
         }
-
-        const Outcome outcome = expected(projects);
-        QCOMPARE(bClosed, outcome.bClosed);
         QCOMPARE(m_pWindow->isVisible(), !outcome.bClosed);
         QCOMPARE(working.exists(), !outcome.bClosed);
         QCOMPARE(saving.count(), 1);
         QCOMPARE(m_pFactory->deleted, outcome.deleted);
         QCOMPARE(boxes.texts(), outcome.boxes);
         for (const auto &box : boxes.boxes) {
+            const bool bAsks = box.text.startsWith("Save");
             QVERIFY(box.title == "Kelpa Studio" && box.pParent == m_pWindow.get());
-            if (box.text.startsWith("Save"))
-                QCOMPARE(box.buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-            QCOMPARE(box.defaultButton, box.text.startsWith("Save") ? QMessageBox::Yes : QMessageBox::Ok);
+            QCOMPARE(box.buttons,
+                bAsks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel : QMessageBox::Ok);
+            QCOMPARE(box.defaultButton, bAsks ? QMessageBox::Yes : QMessageBox::Ok);
         }
         QCOMPARE(calls, outcome.calls);
         QCOMPARE(recent(), outcome.recent);
-        QCOMPARE(EditorManager::getEditors().size(), 3 - outcome.deleted.size());
-        QCOMPARE(
-            EditorManager::activeEditor(), EditorManager::getEditors().value(2 - outcome.deleted.size()));
-        QCOMPARE(DocumentManager::getDocuments().size(), 3 - outcome.deleted.size());
-    }
-
-    void clear()
-    {
-        const auto documents = DocumentManager::getDocuments();
-        for (IDocument *pDoc : documents)
-            emit pDoc->requestClosing(false);
-        // Documents that were deleted without a request to close have left their editors.
-        for (const auto &pEditor : std::as_const(m_pFactory->editors))
-            delete pEditor;
-        m_pFactory->documents.clear();
-        m_pFactory->editors.clear();
-        m_pFactory->deleted.clear();
-        PluginManager::settings()->clear();
+        const auto nLeft = 3 - outcome.deleted.size();
+        QCOMPARE(EditorManager::getEditors().size(), nLeft);
+        QCOMPARE(EditorManager::activeEditor(), EditorManager::getEditors().value(nLeft - 1));
+        QCOMPARE(DocumentManager::getDocuments().size(), nLeft);
     }
 };
 

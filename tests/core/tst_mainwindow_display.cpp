@@ -82,6 +82,58 @@ private slots:
         QTRY_COMPARE(changed.count(), 1);
     }
 
+    // The screens here have nothing reserved, as with a task bar that hides itself.
+    void aMaximizedWindowLeavesALineAndComesBack()
+    {
+        m_pWindow->show();
+        const QRect normal = m_pWindow->geometry();
+        m_pWindow->showMaximized();
+        QTRY_COMPARE(m_pWindow->size(), m_pWindow->screen()->availableSize() - QSize(0, 1));
+        QVERIFY(m_pWindow->isMaximized());
+        QCOMPARE(m_pWindow->normalGeometry(), normal);
+        QMainWindow other;
+        QVERIFY(other.restoreGeometry(m_pWindow->saveGeometry()));
+        QCOMPARE(other.normalGeometry(), normal);
+        m_pWindow->showNormal();
+        QTRY_COMPARE(m_pWindow->geometry(), normal);
+        QVERIFY(!m_pWindow->isMaximized());
+        m_pWindow->setGeometry(m_pWindow->screen()->geometry()); // as by hand
+        QTRY_VERIFY(m_pWindow->isMaximized());
+        m_pWindow->resize(300, 200);
+        QCOMPARE(m_pWindow->size(), QSize(300, 200));
+    }
+
+    void theWindowsIconIsWhatItsFileHolds()
+    {
+        QMap<int, QImage> images;
+        QImageReader reader(":/app/images/app_icon.ico");
+        for (int i = 0; i < reader.imageCount() && reader.jumpToImage(i); ++i) {
+            const QImage image = reader.read();
+            images.insert(image.width(), image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        }
+        QIcon icon = m_pWindow->windowIcon();
+        QList<QSize> sizes;
+        for (const int nSide : images.keys())
+            sizes += nSide <= 128 ? QList<QSize> {QSize(nSide, nSide)} : QList<QSize>();
+        QCOMPARE(icon.availableSizes(), sizes);
+        for (const int nSide : {10, 16, 20, 128, 200, 256, 300}) {
+            const int nSource = images.contains(nSide) ? nSide
+                : nSide > 256                          ? 256
+                                                       : images.upperBound(nSide).key();
+            const QSize size(qMin(nSide, 256), qMin(nSide, 256));
+            QCOMPARE(icon.actualSize(QSize(nSide, nSide + 7)), size);
+            const QImage expected =
+                images.value(nSource).scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            QCOMPARE(icon.pixmap(QSize(nSide, nSide)).toImage(), expected);
+            QImage painted(nSide + 40, nSide, expected.format());
+            painted.fill(Qt::transparent);
+            QPainter painter(&painted);
+            icon.paint(&painter, painted.rect());
+            const QPoint corner(20 + (nSide - size.width()) / 2, (nSide - size.height()) / 2);
+            QCOMPARE(painted.copy(QRect(corner, size)), expected);
+        }
+    }
+
     void help_data()
     {
         const auto row = columns<QString, QStringList, QString, bool, QStringList>(

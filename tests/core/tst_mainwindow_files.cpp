@@ -4,6 +4,7 @@
 #include <icore.h>
 #include <ui/imainmdiarea.h>
 
+#include <QNetworkProxyFactory>
 #include <QUndoGroup>
 #include <QWebChannel>
 #include <QWebSocketServer>
@@ -172,6 +173,31 @@ private slots:
         QCOMPARE(extsInitialized.count(), 1);
         QVERIFY(m_pFactory->documents.isEmpty());
         QTRY_COMPARE(EditorManager::getEditors().size(), 2);
+    }
+
+    void theWindowIsSetUpAsDesigned()
+    {
+        const IMainMdiArea *pArea = m_pWindow->getMdiArea();
+        QCOMPARE(m_pWindow->windowFlags() & ~Qt::WindowFullscreenButtonHint,
+            Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
+        QVERIFY(m_pWindow->acceptDrops() && !m_pWindow->statusBar()->isSizeGripEnabled());
+        QCOMPARE(m_pWindow->contentsMargins(), QMargins(1, 1, 1, 1));
+        QVERIFY(pArea->viewMode() == QMdiArea::TabbedView && pArea->documentMode());
+        QVERIFY(pArea->horizontalScrollBarPolicy() == Qt::ScrollBarAsNeeded && !pArea->windowIcon().isNull());
+        QVERIFY(pArea->verticalScrollBarPolicy() == Qt::ScrollBarAsNeeded);
+        QVERIFY(pArea->focusPolicy() == Qt::ClickFocus && m_pWindow->centralWidget() == pArea);
+        const auto *pTabs = pArea->findChild<QTabBar *>();
+        QVERIFY(!pTabs->expanding() && pTabs->tabsClosable() && pTabs->font().bold() && !pTabs->drawBase());
+        const QWebSocketServer *pServer = m_pWindow->getServer();
+        QVERIFY(pServer->isListening() && pServer->serverAddress() == QHostAddress::LocalHost);
+        QCOMPARE(pServer->serverName(), "KPServer");
+        QVERIFY(QNetworkProxyFactory::usesSystemConfiguration());
+        auto *pLeft = new QDockWidget, *pRight = new QDockWidget, *pOther = new QDockWidget;
+        m_pWindow->addDockWidget(Qt::RightDockWidgetArea, pRight);
+        m_pWindow->addDockWidget(Qt::LeftDockWidgetArea, pLeft);
+        m_pWindow->addDockWidget(Qt::RightDockWidgetArea, pOther);
+        QCOMPARE(m_pWindow->getListDockWidgetsByArea(Qt::RightDockWidgetArea),
+            QList<QDockWidget *>({pRight, pOther}));
     }
 
     void laterRunsKnowThemByTheDesignersSettings()
