@@ -47,7 +47,7 @@ public:
     /// Always true; the text of an error stays as it is.
     bool init(QString *) { return true; }
 
-    /// Shows the window, maximised on the first run, and opens the projects on the command line in the next
+    /// Shows the window, maximized on the first run, and opens the projects on the command line in the next
     /// turn of the event loop.
     void extensionsInitialized();
     void aboutToShutdown() { }
@@ -96,7 +96,7 @@ public:
 
     [[nodiscard]] QList<QDockWidget *> getListDockWidgetsByArea(Qt::DockWidgetArea area) const;
 
-    /// As those of QWidget, but a maximised window keeps the place it had before, whatever was done to it to
+    /// As those of QWidget, but a maximized window keeps the place it had before, whatever was done to it to
     /// leave room for a task bar that hides itself.
     [[nodiscard]] QRect normalGeometry() const;
     [[nodiscard]] QByteArray saveGeometry() const;
@@ -126,7 +126,7 @@ public slots:
     /// Makes the menu of recent projects follow the stored list.
     void updateRecentFileActions();
 
-    /// Brings the window to the front; a minimised one is restored.
+    /// Brings the window to the front; a minimized one is restored.
     void raiseUp();
     void openFilesPassedAsArguments();
     void fileNew();
@@ -212,7 +212,7 @@ private:
     QPointer<IOptionsDlg> m_pOptionsDlg;
     int m_nDisplayScale = 0;
     QTimer m_dpiCheckTimer;
-    QRect m_normalGeometry; // of a maximised window that was made a line lower
+    QRect m_normalGeometry; // of a maximized window that was made a line lower
     QMetaObject::Connection m_screenScale;
     std::map<QString, QString> m_themedIcons; // icon name by command id
     std::unique_ptr<ProjectController> m_pProjects;

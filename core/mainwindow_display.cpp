@@ -199,7 +199,7 @@ void MainWindow::followMaximized(bool bByProgram)
         m_pTitleBar->updateMaximized(isMaximized());
     if (windowState() & s_notNormal)
         return;
-    // A window manager may take the resize for the end of the maximised state, which then comes again.
+    // A window manager may take the resize for the end of the maximized state, which then comes again.
     if (bByProgram)
         giveNormalGeometryBack();
     else

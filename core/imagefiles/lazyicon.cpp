@@ -68,7 +68,7 @@ private:
         return m_entries;
     }
 
-    // Reserved, type, count; then for each image width, height, colours, reserved, planes, bits, length and
+    // Reserved, type, count; then for each image width, height, colors, reserved, planes, bits, length and
     // offset. A side of 256 is written as 0.
     void readDirectory()
     {

@@ -56,7 +56,7 @@ private slots:
                 QCOMPARE(disabled.size(), QSize(nPixels, nPixels));
                 QVERIFY2(inkOf(disabled) > 0, "blank image");
                 QVERIFY2(inkOf(disabled) < inkOf(normal) / 2, "the disabled image is not dimmed");
-                QVERIFY2(disabled.allGray(), "the disabled image has colours");
+                QVERIFY2(disabled.allGray(), "the disabled image has colors");
             }
         }
     }

@@ -30,9 +30,9 @@ private slots:
     {
         const auto row = columns<QByteArray, bool>("bytes", "valid");
         const QByteArray deep = png(filled(3, 0xffa0c0e0, QImage::Format_RGBA64));
-        row("sixteen bits for each colour", deep, true);
+        row("sixteen bits for each color", deep, true);
         row("half transparent", png(filled(3, 0x80ff4020)), true);
-        row("a palette with a transparent colour", png(filled(2, 0, QImage::Format_Indexed8)), true);
+        row("a palette with a transparent color", png(filled(2, 0, QImage::Format_Indexed8)), true);
         row("gray", png(filled(5, 0xff909090, QImage::Format_Grayscale8)), true);
         row("interlaced", // two by two, gray
             QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000000200000002080000000120da62"
