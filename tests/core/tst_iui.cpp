@@ -124,16 +124,20 @@ private slots:
         QString strShown;
         int nWidth = 0;
         int nWidestClipped = 0;
+        Qt::TextFormat informativeFormat = Qt::AutoText;
         QTimer::singleShot(0, this, [&] {
             auto *pBox = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             nWidth = pBox->width();
             strShown = pBox->text().remove(QChar(0x200B));
+            informativeFormat = pBox->findChild<QLabel *>("qt_msgbox_informativelabel")->textFormat();
             for (const QAbstractButton *pButton : pBox->buttons())
                 nWidestClipped = qMax(nWidestClipped, pButton->sizeHint().width() - pButton->width());
             pBox->done(-1);
         });
-        IUi::information(nullptr, "Kelpa Studio", strPath);
+        IUi::information(
+            nullptr, "Kelpa Studio", strPath, QMessageBox::Ok, QMessageBox::Ok, "<i>informative</i>");
         QCOMPARE(strShown, strPath);
+        QCOMPARE(informativeFormat, Qt::PlainText);
         QVERIFY2(nWidth > 100 && nWidth <= 1280, qPrintable(QString::number(nWidth)));
         QVERIFY(nWidestClipped <= 0);
     }
