@@ -90,6 +90,8 @@ private slots:
         m_pWindow->showMaximized();
         QTRY_COMPARE(m_pWindow->size(), m_pWindow->screen()->availableSize() - QSize(0, 1));
         QVERIFY(m_pWindow->isMaximized());
+        const auto *pButton = m_pWindow->findChild<QPushButton *>("maximizeButton");
+        QCOMPARE(pButton->toolTip(), "Restore Down");
         QCOMPARE(m_pWindow->normalGeometry(), normal);
         QMainWindow other;
         QVERIFY(other.restoreGeometry(m_pWindow->saveGeometry()));
@@ -97,6 +99,7 @@ private slots:
         m_pWindow->showNormal();
         QTRY_COMPARE(m_pWindow->geometry(), normal);
         QVERIFY(!m_pWindow->isMaximized());
+        QCOMPARE(pButton->toolTip(), "Maximize");
         m_pWindow->setGeometry(m_pWindow->screen()->geometry()); // as by hand
         QTRY_VERIFY(m_pWindow->isMaximized());
         m_pWindow->resize(300, 200);
