@@ -66,7 +66,10 @@ bool hasSum(const QString &strSha256, const QByteArray &content)
 bool readWhole(const QString &strFileName, QByteArray *pContent, QString *pReason)
 {
     QFile file(strFileName);
-    const bool bOpen = file.open(QIODevice::ReadOnly);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *pReason = file.errorString();
+        return false;
+    }
     const qint64 nSize = file.size();
     if (nSize > InstallerCheck::LargestSize) {
         *pReason = Texts::tr("it is larger than %1 bytes").arg(InstallerCheck::LargestSize);
@@ -74,7 +77,7 @@ bool readWhole(const QString &strFileName, QByteArray *pContent, QString *pReaso
     }
     *pContent = file.read(nSize);
     *pReason = file.errorString();
-    return bOpen && file.error() == QFileDevice::NoError;
+    return file.error() == QFileDevice::NoError;
 }
 
 // A missing store is fine. One that exists but cannot be read may hold a key that we do not see.
