@@ -76,7 +76,8 @@ endfunction()
 
 # kelpa_add_test(<name> SOURCES ... LIBRARIES ... [RUN_SERIAL] [ON_DISPLAY]): one QtTest program, run off screen
 # in a folder of its own that stands for the home, settings and temporary folders. ON_DISPLAY: with the real
-# windows of the platform, on an X display of its own with a window manager.
+# windows of the platform, on an X display of its own with a window manager. A warning that it does not expect
+# fails it.
 function(kelpa_add_test name)
     cmake_parse_arguments(ARG "RUN_SERIAL;ON_DISPLAY" "" "SOURCES;LIBRARIES" ${ARGN})
     kelpa_find_qt_test()
@@ -92,6 +93,7 @@ function(kelpa_add_test name)
         BUILD_WITH_INSTALL_RPATH OFF)
     set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home}/run)
+    file(CHMOD ${home}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     set(platform offscreen)
     set(command ${name}) # where that runs under an emulator, it brings the display
     if(ARG_ON_DISPLAY AND WIN32)
@@ -100,10 +102,13 @@ function(kelpa_add_test name)
         set(platform xcb)
         set(command ${CMAKE_SOURCE_DIR}/tests/support/with_display.sh $<TARGET_FILE:${name}>)
     endif()
+    # All but "This plugin does not support ..." and "No suitable graphics backend", which the platform says.
+    set(unexpected "QWARN  : [^\n]*\\) ([^TN]|T[^h]|N[^o])" "QCRITICAL:" "QSYSTEM:" "QFATAL :")
     add_test(NAME ${name} COMMAND ${command})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         RUN_SERIAL ${ARG_RUN_SERIAL}
+        FAIL_REGULAR_EXPRESSION "${unexpected}"
         ENVIRONMENT "QT_QPA_PLATFORM=${platform};QT_ENABLE_HIGHDPI_SCALING=0;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_DATA_HOME=${home}/.local/share;XDG_RUNTIME_DIR=${home}/run;TMPDIR=${home}/run;LC_ALL=C.UTF-8")
     if(ARG_ON_DISPLAY)
         # The keyboard library of X duplicates strings of given length, which strict checks take for an overrun.

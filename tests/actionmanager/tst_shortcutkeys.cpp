@@ -40,9 +40,13 @@ private slots:
             QTRY_COMPARE(fired(), expected);
         }
         // What its context disables does not fire, nor does the global one for it.
+        Registered next("Edit.Next", m_program.window());
+        next.pCommand->setDefaultKeySequence(keys("Ctrl+H"));
         left.action.setEnabled(false);
         focus(m_pLeft);
         press("Ctrl+G");
+        press("Ctrl+H"); // the keys before it have arrived when it fires
+        QTRY_COMPARE(next.nFired, 1);
         focus(m_pRight);
         press("Ctrl+G");
         expected[1] = 2;

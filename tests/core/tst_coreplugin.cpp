@@ -86,6 +86,7 @@ private slots:
         const QString strFile = m_pProgram->filePath("user.ini");
         QVERIFY(ILanguageManager::getInstance().saveLanguage("en_US"));
         QVERIFY(QFile::remove(strFile) && QDir().mkpath(strFile));
+        expectWarning("Settings " + strFile + ": it is a folder, not a file");
         QVERIFY(!ILanguageManager::getInstance().saveLanguage("en_US"));
         QCOMPARE(told(), QString("The settings in %1 cannot be read or written.").arg(strFile));
     }
@@ -102,8 +103,10 @@ private slots:
         const auto fileNew = [] {
             return ActionManager::getAction("File.New")->getAction()->trigger(), true;
         };
+        expectWarning("File.New failed: exception: no ink");
         QVERIFY(!PluginManager::deliver(&event, fileNew) && !event.isAccepted());
         QCOMPARE(told(), "\"New\" failed: exception: no ink");
+        expectWarning("An event failed: exception of unknown type");
         PluginManager::deliver(&event, [] { return throw 7, true; });
         QCOMPARE(told(), "Something failed: exception of unknown type");
 

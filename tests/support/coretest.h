@@ -11,6 +11,7 @@
 #include <extensionsystem/pluginmanager.h>
 #include <support/rows.h>
 #include <ui/icreatedocumentdlg.h>
+#include <ui/webviewloader.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -37,6 +38,15 @@ public:
     QTemporaryDir folder;
     ExtensionSystem::PluginManager manager;
 };
+
+/// To be called first in tests of what shows web pages in a program without the browser engine, which it says
+/// once.
+inline void expectNoEngine()
+{
+    QWidget parent;
+    expectWarning("Web pages cannot be shown: ");
+    WebViewLoader::createView(WebAccess::Web, &parent);
+}
 
 inline QByteArray contentOf(const QString &strFileName)
 {

@@ -192,6 +192,7 @@ private slots:
         m_pDesktop.reset();
         const QString strPath = write(s_unicode + ".kelpa");
         BoxAnswers boxes({QMessageBox::Ok});
+        expectWarning("This plugin does not support QPlatformServices::openDocument()");
         m_pBridge->showInExplorer(strPath);
         QCOMPARE(boxes.texts(), QStringList("Could not open file " + strPath + '.'));
     }

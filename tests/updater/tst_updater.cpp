@@ -16,7 +16,11 @@ class tst_Updater : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QGuiApplication::setQuitOnLastWindowClosed(false); }
+    void initTestCase()
+    {
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        expectNoEngine();
+    }
 
     void wholeRoadEndsWithTheInstallerOpenedAndTheProgramLeft()
     {

@@ -58,7 +58,11 @@ class tst_Updates : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QGuiApplication::setQuitOnLastWindowClosed(false); }
+    void initTestCase()
+    {
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        expectNoEngine();
+    }
 
     void askedCheckAlwaysAnswers_data()
     {
@@ -281,6 +285,7 @@ private slots:
         manager.setMessageSink([](PluginManager::Message, const QString &) {});
         const QStringList command {
             "kelpastudio", "--settings-path", home.path(), "--plugin-path", home.path(), "--new-instance"};
+        expectWarning("phase resolve: needs core 1.0.0, which is missing");
         QCOMPARE(manager.start(command), std::optional<int>(1));
         const QString strAbout = AboutDialog(nullptr).text();
         QVERIFY2(strAbout.contains("updates\t1.0.0\tFailed\tneeds core 1.0.0"), qPrintable(strAbout));

@@ -10,6 +10,8 @@ class tst_WelcomeWidget : public WelcomeTest
     Q_OBJECT
 
 private slots:
+    void initTestCase() { expectNoEngine(); }
+
     void nothingIsLoadedForAPageThatIsNotShown()
     {
         m_pWindow->setVisibleWelcomeWidget(true);
