@@ -50,6 +50,9 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(bool, valid);
+        // Builds for Windows have no PNG reader but Qt's, which says so.
+        if (QSysInfo::kernelType() == "winnt" && QByteArray(QTest::currentDataTag()).startsWith("larger"))
+            expectWarning("exceeds the current allocation limit");
         const QImage image = IUi::getPixmap(write("image", bytes), 0, false, m_folder.path()).toImage();
         QCOMPARE(!image.isNull(), valid);
         const QImage expected = valid ? QImage::fromData(bytes) : QImage();
